@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+//
+// What all items that only show have in common: making, resetting, showing, drawing and freeing
+// them by the table of their kinds.
+#include "item.hpp"
+
+#include "../gui/chain.hpp"
+
+namespace {
+
+// In the order of DI_TYPE; a kind that is not offered has an empty row.
+constexpr kul::DIKind kDIKinds[LABEL + 1] = {};
+
+constexpr int kChanged = 0;
+constexpr int kDrawn = -1;
+
+void drawItem(GUI* thisGUI, const DI& item)
+{
+    const kul::DIKind* kind = kul::diKind(item.nType);
+    if (kind && item.Pointer)
+        kind->show(thisGUI, item.Pointer);
+}
+
+} // namespace
+
+namespace kul {
+
+const DIKind* diKind(int nType)
+{
+    const bool known = nType >= 0 && nType <= LABEL && kDIKinds[nType].allocate;
+    return known ? &kDIKinds[nType] : nullptr;
+}
+
+DI* findDINode(int nChain, int nRef, DI_TYPE type)
+{
+    DI* di = GetDIComponentByRef(nChain, nRef);
+    return di && di->nType == type && di->Pointer ? di : nullptr;
+}
+
+int createDI(int nChain, int nRef, DI_TYPE type)
+{
+    if (CheckDICompExistence(nChain, nRef) != -1)
+        return kDIKinds[type].nTaken;
+    return CreateDIComponent(nChain, type, nRef);
+}
+
+} // namespace kul
+
+int AttachComponentToDI(DI* thisDI, int nType)
+{
+    const kul::DIKind* kind = kul::diKind(nType);
+    if (!thisDI || !kind)
+        return -1;
+    thisDI->Pointer = kind->allocate();
+    return thisDI->Pointer ? 0 : -1;
+}
+
+int ConfigDIComponent(int nChain, int nRef)
+{
+    DI* di = GetDIComponentByRef(nChain, nRef);
+    if (!di)
+        return -1;
+    di->nUpdate = 1;
+    const kul::DIKind* kind = kul::diKind(di->nType);
+    if (!kind || !di->Pointer)
+        return -1;
+    kind->drop(di->Pointer);
+    return kind->config(kul::findDialog(nChain), di->Pointer);
+}
+
+int SetDIVisibility(int nChain, int nRef, int nVisible)
+{
+    if (DI* di = GetDIComponentByRef(nChain, nRef)) {
+        const kul::DIKind* kind = kul::diKind(di->nType);
+        di->nUpdate = kChanged;
+        if (kind && di->Pointer)
+            kind->visible(di->Pointer) = nVisible;
+    }
+    return -1;
+}
+
+int UpdateDIComponent(int nChain, int nRef)
+{
+    DI* di = GetDIComponentByRef(nChain, nRef);
+    if (!di)
+        return -1;
+    di->nUpdate = 1;
+    const kul::DIKind* kind = kul::diKind(di->nType);
+    return kind && di->Pointer ? kind->update(kul::findDialog(nChain), di->Pointer) : -1;
+}
+
+void ShowDisplayComponents(GUI* thisGUI)
+{
+    for (DI* di = thisGUI ? thisGUI->Display : nullptr; di; di = di->Next)
+        drawItem(thisGUI, *di);
+}
+
+void UpdateDisplayComponents(GUI* thisGUI)
+{
+    for (DI* di = thisGUI ? thisGUI->Display : nullptr; di; di = di->Next) {
+        if (di->nUpdate != kChanged)
+            continue;
+        drawItem(thisGUI, *di);
+        di->nUpdate = kDrawn;
+    }
+}
+
+int WipeAllDIComponents(DI* firstDI)
+{
+    int nResult = -1;
+    for (DI* di = firstDI; di; di = di->Next) {
+        const kul::DIKind* kind = kul::diKind(di->nType);
+        nResult = kind ? kind->wipe(di->Pointer) : -1;
+        if (nResult != 0)
+            break;
+        di->Pointer = nullptr;
+    }
+    return nResult;
+}

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+//
+// Frames, lines and fills. Everything is made of runs of equal cells, one call of curses each.
+#include "draw.hpp"
+
+namespace {
+
+constexpr int kNoMark = -1;
+int nMarked = kNoMark;
+
+using Run = void (*)(WINDOW*, int, int, long long, chtype);
+
+void coloredRun(Run run, WINDOW* win, int nY, int nX, long long nCount, int nColorSet,
+                chtype character)
+{
+    const kul::Attribute color(win, nColorSet);
+    run(win, nY, nX, nCount, character);
+}
+
+void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
+{
+    const long long first = std::max<long long>(nY, 0);
+    const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), getmaxy(win));
+    for (long long row = first; row < last; ++row)
+        kul::hRun(win, static_cast<int>(row), nX, nWidth, ' ');
+}
+
+// Fills in reverse video and leaves the window without attributes.
+void fillReversed(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nColorSet)
+{
+    if (!win)
+        return;
+    wattrset(win, static_cast<int>(A_REVERSE));
+    Fill(win, nY, nX, nHeight, nWidth, nColorSet);
+    wattrset(win, static_cast<int>(A_NORMAL));
+}
+
+} // namespace
+
+namespace kul {
+
+Attribute::Attribute(WINDOW* win, int nColorSet)
+    : win_(win), attribute_(static_cast<attr_t>(rawAttribute(nColorSet)))
+{
+    if (nColorSet == nMarked)
+        attribute_ |= A_REVERSE;
+    wattr_on(win_, attribute_, nullptr);
+}
+
+Attribute::~Attribute()
+{
+    wattr_off(win_, attribute_, nullptr);
+}
+
+FocusMark::FocusMark(int nColorSet)
+{
+    nMarked = has_colors() ? kNoMark : nColorSet;
+}
+
+FocusMark::~FocusMark()
+{
+    nMarked = kNoMark;
+}
+
+void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
+{
+    const long long first = std::max<long long>(nX, 0);
+    const long long last = std::min<long long>(nX + nCount, getmaxx(win));
+    if (first < last)
+        mvwhline(win, nY, static_cast<int>(first), character, static_cast<int>(last - first));
+}
+
+void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
+{
+    const long long first = std::max<long long>(nY, 0);
+    const long long last = std::min<long long>(nY + nCount, getmaxy(win));
+    if (first < last)
+        mvwvline(win, static_cast<int>(first), nX, character, static_cast<int>(last - first));
+}
+
+} // namespace kul
+
+void DrawBorder(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nBackColor)
+{
+    const kul::Attribute color(win, nBackColor);
+    const int nBottom = kul::shifted(nY, nHeight - 1LL);
+    const int nRight = kul::shifted(nX, nWidth - 1LL);
+    mvwaddch(win, nY, nX, ACS_ULCORNER);
+    mvwaddch(win, nY, nRight, ACS_URCORNER);
+    mvwaddch(win, nBottom, nX, ACS_LLCORNER);
+    mvwaddch(win, nBottom, nRight, ACS_LRCORNER);
+    kul::hRun(win, nY, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
+    kul::hRun(win, nBottom, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
+    kul::vRun(win, kul::shifted(nY, 1), nX, nHeight - 2LL, ACS_VLINE);
+    kul::vRun(win, kul::shifted(nY, 1), nRight, nHeight - 2LL, ACS_VLINE);
+}
+
+void DrawHLine(WINDOW* win, int nY, int nX, int nWidth, int nColorSet)
+{
+    coloredRun(kul::hRun, win, nY, nX, nWidth + 1LL, nColorSet, ACS_HLINE);
+}
+
+void DrawVLine(WINDOW* win, int nY, int nX, int nHeight, int nColorSet)
+{
+    coloredRun(kul::vRun, win, nY, nX, nHeight + 1LL, nColorSet, ACS_VLINE);
+}
+
+void DrawThickHLine(WINDOW* win, int nY, int nX, int nWidth, int nColorSet)
+{
+    coloredRun(kul::hRun, win, nY, nX, nWidth + 1LL, nColorSet, ACS_CKBOARD);
+}
+
+void DrawThickVLine(WINDOW* win, int nY, int nX, int nHeight, int nColorSet)
+{
+    coloredRun(kul::vRun, win, nY, nX, nHeight + 1LL, nColorSet, ACS_CKBOARD);
+}
+
+void DrawHTeeLine(WINDOW* win, int nTee, int nX, int nWidth, int nBackColor)
+{
+    const kul::Attribute color(win, nBackColor);
+    mvwaddch(win, nTee, nX, ACS_LTEE);
+    mvwaddch(win, nTee, kul::shifted(nX, nWidth - 1LL), ACS_RTEE);
+    kul::hRun(win, nTee, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
+}
+
+void DrawVTeeLine(WINDOW* win, int nY, int nTee, int nHeight, int nBackColor)
+{
+    const kul::Attribute color(win, nBackColor);
+    mvwaddch(win, nY, nTee, ACS_TTEE);
+    mvwaddch(win, kul::shifted(nY, nHeight - 1LL), nTee, ACS_BTEE);
+    kul::vRun(win, kul::shifted(nY, 1), nTee, nHeight - 2LL, ACS_VLINE);
+}
+
+void Fill(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nFillColor)
+{
+    const kul::Attribute color(win, nFillColor);
+    fillRows(win, nY, nX, nHeight, nWidth);
+}
+
+void FillReverse(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nFillColor)
+{
+    fillReversed(win, nY, nX, nHeight, nWidth, nFillColor);
+}
+
+void WinFill(WINDOW* win, int nColorset)
+{
+    Fill(win, 0, 0, getmaxy(win), getmaxx(win), nColorset);
+}
+
+void WinFillReverse(WINDOW* win, int nColorset)
+{
+    fillReversed(win, 0, 0, getmaxy(win), getmaxx(win), nColorset);
+}
+
+int Offset(int nSpace, int nStrLen)
+{
+    const bool oddInEven = nStrLen % 2 != 0 && nSpace % 2 == 0;
+    return nSpace / 2 - nStrLen / 2 - (oddInEven ? 1 : 0);
+}
+
+void FillString(char* szBuffer, int nLength, char cOneChar)
+{
+    if (szBuffer && nLength > 0)
+        std::memset(szBuffer, cOneChar, static_cast<std::size_t>(nLength));
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+//
+// Colours and runs of cells, below the public drawing calls. Coordinates are cut to the window
+// here, so that any number costs no more than the cells that are drawn.
+#ifndef KUL_GUI_DRAW_HPP
+#define KUL_GUI_DRAW_HPP
+
+#include <algorithm>
+#include <climits>
+#include <cstring>
+
+#include "../kulgui.h"
+
+namespace kul {
+
+// A colour set as the attribute of its pair, unmasked: numbers that are no colour set give other
+// attributes, as curses has it.
+constexpr int rawAttribute(int nColorSet)
+{
+    return static_cast<int>(static_cast<unsigned>(nColorSet) << 8);
+}
+
+// A place moved by a distance, kept within what an int can hold: any number may come in.
+constexpr int shifted(int nPlace, long long nDistance)
+{
+    return static_cast<int>(std::clamp<long long>(nPlace + nDistance, INT_MIN, INT_MAX));
+}
+
+// Switches a colour set on for a window, and off at the end of the scope.
+class Attribute {
+public:
+    Attribute(WINDOW* win, int nColorSet);
+    ~Attribute();
+    Attribute(const Attribute&) = delete;
+    Attribute& operator=(const Attribute&) = delete;
+
+private:
+    WINDOW* win_;
+    attr_t attribute_;
+};
+
+// On a terminal without colours, shows one colour set in reverse video: the focus must be seen.
+class FocusMark {
+public:
+    explicit FocusMark(int nColorSet);
+    ~FocusMark();
+    FocusMark(const FocusMark&) = delete;
+    FocusMark& operator=(const FocusMark&) = delete;
+};
+
+// Draws nCount cells to the right or down; those outside of the window are skipped.
+void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
+void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
+
+// Length of a text as an int, however long.
+inline int length(const char* szText)
+{
+    const std::size_t size = std::strlen(szText);
+    return size < INT_MAX ? static_cast<int>(size) : INT_MAX;
+}
+
+} // namespace kul
+
+#endif

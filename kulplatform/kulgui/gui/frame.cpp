@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+//
+// What a dialog stands on: its defaults, its window with a shadow one cell down and to the right,
+// its title, and the background of the primary dialog.
+#include "frame.hpp"
+
+#include <algorithm>
+
+#include "chain.hpp"
+#include "draw.hpp"
+#include "screen.hpp"
+
+namespace {
+
+constexpr int kShadowPair = GREEN_YELLOW;
+
+// No terminal is larger, and no window needs more memory than this by this.
+constexpr int kLargestSide = 512;
+
+int limited(int n, int least)
+{
+    return std::clamp(n, least, kLargestSide);
+}
+
+// A window for a dialog, shifted by one cell or none. Sizes and places that curses would refuse or
+// read as "to the edge of the screen" are brought into range.
+WINDOW* newDialogWindow(const GUI& gui, int nShift)
+{
+    return newwin(limited(gui.nHeight, 1), limited(gui.nWidth, 1), limited(gui.nY, 0) + nShift,
+                  limited(gui.nX, 0) + nShift);
+}
+
+void makeWindows(GUI* thisGUI)
+{
+    thisGUI->winMain = newDialogWindow(*thisGUI, 0);
+    thisGUI->winShadow = newDialogWindow(*thisGUI, 1);
+    init_pair(kShadowPair, COLOR_BLACK, COLOR_BLACK);
+    if (thisGUI->winMain && thisGUI->winShadow) {
+        thisGUI->pnlShadow = new_panel(thisGUI->winShadow);
+        thisGUI->pnlMain = new_panel(thisGUI->winMain);
+        // The cursor has no meaning in a dialog: do not spend bytes on moving it.
+        leaveok(thisGUI->winMain, TRUE);
+        leaveok(thisGUI->winShadow, TRUE);
+        touchwin(thisGUI->winShadow);
+    }
+    if (!thisGUI->pnlShadow || !thisGUI->pnlMain)
+        kul::deleteWindows(thisGUI);
+}
+
+void printTitle(WINDOW* win, int nX, int nColor, const char* szTitle)
+{
+    const kul::Attribute color(win, nColor);
+    mvwaddstr(win, 0, nX, szTitle);
+}
+
+void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))
+{
+    for (PANEL* panel : {pnlShadow, pnlMain}) {
+        if (panel)
+            action(panel);
+    }
+}
+
+} // namespace
+
+namespace kul {
+
+void raisePanels(PANEL* pnlShadow, PANEL* pnlMain)
+{
+    const bool onTop = pnlMain && pnlShadow && !panel_hidden(pnlMain) && !panel_hidden(pnlShadow) &&
+                       !panel_above(pnlMain) && panel_below(pnlMain) == pnlShadow;
+    if (!onTop)
+        setPanels(pnlShadow, pnlMain, show_panel);
+}
+
+void deleteWindows(GUI* thisGUI)
+{
+    setPanels(thisGUI->pnlShadow, thisGUI->pnlMain, del_panel);
+    for (WINDOW* win : {thisGUI->winShadow, thisGUI->winMain}) {
+        if (win && win != stdscr)
+            delwin(win);
+    }
+    thisGUI->pnlShadow = thisGUI->pnlMain = nullptr;
+    thisGUI->winShadow = thisGUI->winMain = nullptr;
+}
+
+} // namespace kul
+
+int CreateGUI(CHAIN* thisChain)
+{
+    if (!thisChain)
+        return -1;
+    if (thisChain->Pointer)
+        return -10008;
+    return kul::newDialog(thisChain) ? 0 : -10007;
+}
+
+int LoadGUIDefaults(GUI* thisGUI)
+{
+    if (!thisGUI)
+        return -1;
+    const CHAIN* primary = GetPrimaryChain();
+    const GUI* primeGUI = primary ? primary->Pointer : nullptr;
+    // Before the terminal is open there is no standard screen, and no window is equal to it.
+    const bool prime = thisGUI->winMain == stdscr && (stdscr || thisGUI == primeGUI);
+    if (prime) {
+        thisGUI->nX = 0;
+        thisGUI->nY = 0;
+        thisGUI->nWidth = GetWindowWidth(stdscr);
+        thisGUI->nHeight = GetWindowHeight(stdscr);
+        thisGUI->szLangFile = nullptr;
+        thisGUI->nCurrentUI = -1;
+    } else {
+        if (!primeGUI)
+            return -1;
+        thisGUI->szLangFile = primeGUI->szLangFile;
+    }
+    thisGUI->nColorStandard = prime ? BLACK_WHITE : RED_BLUE;
+    thisGUI->nColorFocus = prime ? CYAN_BLUE : RED_MAGENTA;
+    thisGUI->nColorUnfocus = prime ? BLUE_WHITE : RED_WHITE;
+    thisGUI->nColorDisable = prime ? CYAN_WHITE : RED_CYAN;
+    thisGUI->nBorder = prime ? NOBORDER : BORDER;
+    thisGUI->nVisible = prime ? F : T;
+    thisGUI->szTitle = nullptr;
+    thisGUI->onFocus = thisGUI->onUnfocus = thisGUI->onPoll = thisGUI->onDestroy = nullptr;
+    thisGUI->UserInterface = nullptr;
+    thisGUI->Display = nullptr;
+    return 0;
+}
+
+int ConfigGUIPrime()
+{
+    const CHAIN* primary = GetPrimaryChain();
+    if (!primary)
+        return -10002;
+    if (!primary->Pointer)
+        return -10004;
+    primary->Pointer->winMain = stdscr;
+    primary->Pointer->winShadow = nullptr;
+    primary->Pointer->pnlMain = nullptr;
+    primary->Pointer->pnlShadow = nullptr;
+    return LoadGUIDefaults(primary->Pointer);
+}
+
+int ConfigGUI(CHAIN* thisChain)
+{
+    if (!thisChain)
+        return -1;
+    DlgBox(thisChain->Pointer);
+    return 0;
+}
+
+int GetWindowWidth(const WINDOW* win)
+{
+    return getmaxx(win);
+}
+
+int GetWindowHeight(const WINDOW* win)
+{
+    return getmaxy(win);
+}
+
+void DlgBox(GUI* thisGUI)
+{
+    if (!thisGUI)
+        return;
+    kul::Pass pass;
+    if (!thisGUI->winMain && stdscr)
+        makeWindows(thisGUI);
+    const int nColor = thisGUI->nColorStandard;
+    const char* szTitle = thisGUI->szTitle ? thisGUI->szTitle : "";
+    WinFill(thisGUI->winMain, nColor);
+    // Nothing but this line draws into the shadow; untouched it still is what it was.
+    if (is_wintouched(thisGUI->winShadow))
+        WinFill(thisGUI->winShadow, kShadowPair);
+    DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);
+    printTitle(thisGUI->winMain, thisGUI->nWidth / 2 - kul::length(szTitle) / 2 - 1, nColor,
+               szTitle);
+    kul::raisePanels(thisGUI->pnlShadow, thisGUI->pnlMain);
+    thisGUI->nVisible = T;
+}
+
+void ShowDlg(DLG* dialog)
+{
+    if (!dialog)
+        return;
+    kul::Pass pass;
+    kul::raisePanels(dialog->pnlShadow, dialog->pnlMain);
+    dialog->nVisible = T;
+}
+
+void HideDlg(DLG* dialog)
+{
+    if (!dialog)
+        return;
+    kul::Pass pass;
+    setPanels(dialog->pnlShadow, dialog->pnlMain, hide_panel);
+    dialog->nVisible = F;
+}
+
+void KillDlg(DLG* dialog)
+{
+    if (!dialog)
+        return;
+    HideDlg(dialog);
+    for (WINDOW** win : {&dialog->winMain, &dialog->winShadow}) {
+        if (*win)
+            delwin(*win);
+        *win = nullptr;
+    }
+}
+
+void BackgroundDisplay(CHAIN* thisChain)
+{
+    if (!thisChain || !thisChain->Pointer)
+        return;
+    GUI* gui = thisChain->Pointer;
+    kul::Pass pass;
+    if (thisChain != GetPrimaryChain()) {
+        DlgBox(gui);
+        return;
+    }
+    gui->winMain = stdscr;
+    gui->nWidth = GetWindowWidth(stdscr);
+    gui->nHeight = GetWindowHeight(stdscr);
+    WinFill(stdscr, gui->nColorStandard);
+    printTitle(stdscr, 0, gui->nColorStandard, gui->szTitle ? gui->szTitle : "");
+    // The line takes the finished attribute for a colour set and makes an attribute of it once
+    // more: it shows underlining and the like, as the number of the set has it, and no colour.
+    DrawHLine(stdscr, 1, 0, gui->nWidth - 1, kul::rawAttribute(gui->nColorStandard));
+}

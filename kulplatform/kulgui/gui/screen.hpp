@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// One update of the terminal at a time. Drawing goes into windows; a Pass holds the update back
+// until the outermost one ends, so that what a key or a poll redraws reaches the terminal once,
+// and only the cells that differ. A Pause makes the terminal up to date and lets what runs inside
+// it (a callback, the wait for a key) update it again by passes of its own.
+#ifndef KUL_GUI_SCREEN_HPP
+#define KUL_GUI_SCREEN_HPP
+
+namespace kul {
+
+class Pass {
+public:
+    Pass();
+    ~Pass();
+    Pass(const Pass&) = delete;
+    Pass& operator=(const Pass&) = delete;
+};
+
+class Pause {
+public:
+    Pause();
+    ~Pause();
+    Pause(const Pause&) = delete;
+    Pause& operator=(const Pause&) = delete;
+
+private:
+    int nHeld_;
+};
+
+// While it lives, this dialog stands above the other ones whenever the terminal is updated.
+class OnTop {
+public:
+    explicit OnTop(int nChain);
+    ~OnTop();
+    OnTop(const OnTop&) = delete;
+    OnTop& operator=(const OnTop&) = delete;
+    int chain() const { return nChain_; }
+
+private:
+    int nChain_;
+    const OnTop* outer_;
+};
+
+} // namespace kul
+
+#endif

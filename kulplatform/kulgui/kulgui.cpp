@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+//
+// The calls for dialogs: create, configure, run, show, hide, destroy.
+#include "kulgui.h"
+
+#include "gui/chain.hpp"
+#include "gui/keys.hpp"
+#include "gui/screen.hpp"
+#include "ui/handler.hpp"
+
+namespace {
+
+struct DialogColors {
+    int nStandard;
+    int nFocus;
+    int nUnfocus;
+    int nDisable;
+};
+
+// What the two config calls have in common.
+void configure(GUI& gui, const DialogColors& colors, const char* szTitle, KULCALLBACK onFocus,
+               KULCALLBACK onPoll, KULCALLBACK onUnfocus, KULCALLBACK onDestroy)
+{
+    SetVar(&gui.nColorStandard, colors.nStandard);
+    SetVar(&gui.nColorFocus, colors.nFocus);
+    SetVar(&gui.nColorUnfocus, colors.nUnfocus);
+    SetVar(&gui.nColorDisable, colors.nDisable);
+    gui.szTitle = szTitle;
+    gui.onFocus = onFocus;
+    gui.onPoll = onPoll;
+    gui.onUnfocus = onUnfocus;
+    gui.onDestroy = onDestroy;
+}
+
+int countComponents(int nChain)
+{
+    int nCount = 0;
+    for (const UI* ui = GetFirstUIComponentInChain(nChain); ui; ui = ui->Next)
+        ++nCount;
+    return nCount;
+}
+
+// Moves the focus from a component to its neighbour, round the list. -10000 when it is gone.
+int moveFocus(int nChain, int nRef, bool forward)
+{
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    const UI* from = GetUIComponentByRef(nChain, nRef);
+    if (!from)
+        return -10000;
+    const UI* to = forward ? from->Next : from->Prev;
+    if (!to)
+        to = forward ? dialog->UserInterface : GetLastUIComponent(dialog);
+    dialog->nCurrentUI = to->nRef;
+    return 0;
+}
+
+// Shows what the loop starts with: the dialog if it never was shown, and the components of the
+// dialog that was active without focus.
+void showFirst(int nChain, int nBefore)
+{
+    CHAIN* chain = GetChain(nChain);
+    if (chain->Pointer->nVisible == F) {
+        chain->Pointer->nVisible = T;
+        if (chain != GetPrimaryChain())
+            DlgBox(chain->Pointer);
+    }
+    ExecuteFocusFunction(chain->Pointer);
+    GUI* before = kul::findDialog(nBefore);
+    for (UI* ui = before ? before->UserInterface : nullptr; ui; ui = ui->Next)
+        ShowUIComponentUnfocused(before, ui);
+}
+
+// Runs the handler of the component in focus, once. nStill counts components in a row that did not
+// wait for a key, being hidden for instance: when it reaches all of them, this waits, or the loop
+// would spin without a key or a poll.
+int runFocused(int nChain, int nResult, int& nStill)
+{
+    const GUI* gui = kul::findDialog(nChain);
+    const UI* ui = gui ? GetUIComponentByRef(nChain, gui->nCurrentUI) : nullptr;
+    const kul::UIKind* kind = ui ? kul::uiKind(ui->nType) : nullptr;
+    if (!kind)
+        return -10000;
+    const int nRef = ui->nRef;
+    const unsigned nWaits = kul::waits();
+    const int nHandled = kind->execKeys(nChain, nRef);
+    if (nHandled != -1)
+        nResult = nHandled;
+    nStill = kul::waits() == nWaits ? nStill + 1 : 0;
+    if (nStill > 0 && nStill >= countComponents(nChain)) {
+        nStill = 0;
+        kul::waitOnce();
+        if (kul::lineIsGone())
+            return -10000;
+    }
+    if (kul::takeLeaving(nChain))
+        return KUL_LEFT;
+    if ((nResult == 10 || nResult == -10) && moveFocus(nChain, nRef, nResult == 10) != 0)
+        return -10000;
+    return nResult;
+}
+
+} // namespace
+
+int kulgui_create(int nChain)
+{
+    return CreateChain(nChain);
+}
+
+int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocus, int nColorUnfocus,
+                       int nColorDisable, const char* szTitle, KULCALLBACK onFocus,
+                       KULCALLBACK onPoll, KULCALLBACK onUnfocus, KULCALLBACK onDestroy,
+                       const char* szFilePath)
+{
+    if (GetPrimaryFlag() != -1)
+        return -10001;
+    CHAIN* primary = GetPrimaryChain();
+    if (!primary)
+        return -10006;
+    GUI* before = primary->Pointer;
+    GUI* gui = kul::newDialog(primary);
+    if (!gui)
+        return -10006;
+    if (before) {
+        kul::emptyDialog(before);
+        std::free(before);
+    }
+    primary->nRef = nChain;
+    const int nResult = ConfigGUIPrime();
+    configure(*gui, {nColorStandard, nColorFocus, nColorUnfocus, nColorDisable}, szTitle, onFocus,
+              onPoll, onUnfocus, onDestroy);
+    gui->nVisible = T;
+    gui->szLangFile = szFilePath;
+    gui->winMain = nullptr;
+    return nResult;
+}
+
+int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnfocus,
+                  int nColorDisable, const char* szTitle, int nBorder, int nX, int nY, int nWidth,
+                  int nHeight, KULCALLBACK onFocus, KULCALLBACK onPoll, KULCALLBACK onUnfocus,
+                  KULCALLBACK onDestroy, const char*)
+{
+    CHAIN* chain = GetChain(nChain);
+    if (!chain)
+        return -10009;
+    const kul::Pass pass;
+    const int nCreated = CreateGUI(chain);
+    if (!chain->Pointer)
+        return nCreated;
+    GUI& gui = *chain->Pointer;
+    WINDOW* screen = gui.winMain == stdscr ? stdscr : nullptr;
+    kul::emptyDialog(&gui);
+    gui.winMain = screen;
+    if (LoadGUIDefaults(&gui) < 0)
+        return nCreated;
+    configure(gui, {nColorStandard, nColorFocus, nColorUnfocus, nColorDisable}, szTitle, onFocus,
+              onPoll, onUnfocus, onDestroy);
+    SetVar(&gui.nBorder, nBorder);
+    SetVar(&gui.nX, nX);
+    SetVar(&gui.nY, nY);
+    SetVar(&gui.nWidth, nWidth);
+    SetVar(&gui.nHeight, nHeight);
+    gui.nVisible = F;
+    gui.winMain = nullptr;
+    return 0;
+}
+
+int kulgui_exec(int nChain)
+{
+    if (!kul::findDialog(nChain))
+        return -1;
+    if (NCursesEnv(0) == F) {
+        const int nOpened = NCursesEnv(1);
+        if (nOpened != 0)
+            return nOpened;
+    }
+    const int nBefore = GetActiveChain();
+    CURRENT* selection = GetCurrentSelection();
+    const kul::Pass pass;
+    const kul::Loop loop(nChain);
+    SetActiveChain(nChain);
+    showFirst(nChain, nBefore);
+    int nResult = 0;
+    int nStill = 0;
+    while (nResult != -10000 && nResult != KUL_LEFT)
+        nResult = runFocused(nChain, nResult, nStill);
+    ExecuteUnfocusFunction(kul::findDialog(nChain));
+    SetActiveChain(nBefore);
+    SetCurrentSelection(selection);
+    return nResult;
+}
+
+int kulgui_show(int nChain)
+{
+    CHAIN* chain = GetChain(nChain);
+    if (!chain || !chain->Pointer)
+        return 0;
+    const kul::Pass pass;
+    chain->Pointer->nVisible = T;
+    BackgroundDisplay(chain);
+    ShowDisplayComponents(chain->Pointer);
+    ShowUIComponents(chain->Pointer);
+    return 0;
+}
+
+int kulgui_hide(int nChain)
+{
+    GUI* gui = kul::findDialog(nChain);
+    if (!gui)
+        return 0;
+    const kul::Pass pass;
+    gui->nVisible = F;
+    if (gui->pnlShadow)
+        hide_panel(gui->pnlShadow);
+    if (gui->pnlMain)
+        hide_panel(gui->pnlMain);
+    return 0;
+}
+
+int kulgui_destroy(int nChain)
+{
+    CHAIN* chain = GetChain(nChain);
+    if (!chain)
+        return -1;
+    kul::destroyChain(chain);
+    return 0;
+}
+
+int kulgui_destroyAll()
+{
+    NCursesEnv(2);
+    return 0;
+}
+
+int kulgui_exit()
+{
+    return 0;
+}
+
+int kulgui_hasExited()
+{
+    return 0;
+}
+
+int kulgui_getExitValue()
+{
+    return 0;
+}
+
+int kulgui_update()
+{
+    return 0;
+}
+
+int kulgui_leave(int nChain)
+{
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    if (!dialog)
+        return -1;
+    dialog->leaving = true;
+    return 0;
+}
+
+int kulgui_setFocus(int nChain, int nRef)
+{
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    if (!dialog || CheckUICompExistence(nChain, nRef) != 0)
+        return -1;
+    dialog->nCurrentUI = nRef;
+    dialog->refocused = dialog->nLoops > 0;
+    return 0;
+}
+
+int kulgui_setTabbing(int nChain, int bTabbing)
+{
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    if (!dialog)
+        return -1;
+    dialog->tabs = bTabbing == T;
+    return 0;
+}

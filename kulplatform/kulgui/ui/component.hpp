@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+//
+// The table of the kinds of components that take the focus: what the framework has to know of one.
+#ifndef KUL_UI_COMPONENT_HPP
+#define KUL_UI_COMPONENT_HPP
+
+#include "../gui/memory.hpp"
+#include "../kulgui.h"
+
+namespace kul {
+
+struct UIKind {
+    int nTaken;                            // code for a number that is in use
+    bool keepsTab;                         // leaves by Tab and Escape only where tabbing is on
+    void* (*allocate)();                   // a cleared record
+    int (*config)(GUI*, void*);            // sets the defaults
+    void (*show)(GUI*, void*, int nFocus); // draws
+    void (*drop)(void*);                   // frees what the record owns
+    int (*wipe)(void*);                    // the same, and the record
+    int (*execKeys)(int nChain, int nRef); // runs it
+    int& (*visible)(void*);                // nVisible of the record
+    int (*focusColor)(void*);              // nColorFocus of the record
+};
+
+// A row of the table from the typed functions of a kind. Record may derive from the public one.
+template <typename Record, auto Config, auto Show, auto Drop, auto Wipe, auto ExecKeys>
+constexpr UIKind uiRow(int nTaken, bool keepsTab)
+{
+    return {
+        nTaken,
+        keepsTab,
+        []() -> void* { return allocate<Record>(); },
+        [](GUI* gui, void* record) { return Config(gui, static_cast<Record*>(record)); },
+        [](GUI* gui, void* record, int nFocus) { Show(gui, static_cast<Record*>(record), nFocus); },
+        [](void* record) { Drop(*static_cast<Record*>(record)); },
+        [](void* record) { return Wipe(static_cast<Record*>(record)); },
+        ExecKeys,
+        [](void* record) -> int& { return static_cast<Record*>(record)->nVisible; },
+        [](void* record) { return static_cast<Record*>(record)->nColorFocus; }};
+}
+
+// The row of a kind; null for a number that is none.
+const UIKind* uiKind(int nType);
+
+// The record of a component; null when there is none or it is of another kind.
+void* findUIRecord(int nChain, int nRef, UI_TYPE type);
+
+template <typename Record>
+Record* findUI(int nChain, int nRef, UI_TYPE type)
+{
+    return static_cast<Record*>(findUIRecord(nChain, nRef, type));
+}
+
+// What every kul<kind>_config begins with: the record, empty and with its defaults. Null when there
+// is none or it is of another kind.
+template <typename Record>
+Record* resetUI(int nChain, int nRef, UI_TYPE type)
+{
+    auto* record = findUI<Record>(nChain, nRef, type);
+    return record && ConfigUIComponent(nChain, nRef) >= 0 ? record : nullptr;
+}
+
+// What the create calls of the kinds do.
+int createUI(int nChain, int nRef, UI_TYPE type);
+
+// The colours that every kind starts with.
+template <typename Record>
+void takeColors(const GUI& gui, Record& record)
+{
+    record.nColorFocus = gui.nColorFocus;
+    record.nColorUnfocus = gui.nColorUnfocus;
+    record.nColorDisable = gui.nColorDisable;
+}
+
+// The colours and callbacks that the config calls of the kinds have in common.
+template <typename Record>
+void setColors(Record& record, int nColorFocus, int nColorUnfocus, int nColorDisable)
+{
+    SetVar(&record.nColorFocus, nColorFocus);
+    SetVar(&record.nColorUnfocus, nColorUnfocus);
+    SetVar(&record.nColorDisable, nColorDisable);
+}
+
+template <typename Record>
+void setCallbacks(Record& record, KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
+                  KULCALLBACK onClick)
+{
+    record.onFocus = onFocus;
+    record.onUnfocus = onUnfocus;
+    record.onSelect = onSelect;
+    record.onClick = onClick;
+}
+
+} // namespace kul
+
+#endif

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+//
+// What every key handler stands on: taking the focus, waiting for a key, running callbacks, and
+// noticing that it has to end. Callbacks and polls may do anything, so the record is looked up
+// again after each; a handler that keeps a pointer across one is wrong.
+//
+//     kul::Handler<KULBUTTON> handler({nChain, nRef, BUTTON, 0, 0, 0});
+//     handler.call(&KULBUTTON::onFocus);
+//     while (const int nKey = handler.key()) { ... handler.show(); }
+//     return handler.finish(&KULBUTTON::onUnfocus);
+#ifndef KUL_UI_HANDLER_HPP
+#define KUL_UI_HANDLER_HPP
+
+#include "../gui/screen.hpp"
+#include "component.hpp"
+
+namespace kul {
+
+// A loop or handler of a dialog while it runs: the dialog stands on top, and what was asked of an
+// earlier loop is forgotten when the outermost one starts.
+class Loop {
+public:
+    explicit Loop(int nChain);
+    ~Loop();
+    Loop(const Loop&) = delete;
+    Loop& operator=(const Loop&) = delete;
+
+private:
+    int nChain_;
+    OnTop onTop_;
+};
+
+// Spends one wait for a key, and the poll pass if it is due. The key, or 0; waits are counted, so
+// that a loop without any can be noticed.
+int waitOnce();
+unsigned waits();
+
+// Whether the dialog's loop was asked to end; forgets the request.
+bool takeLeaving(int nChain);
+
+class HandlerBase {
+public:
+    HandlerBase(const HandlerBase&) = delete;
+    HandlerBase& operator=(const HandlerBase&) = delete;
+
+    // What the current selection is to say; the kinds keep it up to date.
+    CURRENT selection;
+
+    // Stores the selection and draws the dialog.
+    void show();
+
+    // Runs any callback, NULL for none, unless the handler is over.
+    void run(KULCALLBACK callback);
+
+    // Ends the loop with this result.
+    void end(int nResult);
+
+    // Waits for a key. 0 when the handler is over, or when goOn, asked before each wait, says no.
+    int key(bool (*goOn)(const GUI&, const void* record) = nullptr);
+
+protected:
+    explicit HandlerBase(const CURRENT& start);
+    ~HandlerBase() = default;
+
+    void* findRecord();
+    int settle();
+    int result() const { return nResult_; }
+    bool isOver();
+
+private:
+    bool isTab(int nKey) const;
+
+    Pass pass_;
+    Loop loop_;
+    bool ended_ = false;
+    int nResult_ = 0;
+};
+
+template <typename Record>
+class Handler : public HandlerBase {
+public:
+    // Takes the focus: the selection names the component, and the dialog is drawn so.
+    explicit Handler(const CURRENT& start) : HandlerBase(start) { show(); }
+
+    // The component's record as it is now; null, and the handler over, when it is gone.
+    Record* record() { return static_cast<Record*>(findRecord()); }
+
+    // Runs the callback that the record holds in this field.
+    template <typename Public>
+    void call(KULCALLBACK Public::*callback)
+    {
+        if (const Record* now = record())
+            run(now->*callback);
+    }
+
+    // What the handler returns: runs onUnfocus, and lets requests of callbacks come before its own
+    // result.
+    template <typename Public>
+    int finish(KULCALLBACK Public::*onUnfocus)
+    {
+        const Record* now = result() == -10000 ? nullptr : record();
+        if (now)
+            ExecOnFunction(now->*onUnfocus);
+        return settle();
+    }
+};
+
+} // namespace kul
+
+#endif

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "window_test.hpp"
+
+#include <climits>
+#include <cstdlib>
+#include <ctime>
+#include <deque>
+
+namespace {
+
+std::deque<int> script;
+std::vector<KULCALLBACK> scriptActions;
+std::time_t clockNow = 1000000;
+int goodAllocations = INT_MAX;
+
+bool allocationFails()
+{
+    if (goodAllocations == INT_MAX)
+        return false;
+    return goodAllocations <= 0 || goodAllocations-- <= 0;
+}
+
+void startCurses()
+{
+    static SCREEN* screen = nullptr;
+    if (screen)
+        return;
+    setenv("LINES", "24", 1);
+    setenv("COLUMNS", "80", 1);
+    FILE* nothing = std::fopen("/dev/null", "r+");
+    screen = newterm("xterm-256color", nothing, nothing);
+    ASSERT_NE(screen, nullptr);
+    start_color();
+    InitializeColorSets();
+}
+
+const char* lineGlyph(char letter)
+{
+    switch (letter) {
+    case 'l': return "┌";
+    case 'k': return "┐";
+    case 'm': return "└";
+    case 'j': return "┘";
+    case 'q': return "─";
+    case 'x': return "│";
+    case 't': return "├";
+    case 'u': return "┤";
+    case 'w': return "┬";
+    case 'v': return "┴";
+    case 'a': return "▒";
+    case '`': return "◆";
+    default: return "?";
+    }
+}
+
+} // namespace
+
+// The linker sends the library's calls of these here.
+extern "C" {
+
+void* __real_malloc(std::size_t size);
+void* __real_calloc(std::size_t count, std::size_t size);
+char* __real_strdup(const char* text);
+
+void* __wrap_malloc(std::size_t size)
+{
+    return allocationFails() ? nullptr : __real_malloc(size);
+}
+
+void* __wrap_calloc(std::size_t count, std::size_t size)
+{
+    return allocationFails() ? nullptr : __real_calloc(count, size);
+}
+
+char* __wrap_strdup(const char* text)
+{
+    return allocationFails() ? nullptr : __real_strdup(text);
+}
+
+std::time_t __wrap_time(std::time_t* result)
+{
+    if (result)
+        *result = clockNow;
+    return clockNow;
+}
+
+int __wrap_NCursesEnv(int)
+{
+    return 0;
+}
+
+int __wrap_Inkeys()
+{
+    if (script.empty()) {
+        kulgui_leave(GetCurrentSelection()->nChain);
+        return 0;
+    }
+    const int key = script.front();
+    script.pop_front();
+    if (key <= -2 && static_cast<std::size_t>(-2 - key) < scriptActions.size()) {
+        scriptActions[static_cast<std::size_t>(-2 - key)]();
+        return 0;
+    }
+    return key;
+}
+}
+
+namespace kultest {
+
+Cell cellOf(WINDOW* win, int y, int x)
+{
+    const chtype cell = mvwinch(win, y, x);
+    const char letter = static_cast<char>(cell & A_CHARTEXT);
+    return {cell & A_ALTCHARSET ? lineGlyph(letter) : std::string(1, letter),
+            static_cast<int>(PAIR_NUMBER(cell)),
+            cell & A_ATTRIBUTES & ~static_cast<chtype>(A_COLOR | A_ALTCHARSET)};
+}
+
+Rows picture(WINDOW* win, int y, int x, int height, int width)
+{
+    Rows rows;
+    for (int row = y; row < y + height; ++row) {
+        std::string text;
+        for (int column = x; column < x + width; ++column)
+            text += cellOf(win, row, column).glyph;
+        rows.push_back(text);
+    }
+    return rows;
+}
+
+Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend)
+{
+    Rows rows;
+    for (int row = y; row < y + height; ++row) {
+        std::string text;
+        for (int column = x; column < x + width; ++column) {
+            const Cell cell = cellOf(win, row, column);
+            char letter = '?';
+            for (const Legend& entry : legend) {
+                if (entry.pair == cell.pair)
+                    letter = entry.letter;
+            }
+            text += cell.attributes & A_REVERSE ? static_cast<char>(std::toupper(letter)) : letter;
+        }
+        rows.push_back(text);
+    }
+    return rows;
+}
+
+void typeKeys(const std::vector<int>& keys)
+{
+    typeKeys(keys, {});
+}
+
+void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions)
+{
+    script.assign(keys.begin(), keys.end());
+    scriptActions = actions;
+}
+
+void advanceClock(int seconds)
+{
+    clockNow += seconds;
+}
+
+FailingMemory::FailingMemory(int nGood)
+{
+    goodAllocations = nGood;
+}
+
+FailingMemory::~FailingMemory()
+{
+    goodAllocations = INT_MAX;
+}
+
+void WindowTest::SetUp()
+{
+    startCurses();
+    ASSERT_EQ(kulgui_create(0), 0);
+    ASSERT_EQ(kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "primary", nullptr,
+                                 nullptr, nullptr, nullptr, nullptr),
+              0);
+}
+
+void WindowTest::TearDown()
+{
+    typeKeys({});
+    kulgui_destroy(GetPrimaryChain()->nRef);
+    const CURRENT none{};
+    SetCurrentSelection(&none);
+    const CONTROL clear{F, F, F, F};
+    SetControls(&clear);
+}
+
+GUI* WindowTest::makeDialog(int nChain, int nWidth, int nHeight)
+{
+    EXPECT_EQ(kulgui_create(nChain), nChain);
+    EXPECT_EQ(kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "title", BORDER, 0, 0,
+                            nWidth, nHeight, nullptr, nullptr, nullptr, nullptr, nullptr),
+              0);
+    return GetChain(nChain)->Pointer;
+}
+
+WINDOW* WindowTest::window(int nChain)
+{
+    return GetChain(nChain)->Pointer->winMain;
+}
+
+} // namespace kultest

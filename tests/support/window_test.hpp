@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+//
+// Tests that draw into windows and read them back, without a terminal: curses writes to nothing,
+// keys come from a script and the time from a clock that only the test moves.
+#ifndef KUL_TESTS_WINDOW_TEST_HPP
+#define KUL_TESTS_WINDOW_TEST_HPP
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "kulgui.h"
+
+namespace kultest {
+
+using Rows = std::vector<std::string>;
+
+// What a cell shows: its character (line drawing as Unicode), its colour pair and attributes
+// without both.
+struct Cell {
+    std::string glyph;
+    int pair;
+    attr_t attributes;
+};
+
+Cell cellOf(WINDOW* win, int y, int x);
+
+// The characters of a rectangle of a window.
+Rows picture(WINDOW* win, int y, int x, int height, int width);
+
+// What stands for a colour pair in a picture of colours; reverse cells are upper case.
+struct Legend {
+    char letter;
+    int pair;
+};
+
+// The colours of a rectangle; a pair that is not in the legend shows as '?'.
+Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend);
+
+// Keys that the next handlers get, one a wait; 0 is a wait without a key. After the last one the
+// dialog in focus is asked to end.
+void typeKeys(const std::vector<int>& keys);
+
+// Something to do in place of a key: -2 counts down into these, -2 being the first.
+void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions);
+
+// Moves the clock that the library reads.
+void advanceClock(int seconds);
+
+// While it lives, the allocation after the next nGood ones fails, and all later ones.
+class FailingMemory {
+public:
+    explicit FailingMemory(int nGood);
+    ~FailingMemory();
+};
+
+// 80 x 24 cells, a primary dialog 0 in its default colours, and nothing else. Frees all after.
+class WindowTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Adds dialog nChain at the top left corner, standard colours, shown without frame drawn yet.
+    GUI* makeDialog(int nChain, int nWidth = 40, int nHeight = 14);
+
+    // The window of a dialog.
+    static WINDOW* window(int nChain);
+};
+
+} // namespace kultest
+
+#endif
