@@ -93,6 +93,7 @@ int __wrap_Inkeys()
 {
     if (script.empty()) {
         kulgui_leave(GetCurrentSelection()->nChain);
+        kulgui_leave(GetActiveChain()); // a loop in which no component could take the focus
         return 0;
     }
     const int key = script.front();

@@ -1,0 +1,51 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * The demonstration: a desktop, a menu of pages, and a dialog for each page. Pages are made anew
+ * whenever they are opened and destroyed when they are left.
+ */
+#ifndef DEMO_H
+#define DEMO_H
+
+#include <kulgui.h>
+
+#include <stddef.h>
+
+/* Chains. */
+enum { DESKTOP, MENU_OF_PAGES, PAGE };
+
+/* Components that every page may have; its own start after them. */
+enum { BACK_BAR = 1, OWN };
+
+/* Colours of what stands on a page. */
+enum { PAGE_COLOR = BLACK_WHITE, HERE = WHITE_BLUE, THERE = BLACK_CYAN, OFF = BLUE_WHITE };
+
+/* Makes the dialog of a page, in the middle of the screen and no larger than it; nWidth and
+ * nHeight are what it would like to have. Returns it, its size filled in; NULL without memory. */
+const GUI *openPage(const char *szTitle, int nWidth, int nHeight, KULCALLBACK onPoll);
+
+/* Adds the toolbar with Back and Quit in the last rows above the frame. */
+void addBackBar(const GUI *page);
+
+/* Runs the page until it is left. */
+void runPage(void);
+
+/* Leaves the page; leaves the demonstration. */
+void goBack(void);
+void quit(void);
+
+/* The pages. */
+void machinePage(void);
+
+/* Facts of this machine, as short texts. Each has some forms, counted by nForm from 0. */
+enum { HOST, KERNEL, UPTIME, LOAD, MEMORY, FACTS };
+const char *factText(int nFact, int nForm);
+
+/* Percent of memory and of the root file system in use; load of the last minute, in percent. */
+int memoryPercent(void);
+int diskPercent(void);
+int loadPercent(void);
+
+/* Reads the start of a file into a text; an empty one when it cannot be read. */
+void readText(const char *szFile, char *szText, size_t size);
+
+#endif

@@ -1,0 +1,104 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * The desktop, the menu of pages, and what the pages have in common.
+ */
+#include "demo.h"
+
+#include <stdio.h>
+
+static const struct {
+    const char *szName;
+    KULCALLBACK open;
+} kPages[] = {
+    {"This machine", machinePage},
+};
+enum { PAGES = sizeof kPages / sizeof *kPages };
+
+static char szDesktop[128];
+
+/* The title bar: what the machine is and does at this moment. */
+static void refreshDesktop(void)
+{
+    int nLength = 0;
+    for (int nFact = HOST; nFact < FACTS && nLength < (int)sizeof szDesktop; ++nFact) {
+        /* Left out where it does not fit into the row any more. */
+        const char *szText = factText(nFact, 0);
+        char szMore[72];
+        const int nMore = snprintf(szMore, sizeof szMore, "%s%s", nFact > 0 ? "   " : "", szText);
+        if (nLength + nMore < COLS - 1 && nLength + nMore < (int)sizeof szDesktop)
+            nLength += sprintf(szDesktop + nLength, "%s", szMore);
+    }
+}
+
+static int smaller(int a, int b)
+{
+    return a < b ? a : b;
+}
+
+static void makeDialog(int nChain, const char *szTitle, int nWidth, int nHeight,
+                       KULCALLBACK onPoll)
+{
+    const int nW = smaller(nWidth, COLS - 1);
+    const int nH = smaller(nHeight, LINES - 1);
+    kulgui_create(nChain);
+    kulgui_config(nChain, PAGE_COLOR, HERE, THERE, OFF, szTitle, BORDER, (COLS - nW) / 2,
+                  (LINES - nH + 1) / 2, nW, nH, NULL, onPoll, NULL, NULL, NULL);
+    kulgui_setTabbing(nChain, T);
+}
+
+const GUI *openPage(const char *szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
+{
+    makeDialog(PAGE, szTitle, nWidth, nHeight, onPoll);
+    const CHAIN *chain = GetChain(PAGE);
+    return chain ? chain->Pointer : NULL;
+}
+
+void runPage(void)
+{
+    kulgui_exec(PAGE);
+    kulgui_destroy(PAGE);
+}
+
+void goBack(void)
+{
+    kulgui_leave(PAGE);
+}
+
+void quit(void)
+{
+    kulgui_leave(PAGE);
+    kulgui_leave(MENU_OF_PAGES);
+}
+
+static void openChosen(void)
+{
+    const int nChosen = GetCurrentSelection()->nUserInterface - OWN;
+    if (nChosen < PAGES)
+        kPages[nChosen].open();
+    else
+        quit();
+}
+
+int main(void)
+{
+    kulgui_create(DESKTOP);
+    kulgui_configPrime(DESKTOP, WHITE_BLUE, HERE, THERE, OFF, szDesktop, NULL, refreshDesktop, NULL,
+                       NULL, NULL);
+    if (NCursesEnv(1) != 0) {
+        fprintf(stderr, "demo: this is no terminal that can be used\n");
+        return 1;
+    }
+    refreshDesktop();
+    kulgui_show(DESKTOP);
+    makeDialog(MENU_OF_PAGES, " kulgui ", 40, 12, NULL);
+    for (int n = 0; n <= PAGES; ++n) {
+        kulbutton_create(MENU_OF_PAGES, OWN + n);
+        kulbutton_config(MENU_OF_PAGES, OWN + n, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 3,
+                         2 + 4 * n, 34, 1, n < PAGES ? kPages[n].szName : "Quit", NULL, NULL, NULL,
+                         openChosen);
+    }
+    kulgui_exec(MENU_OF_PAGES);
+    kulgui_destroyAll();
+    kulgui_destroy(DESKTOP);
+    return 0;
+}
