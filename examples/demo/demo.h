@@ -33,12 +33,27 @@ void runPage(void);
 void goBack(void);
 void quit(void);
 
+/* Sets up a label without frame on a page: nWidth columns of one row. */
+void addText(int nRef, int nX, int nY, int nWidth, const char *szText);
+
 /* The pages. */
 void machinePage(void);
+void displayPage(void);
+void zonesPage(void);
+void networkPage(void);
+void accessPage(void);
+void aboutPage(void);
+void logPage(void);
+
+/* The file that the last page shows. */
+void setLogFile(const char *szFile);
 
 /* Facts of this machine, as short texts. Each has some forms, counted by nForm from 0. */
 enum { HOST, KERNEL, UPTIME, LOAD, MEMORY, FACTS };
 const char *factText(int nFact, int nForm);
+
+/* One entry of the memory statistics, in MiB; 0 when there is none. */
+long memoryEntry(const char *szName);
 
 /* Percent of memory and of the root file system in use; load of the last minute, in percent. */
 int memoryPercent(void);

@@ -22,8 +22,7 @@ void readText(const char *szFile, char *szText, size_t size)
     szText[got] = '\0';
 }
 
-/* One entry of the memory statistics, in MiB. */
-static long memoryEntry(const char *szName)
+long memoryEntry(const char *szName)
 {
     char szText[4096];
     long nKibibytes = 0;

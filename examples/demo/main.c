@@ -10,7 +10,9 @@ static const struct {
     const char *szName;
     KULCALLBACK open;
 } kPages[] = {
-    {"This machine", machinePage},
+    {"This machine", machinePage}, {"Display items", displayPage}, {"Time zone", zonesPage},
+    {"Network", networkPage},      {"Access", accessPage},         {"Log files", logPage},
+    {"About", aboutPage},
 };
 enum { PAGES = sizeof kPages / sizeof *kPages };
 
@@ -70,17 +72,45 @@ void quit(void)
     kulgui_leave(MENU_OF_PAGES);
 }
 
+void addBackBar(const GUI *page)
+{
+    kultoolbar_create(PAGE, BACK_BAR);
+    kultoolbar_config(PAGE, BACK_BAR, HERE, THERE, OFF, 2, page->nHeight - 4, LATERAL, NULL, NULL,
+                      NULL, NULL);
+    kultoolbar_addButton(PAGE, BACK_BAR, " Back ", 0, 1, NULL, goBack);
+    kultoolbar_addButton(PAGE, BACK_BAR, " Quit ", 0, 1, NULL, quit);
+}
+
+void addText(int nRef, int nX, int nY, int nWidth, const char *szText)
+{
+    kullabel_create(PAGE, nRef);
+    kullabel_config(PAGE, nRef, PAGE_COLOR, KUL_KEEP, nX, nY, nWidth, 1, LEFT, NOBORDER, szText);
+}
+
 static void openChosen(void)
 {
-    const int nChosen = GetCurrentSelection()->nUserInterface - OWN;
+    const int nChosen = GetCurrentSelection()->nSelect;
     if (nChosen < PAGES)
         kPages[nChosen].open();
-    else
+    else if (nChosen == PAGES)
         quit();
 }
 
-int main(void)
+static void makeMenu(void)
 {
+    const int nRows = smaller(PAGES + 1, LINES - 6);
+    makeDialog(MENU_OF_PAGES, " kulgui ", 32, nRows + 4, NULL);
+    kuldynmenu_create(MENU_OF_PAGES, OWN);
+    kuldynmenu_config(MENU_OF_PAGES, OWN, HERE, THERE, OFF, 2, 1, 26, nRows, NULL, NULL, NULL,
+                      openChosen);
+    for (int n = 0; n < PAGES; ++n)
+        kuldynmenu_addElement(MENU_OF_PAGES, OWN, kPages[n].szName, NULL, NULL, 1);
+    kuldynmenu_addElement(MENU_OF_PAGES, OWN, "Quit", NULL, NULL, 1);
+}
+
+int main(int argc, char **argv)
+{
+    setLogFile(argc > 1 ? argv[1] : NULL);
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, WHITE_BLUE, HERE, THERE, OFF, szDesktop, NULL, refreshDesktop, NULL,
                        NULL, NULL);
@@ -90,13 +120,7 @@ int main(void)
     }
     refreshDesktop();
     kulgui_show(DESKTOP);
-    makeDialog(MENU_OF_PAGES, " kulgui ", 40, 12, NULL);
-    for (int n = 0; n <= PAGES; ++n) {
-        kulbutton_create(MENU_OF_PAGES, OWN + n);
-        kulbutton_config(MENU_OF_PAGES, OWN + n, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 3,
-                         2 + 4 * n, 34, 1, n < PAGES ? kPages[n].szName : "Quit", NULL, NULL, NULL,
-                         openChosen);
-    }
+    makeMenu();
     kulgui_exec(MENU_OF_PAGES);
     kulgui_destroyAll();
     kulgui_destroy(DESKTOP);
