@@ -17,7 +17,7 @@ static void choose(void)
     kulgui_leave(QUESTION);
 }
 
-static void addButton(int ref, int column, const char *text)
+static void addButton(int ref, int column, const char* text)
 {
     kulbutton_create(QUESTION, ref);
     kulbutton_config(QUESTION, ref, WHITE_BLUE, BLACK_WHITE, KUL_KEEP, KUL_KEEP, column, 3, 10, 1,

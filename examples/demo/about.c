@@ -7,8 +7,8 @@
 enum { PAGES_MENU = OWN };
 
 static const struct {
-    const char *szName;
-    const char *szText;
+    const char* szName;
+    const char* szText;
 } kTexts[] = {
     {"Show", "Boxes, lines, labels, bars and a status line, with values of this machine."},
     {"Lists", "Time zones of which one is chosen, network interfaces of which any are checked."},
@@ -26,7 +26,7 @@ static void choose(void)
 
 void aboutPage(void)
 {
-    const GUI *page = openPage(" About ", 46, 14, NULL);
+    const GUI* page = openPage(" About ", 46, 14, NULL);
     if (!page)
         return;
     kuldescrmenu_create(PAGE, PAGES_MENU);

@@ -13,8 +13,8 @@ enum { NAME_BOX = OWN, PASSWORD_BOX, NAME_LABEL, PASSWORD_LABEL, VERDICT };
 static void judge(void)
 {
     char szText[64];
-    const char *szName = kultextbox_getText(PAGE, NAME_BOX);
-    const char *szPassword = kultextbox_getText(PAGE, PASSWORD_BOX);
+    const char* szName = kultextbox_getText(PAGE, NAME_BOX);
+    const char* szPassword = kultextbox_getText(PAGE, PASSWORD_BOX);
     if (!szName || !szPassword)
         return;
     snprintf(szText, sizeof szText, "%s password, name of %d letters",
@@ -22,7 +22,7 @@ static void judge(void)
     kullabel_setText(PAGE, VERDICT, szText);
 }
 
-static void addBox(const GUI *page, int nRef, int nY, int nMask, const char *szCharSet)
+static void addBox(const GUI* page, int nRef, int nY, int nMask, const char* szCharSet)
 {
     kultextbox_create(PAGE, nRef);
     kultextbox_config(PAGE, nRef, HERE, THERE, OFF, 13, nY, page->nWidth - 16, 1, NOBORDER, nMask,
@@ -31,7 +31,7 @@ static void addBox(const GUI *page, int nRef, int nY, int nMask, const char *szC
 
 void accessPage(void)
 {
-    const GUI *page = openPage(" Access ", 48, 12, NULL);
+    const GUI* page = openPage(" Access ", 48, 12, NULL);
     if (!page)
         return;
     addText(NAME_LABEL, 2, 2, 11, "Host name");

@@ -21,10 +21,10 @@ enum { PAGE_COLOR = BLACK_WHITE, HERE = WHITE_BLUE, THERE = BLACK_CYAN, OFF = BL
 
 /* Makes the dialog of a page, in the middle of the screen and no larger than it; nWidth and
  * nHeight are what it would like to have. Returns it, its size filled in; NULL without memory. */
-const GUI *openPage(const char *szTitle, int nWidth, int nHeight, KULCALLBACK onPoll);
+const GUI* openPage(const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll);
 
 /* Adds the toolbar with Back and Quit in the last rows above the frame. */
-void addBackBar(const GUI *page);
+void addBackBar(const GUI* page);
 
 /* Runs the page until it is left. */
 void runPage(void);
@@ -34,7 +34,7 @@ void goBack(void);
 void quit(void);
 
 /* Sets up a label without frame on a page: nWidth columns of one row. */
-void addText(int nRef, int nX, int nY, int nWidth, const char *szText);
+void addText(int nRef, int nX, int nY, int nWidth, const char* szText);
 
 /* The pages. */
 void machinePage(void);
@@ -46,14 +46,14 @@ void aboutPage(void);
 void logPage(void);
 
 /* The file that the last page shows. */
-void setLogFile(const char *szFile);
+void setLogFile(const char* szFile);
 
 /* Facts of this machine, as short texts. Each has some forms, counted by nForm from 0. */
 enum { HOST, KERNEL, UPTIME, LOAD, MEMORY, FACTS };
-const char *factText(int nFact, int nForm);
+const char* factText(int nFact, int nForm);
 
 /* One entry of the memory statistics, in MiB; 0 when there is none. */
-long memoryEntry(const char *szName);
+long memoryEntry(const char* szName);
 
 /* Percent of memory and of the root file system in use; load of the last minute, in percent. */
 int memoryPercent(void);
@@ -61,6 +61,6 @@ int diskPercent(void);
 int loadPercent(void);
 
 /* Reads the start of a file into a text; an empty one when it cannot be read. */
-void readText(const char *szFile, char *szText, size_t size);
+void readText(const char* szFile, char* szText, size_t size);
 
 #endif

@@ -5,8 +5,8 @@
  */
 #include "demo.h"
 
-#include <stdio.h>
 #include <stdbool.h>
+#include <stdio.h>
 #include <time.h>
 
 enum {
@@ -27,8 +27,8 @@ enum {
 enum { MOST_SECONDS = 22 };
 
 static const struct {
-    const char *szName;
-    const char *szExplanation;
+    const char* szName;
+    const char* szExplanation;
 } kEntries[] = {
     {"MemTotal", "All of the memory that the kernel has to give."},
     {"MemFree", "Memory that nobody uses for anything."},
@@ -40,6 +40,7 @@ enum { ENTRY_COUNT = sizeof kEntries / sizeof *kEntries };
 static int nEntry;
 static int history[MOST_SECONDS];
 static int nSeconds;
+static int nTextCells; /* in the box of the explanations */
 
 static void setClock(void)
 {
@@ -56,6 +57,9 @@ static void setEntry(void)
     kulscrollbar_setPosition(PAGE, ENTRY_BAR, nEntry * 10);
     snprintf(szText, sizeof szText, "%ld MiB. %s", memoryEntry(kEntries[nEntry].szName),
              kEntries[nEntry].szExplanation);
+    /* A longer text would be refused. */
+    if (nTextCells < (int)sizeof szText)
+        szText[nTextCells] = '\0';
     kuldescrfield_setElement(PAGE, ENTRIES, nEntry, NULL, szText);
 }
 
@@ -119,6 +123,7 @@ static void addHistory(int nX, int nY, int nHeight)
 
 static void addEntries(int nY, int nWidth, int nHeight)
 {
+    nTextCells = (nWidth - 3) * (nHeight - 2);
     kuldescrfield_create(PAGE, ENTRIES);
     kuldescrfield_config(PAGE, ENTRIES, THERE, PAGE_COLOR, 2, nY, nWidth, nWidth - 1, nHeight);
     for (int n = 0; n < ENTRY_COUNT; ++n)
@@ -128,7 +133,7 @@ static void addEntries(int nY, int nWidth, int nHeight)
                         10 * ENTRY_COUNT, VERTICAL);
 }
 
-static void addStatus(const GUI *page)
+static void addStatus(const GUI* page)
 {
     kulstatbar_create(PAGE, STATUS);
     kulstatbar_config(PAGE, STATUS, PAGE_COLOR, NULL);
@@ -147,7 +152,7 @@ static void addMenuBar(void)
 
 void displayPage(void)
 {
-    const GUI *page = openPage(" Display items ", 72, 20, everySecond);
+    const GUI* page = openPage(" Display items ", 72, 20, everySecond);
     if (!page)
         return;
     char szVersion[256];
@@ -167,7 +172,7 @@ void displayPage(void)
         kullabel_config(PAGE, VERSION, PAGE_COLOR, KUL_KEEP, 2, 1, page->nWidth - 4, 1, LEFT,
                         NOBORDER, szVersion);
         addGauges(4, page->nWidth - 24);
-        addHistory(page->nWidth - 12, 3, 4);
+        addHistory(page->nWidth - 12, 2, 4);
         addEntries(6, page->nWidth - 5, 3);
     }
     addStatus(page);

@@ -11,10 +11,10 @@
 
 static char szFact[64];
 
-void readText(const char *szFile, char *szText, size_t size)
+void readText(const char* szFile, char* szText, size_t size)
 {
     size_t got = 0;
-    FILE *file = fopen(szFile, "r");
+    FILE* file = fopen(szFile, "r");
     if (file) {
         got = fread(szText, 1, size - 1, file);
         fclose(file);
@@ -22,12 +22,12 @@ void readText(const char *szFile, char *szText, size_t size)
     szText[got] = '\0';
 }
 
-long memoryEntry(const char *szName)
+long memoryEntry(const char* szName)
 {
     char szText[4096];
     long nKibibytes = 0;
     readText("/proc/meminfo", szText, sizeof szText);
-    const char *szEntry = strstr(szText, szName);
+    const char* szEntry = strstr(szText, szName);
     if (szEntry)
         sscanf(szEntry + strlen(szName), ": %ld", &nKibibytes);
     return nKibibytes / 1024;
@@ -105,7 +105,7 @@ static void memoryFact(int nForm)
         snprintf(szFact, sizeof szFact, "%ld MiB free", memoryEntry("MemAvailable"));
 }
 
-const char *factText(int nFact, int nForm)
+const char* factText(int nFact, int nForm)
 {
     static void (*const kFacts[FACTS])(int) = {hostFact, kernelFact, uptimeFact, loadFact,
                                                memoryFact};

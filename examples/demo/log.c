@@ -9,16 +9,16 @@
 
 enum { VIEW = OWN, SEARCH_BOX, SEARCH_LABEL, FOLLOWING };
 
-static const char *szLog;
+static const char* szLog;
 static int nFollow = F;
 
-void setLogFile(const char *szFile)
+void setLogFile(const char* szFile)
 {
-    static const char *const kLogs[] = {"/var/log/syslog", "/var/log/messages",
-                                        "/var/log/dpkg.log", "/etc/services"};
+    static const char* const kLogs[] = {"/var/log/syslog", "/var/log/messages", "/var/log/dpkg.log",
+                                        "/etc/services"};
     szLog = szFile;
     for (size_t n = 0; !szLog && n < sizeof kLogs / sizeof *kLogs; ++n) {
-        FILE *file = fopen(kLogs[n], "r");
+        FILE* file = fopen(kLogs[n], "r");
         if (file)
             szLog = kLogs[n];
         if (file)
@@ -29,7 +29,7 @@ void setLogFile(const char *szFile)
 /* Goes on from the line below the first one in view, and from the top when that finds nothing. */
 static void search(void)
 {
-    const char *szText = kultextbox_getText(PAGE, SEARCH_BOX);
+    const char* szText = kultextbox_getText(PAGE, SEARCH_BOX);
     if (!szText || !*szText)
         return;
     const int nFound =
@@ -49,7 +49,7 @@ static void toggleFollow(void)
 
 void logPage(void)
 {
-    const GUI *page = openPage(" Log files ", 78, 22, NULL);
+    const GUI* page = openPage(" Log files ", 78, 22, NULL);
     if (!page)
         return;
     nFollow = F;

@@ -7,7 +7,7 @@
 #include <stdio.h>
 
 static const struct {
-    const char *szName;
+    const char* szName;
     KULCALLBACK open;
 } kPages[] = {
     {"This machine", machinePage}, {"Display items", displayPage}, {"Time zone", zonesPage},
@@ -24,7 +24,7 @@ static void refreshDesktop(void)
     int nLength = 0;
     for (int nFact = HOST; nFact < FACTS && nLength < (int)sizeof szDesktop; ++nFact) {
         /* Left out where it does not fit into the row any more. */
-        const char *szText = factText(nFact, 0);
+        const char* szText = factText(nFact, 0);
         char szMore[72];
         const int nMore = snprintf(szMore, sizeof szMore, "%s%s", nFact > 0 ? "   " : "", szText);
         if (nLength + nMore < COLS - 1 && nLength + nMore < (int)sizeof szDesktop)
@@ -37,8 +37,7 @@ static int smaller(int a, int b)
     return a < b ? a : b;
 }
 
-static void makeDialog(int nChain, const char *szTitle, int nWidth, int nHeight,
-                       KULCALLBACK onPoll)
+static void makeDialog(int nChain, const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
 {
     const int nW = smaller(nWidth, COLS - 1);
     const int nH = smaller(nHeight, LINES - 1);
@@ -48,10 +47,10 @@ static void makeDialog(int nChain, const char *szTitle, int nWidth, int nHeight,
     kulgui_setTabbing(nChain, T);
 }
 
-const GUI *openPage(const char *szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
+const GUI* openPage(const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
 {
     makeDialog(PAGE, szTitle, nWidth, nHeight, onPoll);
-    const CHAIN *chain = GetChain(PAGE);
+    const CHAIN* chain = GetChain(PAGE);
     return chain ? chain->Pointer : NULL;
 }
 
@@ -72,7 +71,7 @@ void quit(void)
     kulgui_leave(MENU_OF_PAGES);
 }
 
-void addBackBar(const GUI *page)
+void addBackBar(const GUI* page)
 {
     kultoolbar_create(PAGE, BACK_BAR);
     kultoolbar_config(PAGE, BACK_BAR, HERE, THERE, OFF, 2, page->nHeight - 4, LATERAL, NULL, NULL,
@@ -81,7 +80,7 @@ void addBackBar(const GUI *page)
     kultoolbar_addButton(PAGE, BACK_BAR, " Quit ", 0, 1, NULL, quit);
 }
 
-void addText(int nRef, int nX, int nY, int nWidth, const char *szText)
+void addText(int nRef, int nX, int nY, int nWidth, const char* szText)
 {
     kullabel_create(PAGE, nRef);
     kullabel_config(PAGE, nRef, PAGE_COLOR, KUL_KEEP, nX, nY, nWidth, 1, LEFT, NOBORDER, szText);
@@ -108,7 +107,7 @@ static void makeMenu(void)
     kuldynmenu_addElement(MENU_OF_PAGES, OWN, "Quit", NULL, NULL, 1);
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     setLogFile(argc > 1 ? argv[1] : NULL);
     kulgui_create(DESKTOP);

@@ -13,7 +13,7 @@ enum { INTERFACES = OWN, CHECKED };
 static int nInterfaces;
 
 /* A line of an interface's directory, without its end. */
-static void readProperty(const char *szInterface, const char *szProperty, char *szText, size_t size)
+static void readProperty(const char* szInterface, const char* szProperty, char* szText, size_t size)
 {
     char szFile[320];
     snprintf(szFile, sizeof szFile, "/sys/class/net/%s/%s", szInterface, szProperty);
@@ -31,7 +31,7 @@ static void countChecked(void)
     kullabel_setText(PAGE, CHECKED, szText);
 }
 
-static void addInterface(const char *szName)
+static void addInterface(const char* szName)
 {
     char szState[16];
     char szMtu[16];
@@ -48,15 +48,15 @@ static void addInterface(const char *szName)
 
 void networkPage(void)
 {
-    const GUI *page = openPage(" Network interfaces ", 50, 18, NULL);
+    const GUI* page = openPage(" Network interfaces ", 50, 18, NULL);
     if (!page)
         return;
     kulcheckbox_create(PAGE, INTERFACES);
     kulcheckbox_config(PAGE, INTERFACES, HERE, THERE, OFF, 2, 2, page->nWidth - 4,
                        page->nHeight - 6, NOBORDER, NULL, NULL, NULL, countChecked);
     nInterfaces = 0;
-    DIR *directory = opendir("/sys/class/net");
-    for (struct dirent *entry; directory && (entry = readdir(directory));) {
+    DIR* directory = opendir("/sys/class/net");
+    for (struct dirent* entry; directory && (entry = readdir(directory));) {
         if (entry->d_name[0] != '.')
             addInterface(entry->d_name);
     }

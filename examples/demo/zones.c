@@ -15,7 +15,7 @@ enum { MOST_ZONES = 600, NAME_SIZE = 40 };
 static char names[MOST_ZONES][NAME_SIZE];
 static int nZones;
 
-static int byName(const void *a, const void *b)
+static int byName(const void* a, const void* b)
 {
     return strcmp(a, b);
 }
@@ -24,7 +24,7 @@ static int byName(const void *a, const void *b)
 static void readZones(void)
 {
     char szLine[256];
-    FILE *table = fopen("/usr/share/zoneinfo/zone1970.tab", "r");
+    FILE* table = fopen("/usr/share/zoneinfo/zone1970.tab", "r");
     nZones = 0;
     while (table && nZones < MOST_ZONES && fgets(szLine, sizeof szLine, table)) {
         if (szLine[0] != '#' && sscanf(szLine, "%*s %*s %39s", names[nZones]) == 1)
@@ -53,7 +53,7 @@ static void showTime(void)
 
 void zonesPage(void)
 {
-    const GUI *page = openPage(" Time zone ", 50, 20, showTime);
+    const GUI* page = openPage(" Time zone ", 50, 20, showTime);
     if (!page)
         return;
     readZones();
