@@ -373,6 +373,672 @@ KULGUI_API int kulexitbutton_hide(int nChain, int nRef);
  * kulgui_leave, -10000 when it is gone or the line was hung up. */
 KULGUI_API int kulbutton_execKeys(int nChain, int nRef);
 
+/* ---- Menus ---------------------------------------------------------------------------------- *
+ *
+ *     File   Edit   Help        Left, Right: select; Enter: onClick
+ *
+ * Menus of all kinds go round their elements and one place more, after the last, on which none is
+ * selected. GetCurrentSelectedMenuElement says which one is; elements have no callbacks of their
+ * own. A menu keeps Tab and Escape (kulgui_setTabbing gives them away).
+ */
+
+/** One element of a menu or dynamic menu. */
+typedef struct kulmenuelement {
+    int nEnable; /* 1: enabled; else drawn in nColorDisable while the menu has the focus */
+    int nExitCode;
+    int* nExitFlag;
+    char* szText;
+    struct kulmenuelement* Prev; /* of the first one: the last, NULL when it is alone */
+    struct kulmenuelement* Next; /* of the last one: NULL */
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick; /* kept, not run */
+} KULMENUELEMENT;
+
+typedef struct kulmenu {
+    int nColorFocus;
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX;
+    int nY;
+    KULMENUELEMENT* Element; /* the first one */
+    int nSelect;             /* position from 0; nElements selects none */
+    int nEnable;
+    int nElements;
+    int nVisible;
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect; /* kept, not run */
+    KULCALLBACK onClick;
+} KULMENU;
+
+/** Adds a menu to a dialog. Returns 0, -10018 when a component has that nRef, else what
+ * CreateUIComponent returns. */
+KULGUI_API int kulmenu_create(int nChain, int nRef);
+
+/** Sets a menu up, without elements, at column 2 of row 2. The three colour sets: KUL_KEEP takes
+ * the dialog's; in focus the selected element is in nColorFocus, the other ones in nColorUnfocus
+ * or nColorDisable, without focus all are in nColorUnfocus. onFocus and onUnfocus run when the
+ * menu gets and loses the focus, onClick at Enter. Returns 0, -1 for an unknown component. */
+KULGUI_API int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                              int nColorDisable, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
+                              KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Appends an element. szText is copied; nEnable: 1 or not; onSelect is not kept. Returns 0, -1
+ * for an unknown menu or without memory. */
+KULGUI_API int kulmenu_addElement(int nChain, int nRef, const char* szText, int nEnable,
+                                  KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Removes the last element, whatever nSelection is. Returns 0, 1 when it was the only one, -1 for
+ * an unknown menu or one without elements. */
+KULGUI_API int kulmenu_remElement(int nChain, int nRef, int nSelection);
+
+/** The element at a position from 0, the library's; its fields may be changed. Positions above 30
+ * and negative ones give the element at 30. NULL for an unknown menu or when there is none. */
+KULGUI_API KULMENUELEMENT* kulmenu_getElement(int nChain, int nRef, int nElement);
+
+/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulmenu_show(int nChain, int nRef);
+KULGUI_API int kulmenu_hide(int nChain, int nRef);
+
+/** Gives a menu the keys until it loses the focus. Returns 10 for the next component when it is
+ * hidden or no menu, or when ExitUIorGUIorChains says that a navigation flag is set; 10 or -10 when
+ * tabbing, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave, -10000 when it is gone or the line
+ * was hung up. */
+KULGUI_API int kulmenu_execKeys(int nChain, int nRef);
+
+/* ---- Dynamic menus -------------------------------------------------------------------------- *
+ *
+ *     ┌──────────────┬
+ *     │Berlin        █      Up, Down: select; Enter: onClick
+ *     │Bern          │
+ *     └──────────────┴
+ *
+ * The list scrolls with the selection. The bar, when there are more elements than rows, stands
+ * still.
+ */
+
+typedef struct kuldynmenu {
+    int nColorFocus;
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX; /* of the frame */
+    int nY;
+    int nWidth; /* inside of the frame */
+    int nHeight;
+    int nVisible;
+    int Enable;
+    int nMaxLength; /* of the texts added so far */
+    int nElements;  /* added so far; not counted down */
+    int nSelect;    /* position from 0; nElements selects none */
+    KULMENUELEMENT* Element;
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect; /* kept, not run */
+    KULCALLBACK onClick;
+} KULDYNMENU;
+
+/** Adds a dynamic menu to a dialog. Returns 0, -10021 when a component has that nRef, else what
+ * CreateUIComponent returns. */
+KULGUI_API int kuldynmenu_create(int nChain, int nRef);
+
+/** Sets a dynamic menu up, without elements. Colour sets as kulmenu_config, and the frame in
+ * nColorFocus or nColorUnfocus. nX, nY: corner of the frame; nWidth, nHeight: columns and rows
+ * inside of it; below 1 nothing is drawn. Returns 0, -1 for an unknown component. */
+KULGUI_API int kuldynmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                 int nColorDisable, int nX, int nY, int nWidth, int nHeight,
+                                 KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
+                                 KULCALLBACK onClick);
+
+/** As kulmenu_addElement; texts are cut to the menu's width. Mind the place of nEnable. */
+KULGUI_API int kuldynmenu_addElement(int nChain, int nRef, const char* szText, KULCALLBACK onSelect,
+                                     KULCALLBACK onClick, int nEnable);
+
+/** As kulmenu_remElement, but nElements and nSelect stay as they are. */
+KULGUI_API int kuldynmenu_remElement(int nChain, int nRef, int nSelection);
+
+/** As kulmenu_getElement. */
+KULGUI_API KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElement);
+
+/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kuldynmenu_show(int nChain, int nRef);
+KULGUI_API int kuldynmenu_hide(int nChain, int nRef);
+
+/** As kulmenu_execKeys; a hidden one gets the keys as well. */
+KULGUI_API int kuldynmenu_execKeys(int nChain, int nRef);
+
+/* ---- Description menus ---------------------------------------------------------------------- *
+ *
+ *     Network   Storage   About
+ *     ┌──────────────────┐_____________      Left, Right: select; Enter: onClick
+ *     │Host name and     │
+ *     │addresses.        │
+ *     └──────────────────┘
+ */
+
+typedef struct kuldescrmenuelement {
+    int nEnable; /* 1: enabled; else drawn in nColorDisable while the menu has the focus */
+    int nExitCode;
+    int* nExitFlag;
+    char* szText;
+    char* szBoxText;
+    struct kuldescrmenuelement* Prev; /* of the first one: the last, NULL when it is alone */
+    struct kuldescrmenuelement* Next; /* of the last one: NULL */
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick; /* kept, not run */
+} KULDESCRMENUELEMENT;
+
+typedef struct kuldescrmenu {
+    int nColorFocus;
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX;
+    int nY;
+    int nBarLength; /* of the line below the texts */
+    int nBoxWidth;  /* with the frame */
+    int nBoxHeight; /* with the lower edge of the frame; the upper one is on the line */
+    KULDESCRMENUELEMENT* Element;
+    int nVisible;
+    int nElements;
+    int nSelect; /* position from 0; -1 and nElements select none */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect; /* kept, not run */
+    KULCALLBACK onClick;
+} KULDESCRMENU;
+
+/** Adds a description menu to a dialog. Returns 0, -10020 when a component has that nRef, else
+ * what CreateUIComponent returns. */
+KULGUI_API int kuldescrmenu_create(int nChain, int nRef);
+
+/** Sets a description menu up, without elements, at column 2 of row 2: nX and nY are not used.
+ * Colour sets as kulmenu_config; frame and description are in nColorFocus or nColorUnfocus.
+ * nBarLength, nBoxWidth, nBoxHeight: KUL_KEEP takes 75, 20 and 19. The description has nBoxWidth -
+ * 3 columns and nBoxHeight - 2 rows. Returns 0, -1 for an unknown component. */
+KULGUI_API int kuldescrmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                   int nColorDisable, int nX, int nY, int nBarLength, int nBoxWidth,
+                                   int nBoxHeight, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
+                                   KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Appends an element. szText, for the bar, and szBoxText, its description, are copied; nEnable:
+ * 1 or not; onSelect is not kept. Returns 0, -1 for an unknown menu or without memory. */
+KULGUI_API int kuldescrmenu_addElement(int nChain, int nRef, int nEnable, const char* szText,
+                                       const char* szBoxText, KULCALLBACK onSelect,
+                                       KULCALLBACK onClick);
+
+/** As kulmenu_remElement, but nElements and nSelect stay as they are. */
+KULGUI_API int kuldescrmenu_remElement(int nChain, int nRef, int nSelection);
+
+/** As kulmenu_getElement. */
+KULGUI_API KULDESCRMENUELEMENT* kuldescrmenu_getElement(int nChain, int nRef, int nElement);
+
+/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kuldescrmenu_show(int nChain, int nRef);
+KULGUI_API int kuldescrmenu_hide(int nChain, int nRef);
+
+/** Gives a description menu the keys until it loses the focus, hidden or not. Returns 10 at once
+ * when it is none; 10 or -10 when tabbing, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
+ * -10000 when it is gone or the line was hung up. */
+KULGUI_API int kuldescrmenu_execKeys(int nChain, int nRef);
+
+/* ---- Toolbars ------------------------------------------------------------------------------- *
+ *
+ *     ┌──────┐ ┌──────┐      Left, Right (Up, Down when VERTICAL): next enabled button
+ *     │ Back │ │ Quit │      Enter: onClick of the toolbar, then of the button
+ *     └──────┘ └──────┘      Tab, Escape: next, previous component
+ */
+
+typedef struct kultoolbarbutton {
+    int nX; /* where it was drawn */
+    int nY;
+    char* szText;
+    int nEnable; /* 1: enabled; else drawn in nColorDisable and passed over */
+    int nExitCode;
+    int* nExitFlag;
+    struct kultoolbarbutton* Prev; /* of the first one: the last, NULL when it is alone */
+    struct kultoolbarbutton* Next; /* of the last one: NULL */
+    KULCALLBACK onSelect;          /* kept, not run */
+    KULCALLBACK onClick;
+} KULTOOLBARBUTTON;
+
+typedef struct kultoolbar {
+    int nColorFocus;
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX; /* of the first button */
+    int nY;
+    KULTOOLBARBUTTON* Button; /* the first one */
+    int nSelect;              /* position from 0 */
+    int nButtons;
+    int nMaxLength; /* of the texts; buttons are two columns wider */
+    int nVisible;
+    int nExitCode;
+    int* nExitFlag;
+    int nOrient; /* ORIENTATION */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect; /* kept, not run */
+    KULCALLBACK onClick;
+} KULTOOLBAR;
+
+/** Adds a toolbar to a dialog. Returns 0, -10027 when a component has that nRef, else what
+ * CreateUIComponent returns. */
+KULGUI_API int kultoolbar_create(int nChain, int nRef);
+
+/** Sets a toolbar up, without buttons. The three colour sets: KUL_KEEP takes the dialog's; the
+ * selected button is in nColorFocus while the toolbar has the focus, the other ones in
+ * nColorUnfocus or nColorDisable. nX, nY: corner of the first button. nOrient: an ORIENTATION;
+ * anything else is LATERAL. onFocus and onUnfocus run when the toolbar gets and loses the focus.
+ * Returns 0, -1 for an unknown component. */
+KULGUI_API int kultoolbar_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                 int nColorDisable, int nX, int nY, int nOrient,
+                                 KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
+                                 KULCALLBACK onClick);
+
+/** Appends a button. szText is copied; nSelect is not used; nEnable: 1 or not; onClick runs at
+ * Enter while the button is selected. Returns 0, -1 for an unknown toolbar or without memory. */
+KULGUI_API int kultoolbar_addButton(int nChain, int nRef, const char* szText, int nSelect,
+                                    int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** These three do nothing and return 0. */
+KULGUI_API int kultoolbar_addOKButton(int nChain, int nRef, const char* szText, int nSelect,
+                                      int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
+KULGUI_API int kultoolbar_addCancelButton(int nChain, int nRef, const char* szText, int nSelect,
+                                          int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
+KULGUI_API int kultoolbar_addExitButton(int nChain, int nRef, const char* szText, int nSelect,
+                                        int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** As kulmenu_remElement. */
+KULGUI_API int kultoolbar_remButton(int nChain, int nRef, int nSelection);
+
+/** As kulmenu_getElement. */
+KULGUI_API KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nButton);
+
+/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kultoolbar_show(int nChain, int nRef);
+KULGUI_API int kultoolbar_hide(int nChain, int nRef);
+
+/** Gives a toolbar the keys until it loses the focus. Returns 10 after Tab and when it is hidden,
+ * -10 after Escape; -1 when it is no toolbar; 0 when it gets hidden meanwhile and after
+ * kulgui_setFocus; KUL_LEFT after kulgui_leave; -10000 when it is gone, the line was hung up, or
+ * its dialog gets hidden, which hides dialog 1 as well. */
+KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
+
+/* ---- File viewers --------------------------------------------------------------------------- *
+ *
+ *     ┌──────────────────────┬   Up, Down: a row             Home, End: start and end of the file
+ *     │12:00:01 link is up   │   PageUp, PageDown: a view    Enter: onClick
+ *     │12:00:04 eth0: 100    █   Backspace, Space: as these  Tab, Escape: next, previous component
+ *     │Mbit/s, full duplex   │
+ *     └──────────────────────┴   Pages keep one row in view. onSelect runs after each move.
+ *
+ * A text file of any size, also while it grows or shrinks; the memory for it is below 1 MiB. Lines
+ * wrap at blanks; only a word that is wider than a row is cut. Lines are those between newlines,
+ * counted from 0, whatever rows they take. A tab goes to the next multiple of 8 columns of its row,
+ * a carriage return at the end of a line is not shown, and '?' stands for each character that
+ * cannot be shown in the program's locale. Lines above 64 KiB wrap anew at multiples of 64 KiB.
+ *
+ * Only the number of a line and a search read through the file; what was counted is remembered.
+ * nPosition of the selection is how far the view is in the file: 0 at its start, 100 when its end
+ * is in view.
+ */
+
+typedef struct kulfileview {
+    int nColorFocus;   /* text, with the focus */
+    int nColorUnfocus; /* text without; frame and scroll bar */
+    int nColorDisable; /* kept, not used */
+    int nX;
+    int nY;
+    int nWidth; /* with the frame, or with the scroll bar in the last column */
+    int nHeight;
+    char* szFileName; /* what is shown; NULL for nothing */
+    int nVisible;
+    int nBorder; /* BORDERS */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+} KULFILEVIEW;
+
+/** Adds a file viewer to a dialog. Returns 0, -10025 when a component has that nRef, -10009 for an
+ * unknown chain, -10010 for one without dialog, -10019 or -1 without memory. */
+KULGUI_API int kulfileview_create(int nChain, int nRef);
+
+/** Sets a file viewer up. The three colour sets: KUL_KEEP takes the dialog's. nX, nY: top left
+ * corner; nWidth, nHeight: the size with the frame. nBorder: BORDER draws a frame, NOBORDER, the
+ * default, none; other values count as the default. szFileName is shown as by kulfileview_load.
+ * onFocus and onUnfocus run when the viewer gets and loses the focus. Returns 0, -1 for an unknown
+ * component, -10028 when the file cannot be loaded: the viewer is set up then, and empty. */
+KULGUI_API int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                  int nColorDisable, int nX, int nY, int nWidth, int nHeight,
+                                  int nBorder, const char* szFileName, KULCALLBACK onFocus,
+                                  KULCALLBACK onUnfocus, KULCALLBACK onSelect,
+                                  KULCALLBACK onClick);
+
+/** Shows a file from its start, or from its end while following. NULL shows nothing. The name is
+ * copied. Returns 0, -1 for an unknown component, -10028 for what cannot be opened or read or is
+ * no regular file (never waits for a pipe or device), or without memory: what was shown stays. */
+KULGUI_API int kulfileview_load(int nChain, int nRef, const char* szFileName);
+
+/** With T the view goes to the end of the file and stays there while the file grows, by a look once
+ * a second; who moves up stays where he is until he is back at the end. A file that was cut short,
+ * or replaced by another one of its name, is shown from its end. F, the start, leaves the view
+ * where it is. Returns 0, -1 for an unknown component. */
+KULGUI_API int kulfileview_setFollow(int nChain, int nRef, int bFollow);
+
+/** Finds the first line from line nFrom on that contains szText, byte by byte, and moves the view
+ * there. Returns the line, -1 when there is none, which leaves the view, or for an unknown
+ * component. Line + 1 is where to go on; near the end the found line is not the first in view. */
+KULGUI_API int kulfileview_find(int nChain, int nRef, const char* szText, int nFrom);
+
+/** The first line in view, 0 without a file; moving to a line, or as near as there are lines to
+ * fill the view. -1 for an unknown component; setting gives 0. */
+KULGUI_API int kulfileview_getPosition(int nChain, int nRef);
+KULGUI_API int kulfileview_setPosition(int nChain, int nRef, int nLine);
+
+/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulfileview_show(int nChain, int nRef);
+KULGUI_API int kulfileview_hide(int nChain, int nRef);
+
+/** Gives a file viewer the keys until it loses the focus. Returns 10 after Tab and at once when it
+ * is hidden, -10 after Escape, 0 when it gets hidden meanwhile and after kulgui_setFocus, KUL_LEFT
+ * after kulgui_leave, -10000 when it is gone or none, or the line was hung up. */
+KULGUI_API int kulfileview_execKeys(int nChain, int nRef);
+
+/* ---- Check box lists ------------------------------------------------------------------------ *
+ *
+ *     ┌──────────────────◆
+ *     │[X] Wake on LAN   │     Up, Down: move the cursor, round the list
+ *     │[ ] Log to flash  │     Space, Enter: check or uncheck, onClick
+ *     │    (wears it out)│     Tab, Escape: next and previous component
+ *     └──────────────────┘
+ *
+ * Every element can be checked by itself. Texts are wrapped to nWidth - 4 columns, two less with a
+ * border; a list that is longer than its box scrolls and gets a scroll bar in its last column.
+ */
+
+/** An element; programs may change nEnable, nSelect and onSelect. The elements form a ring, where
+ * a lone one has no links. */
+typedef struct kulcheckelement {
+    int nEnable; /* 1: enabled; else drawn in nColorDisable, but still to be checked */
+    int nExitCode;
+    int* nExitFlag;
+    int nSelect; /* 1: checked */
+    char* szText;
+    int nHeight; /* rows of the wrapped text */
+    struct kulcheckelement* Prev;
+    struct kulcheckelement* Next;
+    KULCALLBACK onSelect;
+    KULCALLBACK onUnselect; /* not run */
+} KULCHECKELEMENT;
+
+typedef struct kulcheckbox {
+    int nColorFocus; /* of the cursor's element, while the list has the focus */
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX;
+    int nY;
+    int nWidth; /* with the border */
+    int nHeight;
+    KULCHECKELEMENT* Element;     /* the head */
+    KULCHECKELEMENT* FirstShowed; /* first and last element in view */
+    KULCHECKELEMENT* LastShowed;
+    int nVisible;
+    int nSelect;      /* index of the cursor's element */
+    int nFirstShowed; /* indexes of the elements in view; -1 before the first element */
+    int nLastShowed;
+    int nElements;
+    int bScrollbar; /* T once the elements did not fit */
+    int nBorder;    /* BORDERS */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+} KULCHECKBOX;
+
+/** Adds a check box list to a dialog. Returns 0, -10023 when a component has that nRef, else what
+ * kulbutton_create returns. */
+KULGUI_API int kulcheckbox_create(int nChain, int nRef);
+
+/** Sets a list up, without elements: those that it had are freed. The three colour sets: KUL_KEEP
+ * takes the dialog's. nX, nY: top left corner; nWidth, nHeight: size with the border. nBorder:
+ * BORDERS, anything else is NOBORDER. onFocus runs when the list gets the focus, onUnfocus when it
+ * loses it, onSelect after the cursor moved and the element's own, onClick after Space and Enter.
+ * Returns 0, -1 for an unknown component. */
+KULGUI_API int kulcheckbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                  int nColorDisable, int nX, int nY, int nWidth, int nHeight,
+                                  int nBorder, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
+                                  KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Appends an element. szText is copied. nSelect: 1 is checked; nEnable: 1 or not. onSelect runs
+ * when the cursor comes to it; onClick is not used. Returns 0, -1 for an unknown component or
+ * without memory. */
+KULGUI_API int kulcheckbox_addElement(int nChain, int nRef, const char* szText, int nSelect,
+                                      int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Does nothing and returns 0: elements cannot be taken out. */
+KULGUI_API int kulcheckbox_remElement(int nChain, int nRef, int nSelection);
+
+/** The element at an index from 0, counted round the ring; a negative index and one above 30 count
+ * as 30. NULL for an unknown component or an empty list, and for any other index than 0 in a list
+ * of one. */
+KULGUI_API KULCHECKELEMENT* kulcheckbox_getElement(int nChain, int nRef, int nElement);
+
+/** Checks or unchecks the element at an index below 30. Returns 0, -1 for an unknown component,
+ * another index or where getElement gives NULL. */
+KULGUI_API int kulcheckbox_setSelect(int nChain, int nRef, int nElement);
+
+/** 1 when that element is checked, 0 when not; -1 where setSelect gives it. */
+KULGUI_API int kulcheckbox_getSelect(int nChain, int nRef, int nElement);
+
+/** Index of the cursor's element while the list has the focus, else -1. */
+KULGUI_API int kulcheckbox_getFocus(int nChain, int nRef);
+
+/** Show or hide the list from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulcheckbox_show(int nChain, int nRef);
+KULGUI_API int kulcheckbox_hide(int nChain, int nRef);
+
+/** Gives a list the keys until it loses the focus. Returns 10 after Tab and -10 after Escape, 10
+ * at once when it is hidden, 0 when a callback hides it or after kulgui_setFocus, KUL_LEFT after
+ * kulgui_leave, -10000 when it is gone or no check box list, or the line was hung up. */
+KULGUI_API int kulcheckbox_execKeys(int nChain, int nRef);
+
+/** The steps of scrolling, by the record alone; a list without rows has an empty view.
+ * SetFirst... begins the view with the element at nFirstShowed, SetFirst...FromEnd so that the
+ * last element is the last in view, SetLast... ends it where the box is full. Check... gives T when
+ * the last element in view is cut, else F. GetTotal... gives the rows of all elements. */
+KULGUI_API void SetFirstCheckElement(KULCHECKBOX* thisCheckbox);
+KULGUI_API void SetFirstCheckElementFromEnd(KULCHECKBOX* thisCheckbox);
+KULGUI_API void SetLastCheckElement(KULCHECKBOX* thisCheckbox);
+KULGUI_API int CheckLastCheckElementForSpillover(const KULCHECKBOX* thisCheckbox);
+KULGUI_API int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox);
+
+/* ---- Option lists --------------------------------------------------------------------------- *
+ *
+ *     ( ) Europe/Athens        Up, Down: move the cursor, round the list
+ *     (o) Europe/Berlin        Space, Enter: choose, onClick of the list, then of the element
+ *     ( ) Europe/Dublin        Tab, Escape: next and previous component
+ *
+ * One element is chosen, wherever the cursor is. Texts and scrolling as in check box lists.
+ */
+
+/** An element; programs may change nEnable and the callbacks. Linked as in check box lists. */
+typedef struct kuloptionelement {
+    int nEnable; /* 1: enabled; else drawn in nColorDisable, but still to be chosen */
+    int nExitCode;
+    int* nExitFlag;
+    char* szText;
+    int nHeight; /* rows of the wrapped text */
+    struct kuloptionelement* Prev;
+    struct kuloptionelement* Next;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+} KULOPTIONELEMENT;
+
+typedef struct kuloptions {
+    int nColorFocus; /* of the cursor's element, while the list has the focus */
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX;
+    int nY;
+    int nWidth; /* with the border */
+    int nHeight;
+    KULOPTIONELEMENT* Element;     /* the head */
+    KULOPTIONELEMENT* FirstShowed; /* first and last element in view */
+    KULOPTIONELEMENT* LastShowed;
+    int nVisible;
+    int nSelect;      /* index of the chosen element */
+    int nFirstShowed; /* indexes of the elements in view; -1 before the first element */
+    int nLastShowed;
+    int nPosition; /* index of the cursor's element */
+    int nElements;
+    int bScrollbar; /* T once the elements did not fit */
+    int nBorder;    /* BORDERS */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+} KULOPTIONS;
+
+/** Adds an option list to a dialog. Returns 0, -10024 when a component has that nRef, else what
+ * kulbutton_create returns. */
+KULGUI_API int kuloptions_create(int nChain, int nRef);
+
+/** As kulcheckbox_config. nSelect is the index of the chosen element, nPosition that of the
+ * cursor's, KUL_KEEP for 0; an index that no element has chooses none. onSelect runs before the
+ * element's own, onClick too. */
+KULGUI_API int kuloptions_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                 int nColorDisable, int nX, int nY, int nWidth, int nHeight,
+                                 int nBorder, int nSelect, int nPosition, KULCALLBACK onFocus,
+                                 KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Appends an element. szText is copied. nEnable: 1 or not. onSelect runs when the cursor comes to
+ * it, onClick when it is chosen. Returns 0, -1 for an unknown component or without memory. */
+KULGUI_API int kuloptions_addElement(int nChain, int nRef, const char* szText, int nEnable,
+                                     KULCALLBACK onSelect, KULCALLBACK onClick);
+
+/** Does nothing and returns 0: elements cannot be taken out. */
+KULGUI_API int kuloptions_remElement(int nChain, int nRef, int nSelection);
+
+/** As kulcheckbox_getElement. */
+KULGUI_API KULOPTIONELEMENT* kuloptions_getElement(int nChain, int nRef, int nElement);
+
+/** Choose the element at an index from 0, or ask which one is chosen. An index that no element has
+ * chooses none. Both return the index, -1 for an unknown component. */
+KULGUI_API int kuloptions_setClicked(int nChain, int nRef, int nSelect);
+KULGUI_API int kuloptions_getClicked(int nChain, int nRef);
+
+/** Index of the cursor's element while the list has the focus, else -1. */
+KULGUI_API int kuloptions_getSelected(int nChain, int nRef);
+
+/** Show or hide the list from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kuloptions_show(int nChain, int nRef);
+KULGUI_API int kuloptions_hide(int nChain, int nRef);
+
+/** As kulcheckbox_execKeys, but -1 at once when the list is hidden, unknown or no option list. */
+KULGUI_API int kuloptions_execKeys(int nChain, int nRef);
+
+/** As their like of the check box lists. */
+KULGUI_API void SetFirstOptionElement(KULOPTIONS* theseOptions);
+KULGUI_API void SetFirstOptionElementFromEnd(KULOPTIONS* theseOptions);
+KULGUI_API void SetLastOptionElement(KULOPTIONS* theseOptions);
+KULGUI_API int CheckLastOptionElementForSpillover(const KULOPTIONS* theseOptions);
+KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
+
+/* ---- Text boxes ----------------------------------------------------------------------------- *
+ *
+ *     ┌────────────┐      Letters overwrite; Backspace, Delete
+ *     │gateway     │      Arrows, Home, End: move the cursor
+ *     └────────────┘      Tab, Enter: next component; Escape: previous one
+ *
+ * onKey runs after each of these keys. A text is bytes, one a cell, row by row; blanks at the start
+ * of a row are not shown.
+ */
+
+typedef enum masking { NOMASK = -1, MASK = 0 } MASKING;
+typedef enum cursor { SHOWCURSOR = 0, HIDECURSOR = 1 } CURSOR;
+
+typedef struct kultextbox {
+    int nColorFocus;
+    int nColorUnfocus;
+    int nColorDisable;
+    int nX;
+    int nY;
+    int nWidth; /* with the border */
+    int nHeight;
+    int nBorder;    /* BORDERS */
+    int nCursor;    /* CURSOR; for DrawTextBox */
+    int nCursorPos; /* index into the text */
+    int nLength;    /* of the text */
+    int nMaxLength; /* cells inside the border */
+    char* szText;
+    const char* szCharSet; /* the program's */
+    int nMask;             /* MASKING */
+    int nVisible;
+    int nEnable; /* 1: enabled; else drawn in nColorDisable */
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onKey;
+} KULTEXTBOX;
+
+/** Adds a text box to a dialog. Returns 0, -10026 when a component has that nRef, else what
+ * kulbutton_create returns. */
+KULGUI_API int kultextbox_create(int nChain, int nRef);
+
+/** Sets a box up, with an empty text; the earlier one is freed. The three colour sets: KUL_KEEP
+ * takes the dialog's. nX, nY: top left corner; nWidth, nHeight: size with the border, and so the
+ * room for text. nBorder: BORDERS, anything else is NOBORDER. nMask: MASK shows asterisks, anything
+ * else is NOMASK. szCharSet: the characters that can be typed, NULL for all that print; it is not
+ * copied and must outlive the box. onFocus runs when the box gets the focus, onUnfocus when it
+ * loses it. Returns 0, -1 for an unknown component, without memory or for more than 16 million
+ * cells. */
+KULGUI_API int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
+                                 int nColorDisable, int nX, int nY, int nWidth, int nHeight,
+                                 int nBorder, int nMask, const char* szCharSet, KULCALLBACK onFocus,
+                                 KULCALLBACK onUnfocus, KULCALLBACK onKey);
+
+/** Copies a text into the box; the cursor stays where it is, or moves to its end if that comes
+ * first. Returns 0, -1 for an unknown component or NULL, and for a text that has nMaxLength
+ * characters or more: then the box is empty. */
+KULGUI_API int kultextbox_setText(int nChain, int nRef, const char* szText);
+
+/** The text, the library's own; NULL for an unknown component or one that was not set up. */
+KULGUI_API char* kultextbox_getText(int nChain, int nRef);
+
+/** Show or hide the box from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kultextbox_show(int nChain, int nRef);
+KULGUI_API int kultextbox_hide(int nChain, int nRef);
+
+/** Gives a box the keys until it loses the focus. Returns 10 after Tab and Enter, -10 after Escape,
+ * 10 at once when it is hidden, 0 when a callback hides it or after kulgui_setFocus, KUL_LEFT after
+ * kulgui_leave, -10000 when it is gone or no text box, or the line was hung up. */
+KULGUI_API int kultextbox_execKeys(int nChain, int nRef);
+
+/** The steps of editing. They change the record and draw nothing. Delete at the end of the text
+ * takes off its last character. */
+KULGUI_API void TextBoxGoHome(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoEnd(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoRight(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoLeft(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoUp(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoDown(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxBackspace(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxDelete(KULTEXTBOX* thisBox);
+
+/** Writes the character of a key over the one at the cursor, if it is allowed and there is room.
+ * With a character set the low byte of the key counts. */
+KULGUI_API void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke);
+
+/** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. With a border
+ * its rows go over the right side of it. */
+KULGUI_API void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor);
+
+/** Index of the first such character in a text; -1 for none or NULL. */
+KULGUI_API int FindChar(char cOneChar, const char* szWholeString);
+
+/** Index of the first szStr in szIn, gone through once: a character that breaks a match begins
+ * none. -1 for none or NULL. */
+KULGUI_API int FindString(const char* szStr, const char* szIn);
+
 /* ---- Selection and navigation --------------------------------------------------------------- */
 
 /** The record of what has the focus; always the same one, the library's. */
@@ -415,6 +1081,9 @@ KULGUI_API int GetCurrentCheckboxSelection(void);
 KULGUI_API int GetCurrentSelectedToolbarButton(void);
 KULGUI_API int GetCurrentSelectedMenuElement(void);
 
+/** The text of the text box that has the focus, the library's own; NULL when it is none. */
+KULGUI_API char* GetCurrentTextboxData(void);
+
 /** Runs a callback and puts the selection back as it was before; NULL does nothing. */
 KULGUI_API void ExecOnFunction(KULCALLBACK Function);
 
@@ -436,16 +1105,44 @@ KULGUI_API int SetUIVisibility(int nChain, int nRef, int nVisible);
 /** Gives a component its record of kind nType (UI_TYPE), cleared. 0, -1 for NULL, an unknown kind
  * or without memory. The calls below do so for one kind each. */
 KULGUI_API int AttachComponentToUI(UI* thisUI, int nType);
+KULGUI_API int AttachMenuComponentToUI(UI* thisUI);
+KULGUI_API int AttachDynmenuComponentToUI(UI* thisUI);
+KULGUI_API int AttachDescrmenuComponentToUI(UI* thisUI);
 KULGUI_API int AttachButtonComponentToUI(UI* thisUI);
+KULGUI_API int AttachToolbarComponentToUI(UI* thisUI);
+KULGUI_API int AttachCheckboxComponentToUI(UI* thisUI);
+KULGUI_API int AttachOptionsComponentToUI(UI* thisUI);
+KULGUI_API int AttachTextboxComponentToUI(UI* thisUI);
+KULGUI_API int AttachFileviewComponentToUI(UI* thisUI);
 
 /** Set a record to its defaults, with the dialog's colours. 0, -1 for NULL. */
+KULGUI_API int ConfigMenuComponent(GUI* thisGUI, KULMENU* thisMenu);
+KULGUI_API int ConfigDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu);
+KULGUI_API int ConfigDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu);
 KULGUI_API int ConfigButtonComponent(GUI* thisGUI, KULBUTTON* thisButton);
+KULGUI_API int ConfigToolbarComponent(GUI* thisGUI, KULTOOLBAR* thisTB);
+KULGUI_API int ConfigCheckboxComponent(GUI* thisGUI, KULCHECKBOX* thisCheck);
+KULGUI_API int ConfigOptionsComponent(GUI* thisGUI, KULOPTIONS* thisList);
+KULGUI_API int ConfigTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB);
+KULGUI_API int ConfigFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView);
 
 /** Draws every component; the one at position nCurrentUI of the list, from 0, as focused. */
 KULGUI_API void ShowUIComponents(GUI* thisGUI);
 
 /** Draw one component; nFocus 1 takes the colours of the focus. */
+KULGUI_API void ShowMenuComponent(GUI* thisGUI, KULMENU* thisMenu, int nFocus);
+KULGUI_API void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus);
+KULGUI_API void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus);
 KULGUI_API void ShowButtonComponent(GUI* thisGUI, KULBUTTON* thisButton, int nFocus);
+KULGUI_API void ShowToolbarComponent(GUI* thisGUI, KULTOOLBAR* thisTB, int nFocus);
+KULGUI_API void ShowCheckboxComponent(GUI* thisGUI, KULCHECKBOX* thisCheckbox, int nFocus);
+KULGUI_API void ShowOptionsComponent(GUI* thisGUI, KULOPTIONS* theseOptions, int nFocus);
+KULGUI_API void ShowTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB, int nFocus);
+KULGUI_API void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus);
+
+/** Draws one button of a toolbar where its nX and nY say. */
+KULGUI_API void ShowToolbarButtonComponent(GUI* thisGUI, KULTOOLBAR* thisTB,
+                                           KULTOOLBARBUTTON* thisButton, int nFocus);
 
 /** Draws a button 3 rows high, its text centred; nHeight is not used. */
 KULGUI_API void DrawButton(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nColorSet,
@@ -455,8 +1152,319 @@ KULGUI_API void DrawButton(WINDOW* win, int nY, int nX, int nHeight, int nWidth,
  * an error. Returns the last result, -1 for NULL. */
 KULGUI_API int WipeAllUIComponents(UI* firstUI);
 
-/** Free one record. 0, -1 for NULL. */
+/** Free one record and what it owns. 0; for NULL -1 (button) or 0 (the other ones). */
+KULGUI_API int WipeMenuComponent(KULMENU* thisMenu);
+KULGUI_API int WipeDynmenuComponent(KULDYNMENU* thisMenu);
+KULGUI_API int WipeDescrmenuComponent(KULDESCRMENU* thisMenu);
 KULGUI_API int WipeButtonComponent(KULBUTTON* thisButton);
+KULGUI_API int WipeToolbarComponent(KULTOOLBAR* thisTB);
+
+/** The same, with another result for what was empty: -1 for a list without elements (0 for NULL),
+ * and for a text box without text or NULL. */
+KULGUI_API int WipeCheckboxComponent(KULCHECKBOX* thisCheck);
+KULGUI_API int WipeOptionsComponent(KULOPTIONS* thisList);
+KULGUI_API int WipeTextboxComponent(KULTEXTBOX* thisTB);
+KULGUI_API int WipeFileviewComponent(KULFILEVIEW* thisView);
+
+/** Make an element and append it to the list of firstElement, NULL for an empty one, which the
+ * caller hooks up and counts: kulmenu_addElement and its like do. Return it; NULL without memory,
+ * or for a NULL toolbar, whose nMaxLength grows with the text. */
+KULGUI_API KULMENUELEMENT* AddMenuElement(KULMENUELEMENT* firstElement, int nEnable,
+                                          const char* szText, KULCALLBACK onSelect,
+                                          KULCALLBACK onClick);
+KULGUI_API KULDESCRMENUELEMENT* AddDescrmenuElement(KULDESCRMENUELEMENT* firstElement, int nEnable,
+                                                    const char* szText, const char* szBoxText,
+                                                    KULCALLBACK onSelect, KULCALLBACK onClick);
+KULGUI_API KULTOOLBARBUTTON* AddToolbarButton(KULTOOLBAR* thisTB, KULTOOLBARBUTTON* firstButton,
+                                              int nEnable, const char* szText, KULCALLBACK onSelect,
+                                              KULCALLBACK onClick);
+KULGUI_API KULCHECKELEMENT* AddCheckElement(KULCHECKELEMENT* firstElement, int nEnable,
+                                            const char* szText, KULCALLBACK onSelect);
+KULGUI_API KULOPTIONELEMENT* AddOptionElement(KULOPTIONELEMENT* firstElement, int nEnable,
+                                              const char* szText, KULCALLBACK onSelect,
+                                              KULCALLBACK onClick);
+
+/** Free the last element of a list. 0, 1 when it was the only one (the caller forgets the list),
+ * -1 for NULL. */
+KULGUI_API int RemoveMenuElement(KULMENUELEMENT* firstElement);
+KULGUI_API int RemoveDescrmenuElement(KULDESCRMENUELEMENT* firstElement);
+KULGUI_API int RemoveToolbarButton(KULTOOLBARBUTTON* firstButton);
+KULGUI_API int RemoveCheckElement(KULCHECKELEMENT* firstElement);
+KULGUI_API int RemoveOptionElement(KULOPTIONELEMENT* firstElement);
+
+/** Free an element and all after it. 0, -1 for NULL. */
+KULGUI_API int WipeMenuElements(KULMENUELEMENT* firstElement);
+KULGUI_API int WipeDescrmenuElements(KULDESCRMENUELEMENT* firstElement);
+KULGUI_API int WipeToolbarButtons(KULTOOLBARBUTTON* firstButton);
+KULGUI_API int WipeCheckElements(KULCHECKELEMENT* firstElement);
+KULGUI_API int WipeOptionElements(KULOPTIONELEMENT* firstElement);
+
+/* ---- Status bars ---------------------------------------------------------------------------- *
+ *
+ *     Ready           3 files      12:30      the bottom row of a dialog, in reverse video
+ *
+ * Elements are counted from 0 in the order of adding; any number below 1 means the first.
+ */
+
+typedef struct kulstatelement {
+    int nX;
+    int nWidth;     /* columns of the field; also the most characters it keeps */
+    char* szText;   /* nWidth + 1 characters */
+    int nAlignment; /* ALIGN */
+    struct kulstatelement* Next;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULSTATELEMENT;
+
+typedef struct kulstatbar {
+    int nColor;
+    KULSTATELEMENT* Element;
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULSTATBAR;
+
+/** Adds a status bar to a dialog. Returns 0, -10012 when an item has that nRef, else what
+ * CreateDIComponent returns. */
+KULGUI_API int kulstatbar_create(int nChain, int nRef);
+
+/** Sets a status bar up, without elements. nColor: KUL_KEEP takes the dialog's nColorStandard.
+ * onPoll is not used. Returns 0, -1 for an unknown item. */
+KULGUI_API int kulstatbar_config(int nChain, int nRef, int nColor, KULCALLBACK onPoll);
+
+/** Adds a field at the end, at column nX and nWidth wide; the text is copied and cut to that.
+ * Returns 0, -1 for an unknown item, a negative width or without memory. */
+KULGUI_API int kulstatbar_addElement(int nChain, int nRef, int nX, int nWidth, const char* szText,
+                                     int nAlignment, KULCALLBACK onUpdate);
+
+/** Gives a field another text, cut to its width. Returns 0, -1 for an unknown item or field. */
+KULGUI_API int kulstatbar_setElement(int nChain, int nRef, int nElement, const char* szText);
+
+/** Removes the last field. Returns 0, -1 for an unknown item or when there is none. */
+KULGUI_API int kulstatbar_remElement(int nChain, int nRef);
+
+/** The text of a field, the library's own; NULL for an unknown item or field. */
+KULGUI_API char* kulstatbar_getElement(int nChain, int nRef, int nElement);
+KULGUI_API char* ReturnStatbarElementText(int nChain, int nRef, int nElement);
+
+/** A field; NULL for none. */
+KULGUI_API KULSTATELEMENT* GetStatbarElementByRef(int nChain, int nRef, int nElement);
+KULGUI_API KULSTATELEMENT* GetStatbarElement(KULSTATBAR* thisBar, int nElement);
+
+/** Show or hide the bar from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulstatbar_show(int nChain, int nRef);
+KULGUI_API int kulstatbar_hide(int nChain, int nRef);
+
+/* ---- Scroll bars and progress bars ---------------------------------------------------------- *
+ *
+ *     ├──███─────┤      a scroll bar: a rail with a thumb in reverse video
+ *     ████▒▒▒▒▒▒▒▒      a progress bar; one that stands grows from its foot
+ */
+
+typedef struct kulgaugebar {
+    int nColorBar;
+    int nColorRail;
+    int nX; /* first cell of the rail, at the left or the top */
+    int nY;
+    int nLength; /* cells of the rail */
+    int nRange;  /* what the rail stands for */
+    int nPosition;
+    int nOrient; /* ORIENTATION */
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULGAUGEBAR;
+
+/** Add a scroll or progress bar to a dialog. Return 0, -10016 (scroll bar) or -10017 when an item
+ * has that nRef, else what CreateDIComponent returns. */
+KULGUI_API int kulscrollbar_create(int nChain, int nRef);
+KULGUI_API int kulprogbar_create(int nChain, int nRef);
+
+/** Set a bar up: colour sets of the bar and of its rail, place and length of the rail, position,
+ * range, ORIENTATION. KUL_KEEP takes the dialog's nColorUnfocus and nColorStandard, 1, 10 and
+ * VERTICAL. Return 0, -1 for an unknown item. */
+KULGUI_API int kulscrollbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
+                                   int nY, int nLength, int nPosition, int nRange, int nOrient);
+KULGUI_API int kulprogbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
+                                 int nY, int nLength, int nPosition, int nRange, int nOrient);
+
+/** Move a bar; KUL_KEEP leaves it where it is. Return 0, -1 for an unknown item, -10028 for one
+ * without record. */
+KULGUI_API int kulscrollbar_setPosition(int nChain, int nRef, int nPosition);
+KULGUI_API int kulprogbar_setPosition(int nChain, int nRef, int nPosition);
+
+/** Move a bar by whole ranges: below 100 to 0, from 100 on to the end of its range, from 200 on to
+ * twice that. Use setPosition for what lies between. Results as there. */
+KULGUI_API int kulscrollbar_setByPercent(int nChain, int nRef, int nPercent);
+KULGUI_API int kulprogbar_setByPercent(int nChain, int nRef, int nPercent);
+
+/** Show or hide the bar from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulscrollbar_show(int nChain, int nRef);
+KULGUI_API int kulscrollbar_hide(int nChain, int nRef);
+KULGUI_API int kulprogbar_show(int nChain, int nRef);
+KULGUI_API int kulprogbar_hide(int nChain, int nRef);
+
+/** Draws rail and bar into a dialog's window, whether visible or not; nType 1 is a scroll bar, any
+ * other a progress bar. A progress bar at the end of its range takes one cell more than its rail.
+ */
+KULGUI_API void BarShow(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
+
+/** The two halves of BarShow: the rail, and what moves on it. */
+KULGUI_API void BarRail(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
+KULGUI_API void BarPosition(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
+
+/* ---- Description fields --------------------------------------------------------------------- *
+ *
+ *      Name   Size   Owner          the texts, from column nX and row nY on
+ *     ┌──────────────────┐░░░░░     the bar, nBarLength wide
+ *     │ What is selected │          the box, nRefWidth wide: the frame takes nRefHeight + 1 rows,
+ *     │ is explained.    │          the text in it nRefHeight - 2
+ *     └──────────────────┘
+ *
+ * Elements are counted from 0 in the order of adding. There is no call to show or hide one.
+ */
+
+typedef struct kuldescrfldelement {
+    char* szText;
+    char* szBoxText; /* (nRefWidth - 2) * (nRefHeight - 2) + 1 characters */
+    struct kuldescrfldelement* Next;
+    KULCALLBACK onUpdate; /* not used */
+} KULDESCRFLDELEMENT;
+
+typedef struct kuldescrfield {
+    int nColorSelect; /* of the selected text, the bar and the box */
+    int nColorBack;   /* of the other texts */
+    int nX;
+    int nY;
+    int nBarLength;
+    int nRefWidth;
+    int nRefHeight;
+    KULDESCRFLDELEMENT* Element;
+    int nSelect; /* position of the selected element, -1 for none */
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULDESCRFIELD;
+
+/** Adds a description field to a dialog. Returns 0, -10012 when an item has that nRef, else what
+ * CreateDIComponent returns. */
+KULGUI_API int kuldescrfield_create(int nChain, int nRef);
+
+/** Sets a description field up, without elements. KUL_KEEP takes the dialog's nColorUnfocus and
+ * nColorStandard, 2, 3, the dialog's width - 4, 20 and its height - 5. Returns 0, -1 for an
+ * unknown item. */
+KULGUI_API int kuldescrfield_config(int nChain, int nRef, int nColorSelect, int nColorBack, int nX,
+                                    int nY, int nBarLength, int nRefWidth, int nRefHeight);
+
+/** Adds an element at the end; the first one becomes selected. Both texts are copied, the box text
+ * cut to the cells inside of the frame. Returns 0, -1 for an unknown item or without memory. */
+KULGUI_API int kuldescrfield_addElement(int nChain, int nRef, const char* szText,
+                                        const char* szBoxText);
+
+/** Changes the texts of an element; NULL keeps one, and so does a szText as long as the present
+ * one. Returns 0, also when there is no such element; -1 for an unknown item, a box text that is
+ * longer than the box holds or without memory, with nothing changed. */
+KULGUI_API int kuldescrfield_setElement(int nChain, int nRef, int nSelect, const char* szText,
+                                        const char* szBoxText);
+
+/** Removes the last element. Returns 0, -1 for an unknown item or when there is none. */
+KULGUI_API int kuldescrfield_remElement(int nChain, int nRef);
+
+/** Selects an element; the first one for a number below 1 and, with the result -1, for one past
+ * the end. Returns 0, -1 also for an unknown item or without elements. */
+KULGUI_API int kuldescrfield_selElement(int nChain, int nRef, int nSelect);
+
+/** What UpdateDIComponent does. */
+KULGUI_API int kuldescrfield_update(int nChain, int nRef);
+
+/* ---- Boxes and lines ------------------------------------------------------------------------ */
+
+typedef struct kulbox {
+    int nColorSet;
+    int nX;
+    int nY;
+    int nWidth;
+    int nHeight;
+    int nBorder; /* BORDERS */
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULBOX;
+
+typedef struct kulline {
+    int nColorSet;
+    int nX;
+    int nY;
+    int nLength; /* cells; one more is drawn without ends */
+    int nEnds;   /* LINEENDS: with tees that join a frame, or plain */
+    int nOrient; /* VERTICAL, anything else is LATERAL */
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULLINE;
+
+/** Add a box or a line to a dialog. Return 0, -10013 (box) or -10014 when an item has that nRef,
+ * else what CreateDIComponent returns. */
+KULGUI_API int kulbox_create(int nChain, int nRef);
+KULGUI_API int kulline_create(int nChain, int nRef);
+
+/** Sets a filled rectangle up. KUL_KEEP takes the dialog's nColorStandard, and BORDER; the frame
+ * counts in the size. Returns 0, -1 for an unknown item. */
+KULGUI_API int kulbox_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nWidth,
+                             int nHeight, int nBorder);
+
+/** Sets a line up, to the right or down from its first cell. KUL_KEEP takes the dialog's
+ * nColorStandard, NOENDS and LATERAL. Returns 0, -1 for an unknown item. */
+KULGUI_API int kulline_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nLength,
+                              int nEnds, int nOrient);
+
+/** Show or hide the item from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kulbox_show(int nChain, int nRef);
+KULGUI_API int kulbox_hide(int nChain, int nRef);
+KULGUI_API int kulline_show(int nChain, int nRef);
+KULGUI_API int kulline_hide(int nChain, int nRef);
+
+/** What UpdateDIComponent does. */
+KULGUI_API int kulbox_update(int nChain, int nRef);
+KULGUI_API int kulline_update(int nChain, int nRef);
+
+/* ---- Labels --------------------------------------------------------------------------------- *
+ *
+ *     ┌──────────┐
+ *     │Hello     │      rows are wrapped at blanks and newlines, and aligned one by one
+ *     │world     │
+ *     └──────────┘
+ */
+
+typedef struct kullabel {
+    int nColorSet;
+    int nColorBorder; /* kept, not used */
+    int nX;
+    int nY;
+    int nWidth;
+    int nHeight;
+    int nAlignment; /* ALIGN */
+    int nBorder;    /* BORDERS */
+    char* szText;
+    int nVisible;
+    KULCALLBACK onUpdate; /* kept, not run */
+} KULLABEL;
+
+/** Adds a label to a dialog. Returns 0, -10015 when an item has that nRef, else what
+ * CreateDIComponent returns. */
+KULGUI_API int kullabel_create(int nChain, int nRef);
+
+/** Sets a label up; the frame counts in the size. KUL_KEEP takes the dialog's nColorStandard and
+ * nColorUnfocus, and BORDER; an alignment stays as it was, CENTER at first. szText is copied, of
+ * any length; NULL is no text. Returns 0, -1 for an unknown item or without memory. */
+KULGUI_API int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int nX,
+                               int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
+                               const char* szText);
+
+/** Gives a label another text. Returns 0; -1 for an unknown or not configured item, or for a text
+ * with more characters than the label has cells, inside of its frame. */
+KULGUI_API int kullabel_setText(int nChain, int nRef, const char* szText);
+
+/** Show or hide the label from the next drawing on. Always -1, also when all is well. */
+KULGUI_API int kullabel_show(int nChain, int nRef);
+KULGUI_API int kullabel_hide(int nChain, int nRef);
+
+/** What UpdateDIComponent does. */
+KULGUI_API int kullabel_update(int nChain, int nRef);
 
 /* ---- Display items in general --------------------------------------------------------------- */
 
@@ -470,8 +1478,47 @@ KULGUI_API int SetDIVisibility(int nChain, int nRef, int nVisible);
 KULGUI_API int UpdateDIComponent(int nChain, int nRef);
 
 /** Gives an item its record of kind nType (DI_TYPE), cleared. 0, -1 for NULL, an unknown kind or
- * without memory. */
+ * without memory. The calls below do so for one kind each. */
 KULGUI_API int AttachComponentToDI(DI* thisDI, int nType);
+KULGUI_API int AttachStatbarComponentToDI(DI* thisDI);
+KULGUI_API int AttachScrollbarComponentToDI(DI* thisDI);
+KULGUI_API int AttachProgbarComponentToDI(DI* thisDI);
+KULGUI_API int AttachDescrfieldComponentToDI(DI* thisDI);
+KULGUI_API int AttachBoxComponentToDI(DI* thisDI);
+KULGUI_API int AttachLineComponentToDI(DI* thisDI);
+KULGUI_API int AttachLabelComponentToDI(DI* thisDI);
+
+/** Set a record to its defaults, with the dialog's colours; elements and texts are forgotten, not
+ * freed. 0, -1 for NULL. */
+KULGUI_API int ConfigStatbarComponent(GUI* thisGUI, KULSTATBAR* thisBar);
+KULGUI_API int ConfigScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API int ConfigProgbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API int ConfigDescrfieldComponent(GUI* thisGUI, KULDESCRFIELD* thisField);
+KULGUI_API int ConfigBoxComponent(GUI* thisGUI, KULBOX* thisBox);
+KULGUI_API int ConfigLineComponent(GUI* thisGUI, KULLINE* thisLine);
+KULGUI_API int ConfigLabelComponent(GUI* thisGUI, KULLABEL* thisLabel);
+
+/** These change and draw nothing. 0. */
+KULGUI_API int UpdateStatbarComponent(GUI* thisGUI, KULSTATBAR* thisBar);
+KULGUI_API int UpdateScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API int UpdateProgbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API int UpdateDescrfieldComponent(GUI* thisGUI, KULDESCRFIELD* thisField);
+KULGUI_API int UpdateBoxComponent(GUI* thisGUI, KULBOX* thisBox);
+KULGUI_API int UpdateLineComponent(GUI* thisGUI, KULLINE* thisLine);
+KULGUI_API int UpdateLabelComponent(GUI* thisGUI, KULLABEL* thisLabel);
+
+/** Draw one item, unless it is hidden. */
+KULGUI_API void ShowStatusBarComponent(GUI* thisGUI, KULSTATBAR* thisBar);
+KULGUI_API void ShowScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API void ShowProgBarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
+KULGUI_API void ShowDescrfieldComponent(GUI* thisGUI, KULDESCRFIELD* thisField);
+KULGUI_API void ShowBoxComponent(GUI* thisGUI, KULBOX* thisBox);
+KULGUI_API void ShowLineComponent(GUI* thisGUI, KULLINE* thisLine);
+KULGUI_API void ShowLabelComponent(GUI* thisGUI, KULLABEL* thisLabel);
+
+/** Draws one field of a status bar. Leaves the window's attributes cleared. */
+KULGUI_API void ShowThisStatusbarElement(GUI* thisGUI, KULSTATBAR* thisBar,
+                                         KULSTATELEMENT* thisElement);
 
 /** Draws every item of a dialog that is shown. */
 KULGUI_API void ShowDisplayComponents(GUI* thisGUI);
@@ -482,6 +1529,19 @@ KULGUI_API void UpdateDisplayComponents(GUI* thisGUI);
 /** Frees the records of the items from firstDI on, not the DI nodes; stops at the first whose kind
  * reports an error. Returns the last result, -1 for NULL. */
 KULGUI_API int WipeAllDIComponents(DI* firstDI);
+
+/** Free one record with what it owns. 0; for NULL 0 from the first two, -1 from the others. */
+KULGUI_API int WipeStatbarComponent(KULSTATBAR* thisBar);
+KULGUI_API int WipeDescrfieldComponent(KULDESCRFIELD* thisField);
+KULGUI_API int WipeScrollbarComponent(KULGAUGEBAR* thisBar);
+KULGUI_API int WipeProgbarComponent(KULGAUGEBAR* thisBar);
+KULGUI_API int WipeBoxComponent(KULBOX* thisBox);
+KULGUI_API int WipeLineComponent(KULLINE* thisLine);
+KULGUI_API int WipeLabelComponent(KULLABEL* thisLabel);
+
+/** Free elements with their texts, from the first on. 0, -1 for NULL. */
+KULGUI_API int WipeStatbarElements(KULSTATELEMENT* firstElement);
+KULGUI_API int WipeDescrfieldElements(KULDESCRFLDELEMENT* firstElement);
 
 /* ---- Chains and component lists ------------------------------------------------------------- */
 
@@ -649,6 +1709,56 @@ KULGUI_API int Offset(int nSpace, int nStrLen);
 
 /** Writes cOneChar nLength times, without a terminator. */
 KULGUI_API void FillString(char* szBuffer, int nLength, char cOneChar);
+
+/* ---- Texts ---------------------------------------------------------------------------------- *
+ *
+ * A text is wrapped to rows of nWidth columns. A row ends at a newline, or when it is full: the
+ * word that it cuts then starts the next row, even one that ends with the row, unless the row's
+ * last column holds a space. A word that is as long as a row is taken off from its front, an empty
+ * row for each character, until the rest fits. A width below 1 gives no rows.
+ */
+
+/** A place in a list of starts of lines. */
+typedef struct textline {
+    long int nLine;
+    struct textline* Prev;
+    struct textline* Next;
+} TEXTLINE;
+
+/** Draws a text in a colour set from column nXPos and row nYPos on, without clearing the rest of
+ * its rows. Returns the number of rows. */
+KULGUI_API int WrapText(WINDOW* win, int nXPos, int nYPos, int nWidth, int nColor,
+                        const char* szText);
+
+/** The same for nHeight rows at most. nAlignment is not used: rows start at nXPos. */
+KULGUI_API void NewStrToBox(WINDOW* win, int nXPos, int nYPos, int nWidth, int nHeight, int nColor,
+                            int nAlignment, const char* szText);
+
+/** Number of rows of a text. */
+KULGUI_API int GetWrapTextHeight(int nWidth, const char* szText);
+
+/** Always NULL; the file is not opened. */
+KULGUI_API TEXTLINE* GenerateWrapMarks(const char* szFileName, int nWidth, int bIndent);
+
+/** Where a line at nStart begins behind its leading spaces, as an index; nStart when there are
+ * none, or nothing else within nLength. */
+KULGUI_API int ReturnLineStart(const char* szText, int nStart, int nLength);
+
+/** Index of the last character of a line at nStart that has nLength columns: the end of a text
+ * shorter than nLength or than what is left, else the first newline, else where a word ends with
+ * the line, else the space before the word that is cut. -1 for a start outside of the text. */
+KULGUI_API int ReturnLineEnd(const char* szText, int nStart, int nLength);
+
+/** Distance from nStart to the next newline; -1 for none, or when its index is above nLength. */
+KULGUI_API int ReturnEOLPosition(const char* szText, int nStart, int nLength);
+
+/** Replace a character: everywhere, or from index 0 up to and with nLength; the terminator counts
+ * as well. */
+KULGUI_API void SwapChar(char* str, char this_char, char that_char);
+KULGUI_API void SwapnChar(char* str, char this_char, char that_char, int nLength);
+
+/** Copies nLength characters, or up to the terminator, which is not copied. */
+KULGUI_API void CopyStrWithoutEOS(char* szDest, const char* szSrc, int nLength);
 
 #ifdef __cplusplus
 }

@@ -8,8 +8,24 @@
 
 namespace {
 
-// In the order of DI_TYPE; a kind that is not offered has an empty row.
-constexpr kul::DIKind kDIKinds[LABEL + 1] = {};
+// In the order of DI_TYPE.
+constexpr kul::DIKind kDIKinds[LABEL + 1] = {
+    kul::diRow<KULSTATBAR, ConfigStatbarComponent, ShowStatusBarComponent, UpdateStatbarComponent,
+               kul::dropStatbar, WipeStatbarComponent>(-10012),
+    kul::diRow<KULGAUGEBAR, ConfigScrollbarComponent, ShowScrollbarComponent,
+               UpdateScrollbarComponent, kul::dropNothing<KULGAUGEBAR>, WipeScrollbarComponent>(
+        -10016),
+    kul::diRow<KULGAUGEBAR, ConfigProgbarComponent, ShowProgBarComponent, UpdateProgbarComponent,
+               kul::dropNothing<KULGAUGEBAR>, WipeProgbarComponent>(-10017),
+    kul::diRow<KULDESCRFIELD, ConfigDescrfieldComponent, ShowDescrfieldComponent,
+               UpdateDescrfieldComponent, kul::dropDescrfield, WipeDescrfieldComponent>(-10012),
+    kul::diRow<KULBOX, ConfigBoxComponent, ShowBoxComponent, UpdateBoxComponent,
+               kul::dropNothing<KULBOX>, WipeBoxComponent>(-10013),
+    kul::diRow<KULLINE, ConfigLineComponent, ShowLineComponent, UpdateLineComponent,
+               kul::dropNothing<KULLINE>, WipeLineComponent>(-10014),
+    kul::diRow<KULLABEL, ConfigLabelComponent, ShowLabelComponent, UpdateLabelComponent,
+               kul::dropLabel, WipeLabelComponent>(-10015),
+};
 
 constexpr int kChanged = 0;
 constexpr int kDrawn = -1;
@@ -27,8 +43,7 @@ namespace kul {
 
 const DIKind* diKind(int nType)
 {
-    const bool known = nType >= 0 && nType <= LABEL && kDIKinds[nType].allocate;
-    return known ? &kDIKinds[nType] : nullptr;
+    return nType >= 0 && nType <= LABEL ? &kDIKinds[nType] : nullptr;
 }
 
 DI* findDINode(int nChain, int nRef, DI_TYPE type)
@@ -42,6 +57,12 @@ int createDI(int nChain, int nRef, DI_TYPE type)
     if (CheckDICompExistence(nChain, nRef) != -1)
         return kDIKinds[type].nTaken;
     return CreateDIComponent(nChain, type, nRef);
+}
+
+void markChanged(int nChain, int nRef)
+{
+    if (DI* di = GetDIComponentByRef(nChain, nRef))
+        di->nUpdate = kChanged;
 }
 
 } // namespace kul

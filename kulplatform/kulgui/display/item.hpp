@@ -4,6 +4,9 @@
 #ifndef KUL_DISPLAY_ITEM_HPP
 #define KUL_DISPLAY_ITEM_HPP
 
+#include <algorithm>
+#include <climits>
+
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
 
@@ -59,6 +62,55 @@ Record* resetDI(int nChain, int nRef, DI_TYPE type)
 
 // What the create calls of the kinds do.
 int createDI(int nChain, int nRef, DI_TYPE type);
+
+// Has the next update pass draw the item.
+void markChanged(int nChain, int nRef);
+
+// Free what a record owns and leave it empty.
+template <typename Record>
+void dropNothing(Record&)
+{
+}
+void dropStatbar(KULSTATBAR& bar);
+void dropDescrfield(KULDESCRFIELD& field);
+void dropLabel(KULLABEL& label);
+
+// Frees a record with what it owns. 0, -1 for NULL.
+template <typename Record>
+int wipeRecord(Record* record, void (*drop)(Record&))
+{
+    if (!record)
+        return -1;
+    drop(*record);
+    std::free(record);
+    return 0;
+}
+
+// Cells of a rectangle; 0 when it has none.
+constexpr long long area(int nWidth, int nHeight)
+{
+    return std::max<long long>(nWidth, 0) * std::max(nHeight, 0);
+}
+
+// Copies as much of a text as nCapacity allows, and ends it. NULL counts as the empty text; the
+// text may lie in the buffer.
+inline void setText(char* szBuffer, long long nCapacity, const char* szText)
+{
+    const std::size_t size = szText ? strnlen(szText, static_cast<std::size_t>(nCapacity)) : 0;
+    std::memmove(szBuffer, szText ? szText : "", size);
+    szBuffer[size] = '\0';
+}
+
+// A buffer for nCapacity characters that holds the text, cut to that. Null without memory.
+inline char* newText(long long nCapacity, const char* szText)
+{
+    if (nCapacity > INT_MAX)
+        return nullptr;
+    char* szBuffer = static_cast<char*>(std::calloc(static_cast<std::size_t>(nCapacity) + 1, 1));
+    if (szBuffer)
+        setText(szBuffer, nCapacity, szText);
+    return szBuffer;
+}
 
 } // namespace kul
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // The once-a-second pass that keeps what is shown up to date while nobody types.
+#include "polling.hpp"
+
 #include <ctime>
 
 #include "chain.hpp"
@@ -10,11 +12,21 @@ namespace {
 
 int nRunStart = 0;
 time_t start = 0;
+kul::SecondLook secondLook = nullptr;
 
 void drawUnfocused(GUI* thisGUI)
 {
     for (UI* ui = thisGUI->UserInterface; ui; ui = ui->Next)
         ShowUIComponentUnfocused(thisGUI, ui);
+}
+
+// Whether a dialog that is shown has to be polled, or has changed by itself.
+bool isDue(const GUI* dialog)
+{
+    if (!dialog || dialog->nVisible != T)
+        return false;
+    const bool changed = secondLook && secondLook(*dialog);
+    return changed || dialog->onPoll;
 }
 
 // Runs a dialog's callback and draws the dialog if that has not hidden it. The one in focus is
@@ -34,6 +46,11 @@ void pollDialog(CHAIN* chain)
 }
 
 } // namespace
+
+void kul::lookEverySecond(SecondLook look)
+{
+    secondLook = look;
+}
 
 int Poll(int nPollingValue)
 {
@@ -57,7 +74,7 @@ void ExecPolling()
     CHAIN* chain = GetPrimaryChain();
     while (chain) {
         CHAIN* next = kul::nextChain(chain);
-        if (chain->Pointer && chain->Pointer->nVisible == T && chain->Pointer->onPoll)
+        if (isDue(chain->Pointer))
             pollDialog(chain);
         // The callback may have destroyed either, or made new ones.
         if (kul::isInRing(chain))

@@ -50,8 +50,9 @@ void update()
     if (!stdscr || isendwin())
         return;
     raiseFocused();
-    if (resumed())
-        clearok(curscr, TRUE); // the terminal shows something else now
+    const bool anew = resumed(); // the terminal shows something else now
+    if (anew)
+        clearok(curscr, TRUE);
     else if (!anyTouched())
         return;
     if (WINDOW* top = onlyTopTouched()) {
@@ -62,7 +63,9 @@ void update()
             wnoutrefresh(stdscr);
         update_panels();
     }
-    doupdate();
+    // What was drawn may be what was there before; curses would search the screen for blanks.
+    if (anew || is_wintouched(newscr) || is_cleared(newscr))
+        doupdate();
 }
 
 } // namespace

@@ -37,6 +37,7 @@ struct Modes {
 int nEnvSetting = F;
 bool isOpen = false;
 bool ttyKnown = false;
+bool ownScreen = false; // leaving it brings back what was there before
 Modes outside;  // as found
 Modes inside;   // as the open terminal has them
 Bytes leaving;  // gives the screen back
@@ -48,6 +49,12 @@ constexpr int kCaught[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGTSTP};
 constexpr int kCaughtCount = sizeof kCaught / sizeof *kCaught;
 bool ours[kCaughtCount];
 
+// What tigetstr gives for a string that the terminal has.
+bool isString(const char* szString)
+{
+    return szString && szString != reinterpret_cast<char*>(-1);
+}
+
 int captureByte(int c)
 {
     if (capture->size < sizeof capture->text)
@@ -57,7 +64,7 @@ int captureByte(int c)
 
 void captureString(const char* szString)
 {
-    if (szString && szString != reinterpret_cast<char*>(-1))
+    if (isString(szString))
         tputs(szString, 1, captureByte);
 }
 
@@ -69,12 +76,13 @@ void captureAll(Bytes& bytes, std::initializer_list<const char*> names)
         captureString(tigetstr(name));
 }
 
+// Without a second screen to leave, what was drawn is cleared away.
 void prepareBytes()
 {
-    captureAll(leaving, {"sgr0", "op"});
-    captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
-    for (const char* name : {"el", "rmcup", "cnorm"})
-        captureString(tigetstr(name));
+    ownScreen = isString(tigetstr("rmcup"));
+    captureAll(leaving, {"sgr0", "op", ownScreen ? "rmcup" : "clear", "cnorm"});
+    if (!ownScreen)
+        captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
     captureAll(entering, {"smcup", "civis"});
 }
 
@@ -87,8 +95,9 @@ void send(const Bytes& bytes)
             sent += static_cast<std::size_t>(n);
             continue;
         }
+        // A line that was hung up is writable for ever.
         pollfd line{STDOUT_FILENO, POLLOUT, 0};
-        if (poll(&line, 1, 200) != 1 || !(line.revents & POLLOUT))
+        if (poll(&line, 1, 200) != 1 || line.revents != POLLOUT)
             return;
     }
 }
@@ -156,6 +165,10 @@ void closeScreen()
     setOurs(SIG_DFL);
     echo();
     wclear(stdscr);
+    if (!ownScreen) {
+        wnoutrefresh(stdscr);
+        doupdate();
+    }
     endwin();
 }
 
@@ -175,8 +188,7 @@ bool isUsable()
     int nResult = 0;
     if (!isatty(STDOUT_FILENO) || setupterm(nullptr, STDOUT_FILENO, &nResult) != OK)
         return false;
-    const char* cup = tigetstr("cup");
-    const bool usable = cup && cup != reinterpret_cast<char*>(-1);
+    const bool usable = isString(tigetstr("cup"));
     del_curterm(cur_term);
     return usable;
 }

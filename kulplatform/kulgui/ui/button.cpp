@@ -65,9 +65,14 @@ int kulbutton_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, i
                      KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                      KULCALLBACK onClick)
 {
+    // Copied first: it may be the text that the button has, and the reset frees that.
+    char* szCopy = kul::copyText(szText);
     auto* button = kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON);
-    if (!button || !(button->szText = kul::copyText(szText)))
+    if (!button || !szCopy) {
+        std::free(szCopy);
         return -1;
+    }
+    button->szText = szCopy;
     kul::setColors(*button, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*button, onFocus, onUnfocus, onSelect, onClick);
     button->nX = nX;

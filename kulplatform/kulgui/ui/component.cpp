@@ -7,16 +7,37 @@
 #include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
 #include "button.hpp"
+#include "checkbox.hpp"
+#include "descrmenu.hpp"
+#include "dynmenu.hpp"
+#include "fileview.hpp"
+#include "menu.hpp"
+#include "options.hpp"
+#include "textbox.hpp"
+#include "toolbar.hpp"
 
 namespace {
 
 // In the order of UI_TYPE; a kind that is not offered has an empty row.
 constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
-    {},
-    {},
-    {},
+    kul::uiRow<KULMENU, ConfigMenuComponent, ShowMenuComponent, kul::dropMenu, WipeMenuComponent,
+               kulmenu_execKeys>(-10018, true),
+    kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, kul::showDynmenu, kul::dropDynmenu,
+               WipeDynmenuComponent, kuldynmenu_execKeys>(-10021, true),
+    kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, kul::showDescrmenu, kul::dropDescrmenu,
+               WipeDescrmenuComponent, kuldescrmenu_execKeys>(-10020, true),
     kul::uiRow<KULBUTTON, ConfigButtonComponent, ShowButtonComponent, kul::dropButton,
                WipeButtonComponent, kulbutton_execKeys>(-10022, true),
+    kul::uiRow<kul::Toolbar, ConfigToolbarComponent, kul::showToolbar, kul::dropToolbar,
+               WipeToolbarComponent, kultoolbar_execKeys>(-10027, false),
+    kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent, kul::dropCheckbox,
+               WipeCheckboxComponent, kulcheckbox_execKeys>(-10023, false),
+    kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent, kul::dropOptions,
+               WipeOptionsComponent, kuloptions_execKeys>(-10024, false),
+    kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
+               WipeFileviewComponent, kulfileview_execKeys>(-10025, false),
+    kul::uiRow<KULTEXTBOX, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
+               WipeTextboxComponent, kultextbox_execKeys>(-10026, false),
 };
 
 } // namespace
@@ -35,11 +56,25 @@ void* findUIRecord(int nChain, int nRef, UI_TYPE type)
     return ui && ui->nType == type ? ui->Pointer : nullptr;
 }
 
+bool isSelected(int nChain, int nRef, UI_TYPE type)
+{
+    const CURRENT& current = *GetCurrentSelection();
+    return current.nChain == nChain && current.nUserInterface == nRef && current.nType == type;
+}
+
 int createUI(int nChain, int nRef, UI_TYPE type)
 {
     if (CheckUICompExistence(nChain, nRef) != -1)
         return kUIKinds[type].nTaken;
     return CreateUIComponent(nChain, type, nRef);
+}
+
+int createDefaultUI(int nChain, int nRef, UI_TYPE type)
+{
+    const int nResult = createUI(nChain, nRef, type);
+    if (nResult == 0)
+        ConfigUIComponent(nChain, nRef);
+    return nResult;
 }
 
 } // namespace kul

@@ -60,8 +60,14 @@ Record* resetUI(int nChain, int nRef, UI_TYPE type)
     return record && ConfigUIComponent(nChain, nRef) >= 0 ? record : nullptr;
 }
 
+// Whether the current selection names this component.
+bool isSelected(int nChain, int nRef, UI_TYPE type);
+
 // What the create calls of the kinds do.
 int createUI(int nChain, int nRef, UI_TYPE type);
+
+// The same for kinds that are to have their defaults from then on, not from their config call on.
+int createDefaultUI(int nChain, int nRef, UI_TYPE type);
 
 // The colours that every kind starts with.
 template <typename Record>
@@ -70,6 +76,17 @@ void takeColors(const GUI& gui, Record& record)
     record.nColorFocus = gui.nColorFocus;
     record.nColorUnfocus = gui.nColorUnfocus;
     record.nColorDisable = gui.nColorDisable;
+}
+
+// A box as its config call gives it; it has a border or, with any other number, none.
+template <typename Record>
+void setBox(Record& record, int nX, int nY, int nWidth, int nHeight, int nBorder)
+{
+    record.nX = nX;
+    record.nY = nY;
+    record.nWidth = nWidth;
+    record.nHeight = nHeight;
+    record.nBorder = nBorder == BORDER ? BORDER : NOBORDER;
 }
 
 // The colours and callbacks that the config calls of the kinds have in common.

@@ -105,6 +105,13 @@ public:
     }
 };
 
+// For HandlerBase::key: goes on while the component is shown.
+template <typename Record>
+bool isShown(const GUI&, const void* record)
+{
+    return static_cast<const Record*>(record)->nVisible == T;
+}
+
 } // namespace kul
 
 #endif

@@ -87,6 +87,11 @@ int GetCurrentSelectedMenuElement()
     return defCurrent.nSelect;
 }
 
+char* GetCurrentTextboxData()
+{
+    return kultextbox_getText(defCurrent.nChain, defCurrent.nUserInterface);
+}
+
 void ExecOnFunction(KULCALLBACK Function)
 {
     if (!Function)

@@ -1,0 +1,66 @@
+#!/bin/sh
+# SPDX-License-Identifier: MIT
+# Prints what a key costs: bytes on the line, instructions, time.
+# usage: run.sh BUILD
+set -eu
+bench=$1/bench
+keys=$bench/kulgui_keys
+export LC_ALL=C
+
+# bytes SCENE ELEMENTS TERM: of one key
+bytes() {
+    none=$("$keys" "$1" "$2" 0 "$3")
+    some=$("$keys" "$1" "$2" 300 "$3")
+    echo $(((some - none) / 300))
+}
+
+# counted SCENE ELEMENTS KEYS: instructions of the whole run
+counted() {
+    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$keys" "$1" "$2" "$3" linux 2>&1 |
+        sed -n 's/.*Collected *: *//p'
+}
+
+# instructions SCENE ELEMENTS: of one key
+instructions() {
+    echo $((($(counted "$1" "$2" 300) - $(counted "$1" "$2" 0)) / 300))
+}
+
+# adding SCENE ELEMENTS: instructions of one element
+adding() {
+    echo $((($(counted "$1" "$2" 0) - $(counted "$1" 0 0)) / $2))
+}
+
+row() {
+    printf '%-48s %12s %12s %12s\n' "$@"
+}
+
+row "Bytes of a key, dialog of 40 by 14" linux vt100 xterm-256color
+for scene in focus focus-plain button items; do
+    case $scene in
+    focus) text="focus to the next of 3 buttons" n=3 ;;
+    focus-plain) text="  the same cells by curses alone" n=3 ;;
+    button) text="Enter that changes nothing" n=3 ;;
+    items) text="Enter that changes nothing, 20 display items" n=20 ;;
+    esac
+    row "$text" "$(bytes $scene $n linux)" "$(bytes $scene $n vt100)" "$(bytes $scene $n xterm-256color)"
+done
+
+echo
+row "Instructions of a key, on linux" "" "" ""
+row "focus to the next of 3 buttons" "$(instructions focus 3)" "" ""
+row "  the same cells by curses alone" "$(instructions focus-plain 3)" "" ""
+row "Enter that changes nothing, 3 buttons" "$(instructions button 3)" "" ""
+row "Enter that changes nothing, 20 display items" "$(instructions items 20)" "" ""
+row "  the same cells by curses alone, row by row" "$(instructions items-plain 20)" "" ""
+
+echo
+row "Instructions in a list" "100" "1,000" "10,000"
+for scene in menu checks options; do
+    row "$scene: one key (Down)" "$(instructions $scene 100)" "" "$(instructions $scene 10000)"
+    row "$scene: adding one element" "" "$(adding $scene 1000)" "$(adding $scene 10000)"
+done
+
+for program in "$bench"/*_bench; do
+    echo
+    "$program" 2>/dev/null
+done

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "scenes.hpp"
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include "gui/draw.hpp"
+#include "kulgui.h"
+
+namespace {
+
+constexpr int kDialog = 1;
+constexpr int kX = 20;
+constexpr int kY = 5;
+constexpr int kWidth = 40;
+constexpr int kHeight = 14;
+constexpr int kButtonX = 2;
+constexpr int kButtonY = 5;
+constexpr int kButtonStep = 12;
+constexpr int kButtonWidth = 10;
+
+const kulbench::Scene* played = nullptr;
+long keysLeft = 0;
+int terminal = -1;
+long sent = 0;
+
+void addButton(int nRef, int nX, int nY, const char* szText)
+{
+    kulbutton_create(kDialog, nRef);
+    kulbutton_config(kDialog, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, kButtonWidth, 1,
+                     szText, nullptr, nullptr, nullptr, [] {});
+}
+
+void buildButtons(int nElements)
+{
+    for (int i = 0; i < nElements; ++i)
+        addButton(i + 1, kButtonX + i * kButtonStep, kButtonY, "Button");
+}
+
+void addItem(int nRef, int nKind, int nPlace)
+{
+    const int nX = 1 + nPlace % 4 * 9;
+    const int nY = 1 + nPlace / 4 * 2;
+    switch (nKind) {
+    case 0:
+        kullabel_create(kDialog, nRef);
+        kullabel_config(kDialog, nRef, KUL_KEEP, KUL_KEEP, nX, nY, 8, 1, LEFT, NOBORDER, "Label");
+        break;
+    case 1:
+        kulprogbar_create(kDialog, nRef);
+        kulprogbar_config(kDialog, nRef, KUL_KEEP, KUL_KEEP, nX, nY, 8, nPlace, 20, LATERAL);
+        break;
+    case 2:
+        kulbox_create(kDialog, nRef);
+        kulbox_config(kDialog, nRef, KUL_KEEP, nX, nY, 8, 2, BORDER);
+        break;
+    default:
+        kulline_create(kDialog, nRef);
+        kulline_config(kDialog, nRef, KUL_KEEP, nX, nY, 7, NOENDS, LATERAL);
+    }
+}
+
+void buildItems(int nElements)
+{
+    for (int i = 0; i < nElements; ++i)
+        addItem(100 + i, i % 4, i);
+    addButton(1, 29, 10, "Button");
+}
+
+std::string elementText(int i)
+{
+    return "Element " + std::to_string(i);
+}
+
+void buildMenu(int nElements)
+{
+    kuldynmenu_create(kDialog, 1);
+    kuldynmenu_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 20, 10, nullptr, nullptr,
+                      nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kuldynmenu_addElement(kDialog, 1, elementText(i).c_str(), nullptr, nullptr, 1);
+}
+
+void buildChecks(int nElements)
+{
+    kulcheckbox_create(kDialog, 1);
+    kulcheckbox_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 30, 10, BORDER, nullptr,
+                       nullptr, nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kulcheckbox_addElement(kDialog, 1, elementText(i).c_str(), 0, 1, nullptr, nullptr);
+}
+
+void buildOptions(int nElements)
+{
+    kuloptions_create(kDialog, 1);
+    kuloptions_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 30, 10, BORDER, 0, 0, nullptr,
+                      nullptr, nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kuloptions_addElement(kDialog, 1, elementText(i).c_str(), 1, nullptr, nullptr);
+}
+
+void updateScreen()
+{
+    update_panels();
+    doupdate();
+}
+
+void runDialog(long nKeys)
+{
+    keysLeft = nKeys;
+    kulgui_exec(kDialog);
+}
+
+// What curses alone needs: the two buttons that a move of the focus changes.
+void repaintButtons(long nTimes)
+{
+    const GUI* gui = GetChain(kDialog)->Pointer;
+    const auto paint = [gui](long nButton, int nColor) {
+        const kul::FocusMark mark(gui->nColorFocus);
+        DrawButton(gui->winMain, kButtonY, kButtonX + static_cast<int>(nButton % 3) * kButtonStep,
+                   3, kButtonWidth, nColor, "Button");
+    };
+    for (const long nButton : {0, 1, 2}) // as the dialog starts
+        paint(nButton, nButton == 0 ? gui->nColorFocus : gui->nColorUnfocus);
+    updateScreen();
+    for (long i = 0; i < nTimes; ++i) {
+        paint(i, gui->nColorUnfocus);
+        paint(i + 1, gui->nColorFocus);
+        updateScreen();
+    }
+}
+
+// What curses alone needs: the same cells, written row by row.
+void rewriteRows(long nTimes)
+{
+    WINDOW* win = GetChain(kDialog)->Pointer->winMain;
+    cchar_t rows[kHeight][kWidth + 1];
+    for (int y = 0; y < kHeight; ++y)
+        mvwin_wchnstr(win, y, 0, rows[y], kWidth);
+    for (long i = 0; i < nTimes; ++i) {
+        for (int y = 0; y < kHeight; ++y)
+            mvwadd_wchnstr(win, y, 0, rows[y], kWidth);
+        updateScreen();
+    }
+}
+
+const kulbench::Scene kScenes[] = {
+    {"focus", buildButtons, runDialog, KS_TAB},    {"focus-plain", buildButtons, repaintButtons, 0},
+    {"button", buildButtons, runDialog, KS_ENTER}, {"items", buildItems, runDialog, KS_ENTER},
+    {"items-plain", buildItems, rewriteRows, 0},   {"menu", buildMenu, runDialog, KS_DOWN},
+    {"checks", buildChecks, runDialog, KS_DOWN},   {"options", buildOptions, runDialog, KS_DOWN},
+};
+
+} // namespace
+
+// The linker sends the library's calls of these here.
+extern "C" {
+
+int __wrap_NCursesEnv(int)
+{
+    return 0;
+}
+
+int __wrap_Inkeys()
+{
+    if (keysLeft == 0) {
+        kulgui_leave(kDialog);
+        return 0;
+    }
+    --keysLeft;
+    return played->key;
+}
+}
+
+namespace kulbench {
+
+const Scene* findScene(std::string_view name)
+{
+    const Scene* scene = std::ranges::find(kScenes, name, &Scene::name);
+    return scene == std::end(kScenes) ? nullptr : scene;
+}
+
+bool openTerminal(const char* szTerm)
+{
+    terminal = memfd_create("terminal", MFD_CLOEXEC);
+    std::FILE* output = terminal < 0 ? nullptr : fdopen(terminal, "w");
+    std::FILE* input = std::fopen("/dev/null", "r");
+    if (!output || !input || !newterm(szTerm, output, input))
+        return false;
+    start_color();
+    InitializeColorSets();
+    return true;
+}
+
+long bytesSent()
+{
+    return sent;
+}
+
+void makeDialog(const Scene& scene, int nElements)
+{
+    kulgui_create(0);
+    kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Bench", nullptr, nullptr,
+                       nullptr, nullptr, nullptr);
+    kulgui_create(kDialog);
+    kulgui_config(kDialog, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Dialog", BORDER, kX, kY, kWidth,
+                  kHeight, nullptr, nullptr, nullptr, nullptr, nullptr);
+    scene.build(nElements);
+    kulgui_setTabbing(kDialog, T);
+    kulgui_show(0);
+    kulgui_show(kDialog);
+}
+
+void pressKeys(const Scene& scene, long nKeys)
+{
+    played = &scene;
+    scene.run(nKeys);
+    sent += lseek(terminal, 0, SEEK_CUR);
+    lseek(terminal, 0, SEEK_SET);
+}
+
+void dropDialogs()
+{
+    kulgui_destroy(0);
+}
+
+} // namespace kulbench

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+//
+// Dynamic menus: a framed list of one row each, with a scroll bar when it is longer than the box.
+#include "dynmenu.hpp"
+
+#include <cwchar>
+
+#include "menu.hpp"
+
+namespace {
+
+constexpr kul::MenuKeys kDynmenuKeys = {DYNMENU, KS_UP, KS_DOWN, true};
+constexpr int kScrollBar = 1;
+
+// Moves the view as little as it takes to show the selected element, or the last one when the
+// selection is behind it, and to fill the box. The count is the list's, not the record's.
+void follow(kul::MenuView& view, const KULDYNMENU& menu)
+{
+    const int nLast = std::max(view.place.count(menu.Element) - 1, 0);
+    const int nShown = std::clamp(menu.nSelect, 0, nLast);
+    const int nBottom = menu.nHeight - 1;
+    view.nFirst = std::clamp(view.nFirst, std::max(nShown - nBottom, 0), nShown);
+    view.nFirst = std::min(view.nFirst, std::max(nLast - nBottom, 0));
+}
+
+// What curses makes of the bytes of one character.
+struct Print {
+    int nBytes;
+    int nColumns;
+    char shown; // in place of the bytes, if not 0
+};
+
+Print nextPrint(const char* szText)
+{
+    std::mbstate_t state{};
+    wchar_t wide = 0;
+    const std::size_t size = std::mbrtowc(&wide, szText, MB_CUR_MAX, &state);
+    const int nColumns = size <= MB_CUR_MAX ? wcwidth(wide) : -1;
+    if (nColumns >= 0)
+        return {static_cast<int>(size), nColumns, '\0'};
+    const auto byte = static_cast<unsigned char>(*szText);
+    if (byte < ' ' || byte == KS_BACKSPACE)
+        return {1, 1, ' '}; // a control character would lead out of the row
+    return {1, kul::length(unctrl(byte)), '\0'};
+}
+
+// Prints what of a text fits into nWidth columns and into the window.
+void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
+{
+    const int nEnd = std::min(kul::shifted(nX, nWidth), getmaxx(win));
+    for (int nAt = wmove(win, nY, nX) == ERR ? nEnd : nX; *szText && nAt < nEnd;) {
+        const Print print = nextPrint(szText);
+        nAt += print.nColumns;
+        if (nAt <= nEnd)
+            waddnstr(win, print.shown ? &print.shown : szText, print.nBytes);
+        szText += print.nBytes;
+    }
+}
+
+void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
+              const kul::MenuColors& colors)
+{
+    const int nX = kul::shifted(menu.nX, 1);
+    const KULMENUELEMENT* element = view.place.find(menu.Element, view.nFirst);
+    for (int i = 0; element && i < menu.nHeight; element = element->Next, ++i) {
+        const int nY = kul::shifted(menu.nY, 1LL + i);
+        if (nY >= getmaxy(win))
+            break;
+        const int nColor = kul::elementColor(colors, *element, view.nFirst + i == menu.nSelect);
+        Fill(win, nY, nX, 1, menu.nWidth, nColor);
+        const kul::Attribute color(win, nColor);
+        drawCut(win, nY, nX, menu.nWidth, element->szText ? element->szText : "");
+    }
+}
+
+void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
+{
+    KULGAUGEBAR bar{};
+    bar.nColorBar = bar.nColorRail = nColor;
+    bar.nX = kul::shifted(menu.nX, menu.nWidth + 1LL);
+    bar.nY = menu.nY;
+    bar.nLength = kul::shifted(menu.nHeight, 2);
+    bar.nRange = menu.nElements;
+    bar.nPosition = 1;
+    bar.nOrient = VERTICAL;
+    BarShow(gui, &bar, kScrollBar);
+}
+
+void draw(GUI* gui, const KULDYNMENU& menu, kul::MenuView& view, int nFocus)
+{
+    if (menu.nVisible != T || menu.nWidth < 1 || menu.nHeight < 1)
+        return;
+    const int nFrame = nFocus == 1 ? menu.nColorFocus : menu.nColorUnfocus;
+    const int nWidth = kul::shifted(menu.nWidth, 2);
+    const int nHeight = kul::shifted(menu.nHeight, 2);
+    Fill(gui->winMain, menu.nY, menu.nX, nHeight, nWidth, nFrame);
+    DrawBorder(gui->winMain, menu.nY, menu.nX, nHeight, nWidth, nFrame);
+    follow(view, menu);
+    drawRows(gui->winMain, menu, view, kul::menuColors(menu, nFocus));
+    if (menu.nHeight < menu.nElements)
+        drawScrollBar(gui, menu, nFrame);
+}
+
+} // namespace
+
+namespace kul {
+
+void dropDynmenu(DynMenu& menu)
+{
+    dropAll(menu.Element);
+    menu.view = {};
+}
+
+void showDynmenu(GUI* thisGUI, DynMenu* thisMenu, int nFocus)
+{
+    if (thisGUI && thisMenu)
+        draw(thisGUI, *thisMenu, thisMenu->view, nFocus);
+}
+
+} // namespace kul
+
+int AttachDynmenuComponentToUI(UI* thisUI)
+{
+    return AttachComponentToUI(thisUI, DYNMENU);
+}
+
+int ConfigDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu)
+{
+    if (!thisGUI || !thisMenu)
+        return -1;
+    kul::takeColors(*thisGUI, *thisMenu);
+    kul::setCallbacks(*thisMenu, nullptr, nullptr, nullptr, nullptr);
+    thisMenu->Element = nullptr;
+    thisMenu->nElements = 0;
+    thisMenu->nVisible = T;
+    return 0;
+}
+
+int WipeDynmenuComponent(KULDYNMENU* thisMenu)
+{
+    if (thisMenu)
+        kul::dropAll(thisMenu->Element);
+    std::free(thisMenu);
+    return 0;
+}
+
+int kuldynmenu_create(int nChain, int nRef)
+{
+    return kul::createUI(nChain, nRef, DYNMENU);
+}
+
+int kuldynmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int nColorDisable,
+                      int nX, int nY, int nWidth, int nHeight, KULCALLBACK onFocus,
+                      KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick)
+{
+    auto* menu = kul::resetUI<KULDYNMENU>(nChain, nRef, DYNMENU);
+    if (!menu)
+        return -1;
+    kul::setColors(*menu, nColorFocus, nColorUnfocus, nColorDisable);
+    kul::setCallbacks(*menu, onFocus, onUnfocus, onSelect, onClick);
+    menu->nX = nX;
+    menu->nY = nY;
+    menu->nWidth = nWidth;
+    menu->nHeight = nHeight;
+    menu->nSelect = 0;
+    menu->nMaxLength = 0;
+    return 0;
+}
+
+int kuldynmenu_show(int nChain, int nRef)
+{
+    return SetUIVisibility(nChain, nRef, T);
+}
+
+int kuldynmenu_hide(int nChain, int nRef)
+{
+    return SetUIVisibility(nChain, nRef, F);
+}
+
+int kuldynmenu_addElement(int nChain, int nRef, const char* szText, KULCALLBACK onSelect,
+                          KULCALLBACK onClick, int nEnable)
+{
+    auto* menu = kul::findUI<KULDYNMENU>(nChain, nRef, DYNMENU);
+    if (!menu)
+        return -1;
+    auto* added = AddMenuElement(menu->Element, nEnable, szText, onSelect, onClick);
+    if (!kul::takeAdded(menu->Element, menu->nElements, menu->nSelect, added))
+        return -1;
+    menu->nMaxLength = std::max(menu->nMaxLength, kul::length(added->szText));
+    return 0;
+}
+
+int kuldynmenu_remElement(int nChain, int nRef, int)
+{
+    auto* menu = kul::findUI<KULDYNMENU>(nChain, nRef, DYNMENU);
+    return menu ? kul::dropLast(menu->Element) : -1;
+}
+
+KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElement)
+{
+    const auto* menu = kul::findUI<KULDYNMENU>(nChain, nRef, DYNMENU);
+    return menu ? kul::cappedLookup(menu->Element, nElement) : nullptr;
+}
+
+// The record may be the program's own, without a view: it is shown from its start.
+void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus)
+{
+    kul::MenuView view{};
+    if (thisGUI && thisMenu)
+        draw(thisGUI, *thisMenu, view, nFocus);
+}
+
+int kuldynmenu_execKeys(int nChain, int nRef)
+{
+    return kul::runMenu<KULDYNMENU>(nChain, nRef, kDynmenuKeys);
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+//
+// A file's text as rows of a given width, downwards and upwards from any place. Lines wrap at
+// blanks; a word that is wider than a row is cut where the row is full. The blanks at which a line
+// wraps are not shown, everything else is.
+//
+// How a row is laid out follows from the bytes from its start on, and where rows start follows from
+// the start of the line (or piece of a line), so that all ways to a row give the same one.
+#ifndef KUL_UI_FILE_ROWS_HPP
+#define KUL_UI_FILE_ROWS_HPP
+
+#include "file_text.hpp"
+
+namespace kul {
+
+class FileRows {
+public:
+    // Wider rows wrap there.
+    static constexpr int kMaxColumns = 1000;
+
+    // What stands for characters that cannot be shown.
+    static constexpr wchar_t kStandIn = L'?';
+
+    // nColumns is taken into 1..kMaxColumns.
+    FileRows(FileText& text, int nColumns);
+
+    struct Row {
+        FilePlace start;
+        FilePlace end;  // behind the last byte that is shown
+        FilePlace next; // start of the row below
+    };
+
+    // What some bytes look like; a tab is as many blanks as it takes.
+    struct Glyph {
+        wchar_t character;
+        int nBytes;
+        int nCells;
+    };
+
+    // The row that starts at a place; without a next one (next is start) at the end of the file.
+    Row row(FilePlace start);
+
+    // The character at a place before end, in that column of a row.
+    Glyph glyph(FilePlace place, FilePlace end, int nColumn);
+
+    // Start of the row that holds a place; the last one for places behind the end.
+    FilePlace rowOf(FilePlace place);
+
+    // Start of the row that is nRows below or above one, or as many as there are.
+    FilePlace down(FilePlace start, int nRows);
+    FilePlace up(FilePlace start, int nRows);
+
+private:
+    // A row and what lineStart looks at behind it, and what a last tab is too long.
+    static constexpr int kCells = 2 * kMaxColumns + 1 + 8;
+
+    FilePlace placeOf(int nCell, int nCells, FilePlace start, FilePlace end) const;
+    int shownCells(int nCells) const;
+    Glyph wideGlyph(FilePlace place, FilePlace end);
+
+    FileText& text_;
+    int nColumns_;
+    char cells_[kCells]; // one character each, however it is encoded
+    int places_[kCells]; // first byte of the cell's character, from the row's start; -1: as before
+};
+
+} // namespace kul
+
+#endif

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+//
+// A text file of any size as bytes and lines, read where it is needed. It takes 0.7 MiB at the
+// most: a few pages of the file that were used last, one buffer to read through it from end to
+// end, and a table of how many lines come before which place, coarser the longer the file.
+//
+// The file may change at any time. Whatever it does, reads give the bytes that are there, or none.
+#ifndef KUL_UI_FILE_TEXT_HPP
+#define KUL_UI_FILE_TEXT_HPP
+
+#include <cstdint>
+#include <string_view>
+
+namespace kul {
+
+// A byte of a file, by its distance from the start.
+using FilePlace = std::int64_t;
+
+class FileText {
+public:
+    // Lines longer than this are cut into pieces where they cross a multiple of it.
+    static constexpr FilePlace kPage = 64 * 1024;
+
+    enum class Change { None, Some, Shorter };
+
+    // Opens a file. Null when it cannot be opened or read, is no regular file, or without memory;
+    // what would make the caller wait is not even opened.
+    static FileText* open(const char* szName);
+
+    // Closes the file and frees this; null is none.
+    static void close(FileText* text);
+
+    // Looks whether the file has changed since the last time, and takes note.
+    Change refresh();
+
+    // Whether another file has the name now.
+    bool isReplacedAt(const char* szName) const;
+
+    FilePlace size() const { return size_; }
+
+    // The bytes at a place, up to the end of the page or the file: empty where there is none.
+    // They stay for at least two more calls.
+    std::string_view at(FilePlace place);
+
+    // The byte at a place, -1 for none.
+    int byteAt(FilePlace place);
+
+    // The last newline in [from, place), the first one in [from, to); -1 for none.
+    FilePlace newlineBefore(FilePlace place, FilePlace from);
+    FilePlace newlineFrom(FilePlace from, FilePlace to);
+
+    // Start of the line that holds a place, or of its piece if the line is cut. No place is more
+    // than a page and 3 bytes behind it.
+    FilePlace pieceStart(FilePlace place);
+
+    // Where a line that goes on there would be cut next after a place.
+    FilePlace nextCut(FilePlace place);
+
+    // The number, from 0, of the line that holds a place.
+    std::int64_t lineOf(FilePlace place);
+
+    // Start of a line; -1 when there are fewer.
+    FilePlace lineStart(std::int64_t nLine);
+
+    struct Match {
+        std::int64_t nLine; // -1: none
+        FilePlace line;     // start of the line
+        FilePlace place;    // of the first match in it
+    };
+
+    // The first line from nLine on that contains a text.
+    Match find(std::string_view wanted, std::int64_t nLine);
+
+private:
+    static constexpr int kPages = 8;
+    static constexpr int kChunk = 128 * 1024;
+    static constexpr int kOverlap = 4096;
+    static constexpr int kMarks = 4096;
+
+    // While reading through the file: how many newlines come before a place.
+    struct Counted {
+        FilePlace place;
+        std::int64_t nLines;
+    };
+
+    // What the system says of a file.
+    struct Seen {
+        std::int64_t size, seconds, nanoseconds, device, inode;
+        bool operator==(const Seen&) const = default;
+    };
+
+    struct Page {
+        FilePlace number;
+        unsigned nUsed; // 0: empty
+        int nBytes;
+        char bytes[kPage];
+    };
+
+    std::string_view chunk(FilePlace place);
+    Counted markAt(std::int64_t nMark) const;
+    void advance(Counted& counted, std::string_view bytes);
+    FilePlace cutAt(FilePlace edge);
+    bool isCut(FilePlace start, FilePlace edge);
+    bool continuesWith(FilePlace place, std::string_view text);
+    void forgetLines();
+    bool look();
+
+    int nDescriptor_;
+    FilePlace size_;
+    Seen seen_;
+    unsigned nUses_;
+    std::int64_t nMarks_; // marks that are set; mark 0 is the start of the file
+    FilePlace stride_;    // distance of two marks
+    std::int64_t marks_[kMarks];
+    Page pages_[kPages];
+    char buffer_[kOverlap + kChunk];
+};
+
+} // namespace kul
+
+#endif

@@ -1,0 +1,442 @@
+// SPDX-License-Identifier: MIT
+//
+// The file viewer: a window onto the rows of a file. What it costs to show or to move does not
+// depend on where in the file that is, nor on how long the file is.
+#include "fileview.hpp"
+
+#include <algorithm>
+
+#include "../gui/draw.hpp"
+#include "../gui/polling.hpp"
+#include "file_rows.hpp"
+#include "handler.hpp"
+
+namespace {
+
+using kul::FilePlace;
+using kul::FileRows;
+using kul::FileText;
+using kul::FileView;
+
+constexpr int kScrollStyle = 1;
+constexpr int kMaxRows = 1000;
+
+// The box of the text: inside the frame, or left of the scroll bar.
+struct Box {
+    int nX, nY, nWidth, nHeight;
+};
+
+Box textBox(const KULFILEVIEW& view)
+{
+    if (view.nBorder == BORDER)
+        return {kul::shifted(view.nX, 1), kul::shifted(view.nY, 1), kul::shifted(view.nWidth, -2),
+                kul::shifted(view.nHeight, -2)};
+    return {view.nX, view.nY, kul::shifted(view.nWidth, -1), view.nHeight};
+}
+
+int columns(const FileView& view)
+{
+    return std::clamp(textBox(view).nWidth, 1, FileRows::kMaxColumns);
+}
+
+int rowsInView(const FileView& view)
+{
+    return std::clamp(textBox(view).nHeight, 1, kMaxRows);
+}
+
+FileView* findView(int nChain, int nRef)
+{
+    return kul::findUI<FileView>(nChain, nRef, FILEVIEW);
+}
+
+// ---- Moving ---------------------------------------------------------------------------------
+
+// Shows the row that holds a place at the top, or the last rows where there are not enough below.
+void moveTo(FileView& view, FilePlace place)
+{
+    FileRows rows(*view.text, columns(view));
+    const int nRows = rowsInView(view);
+    view.nColumns = columns(view);
+    view.top = rows.rowOf(place);
+    view.atEnd = rows.down(view.top, nRows) >= view.text->size();
+    if (view.atEnd)
+        view.top = std::min(view.top, rows.up(view.text->size(), nRows));
+}
+
+void moveRows(FileView& view, int nRows)
+{
+    FileRows rows(*view.text, columns(view));
+    moveTo(view, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
+}
+
+int page(const FileView& view)
+{
+    return std::max(rowsInView(view) - 1, 1);
+}
+
+struct KeyMove {
+    int nKey;
+    void (*move)(FileView&);
+};
+
+constexpr KeyMove kKeyMoves[] = {
+    {KS_UP, [](FileView& view) { moveRows(view, -1); }},
+    {KS_DOWN, [](FileView& view) { moveRows(view, 1); }},
+    {KS_PAGEUP, [](FileView& view) { moveRows(view, -page(view)); }},
+    {KS_BACKSPACE, [](FileView& view) { moveRows(view, -page(view)); }},
+    {KS_PAGEDOWN, [](FileView& view) { moveRows(view, page(view)); }},
+    {KS_SPACE, [](FileView& view) { moveRows(view, page(view)); }},
+    {KS_HOME, [](FileView& view) { moveTo(view, 0); }},
+    {KS_END, [](FileView& view) { moveTo(view, view.text->size()); }},
+};
+
+// How far the view is in the file: 0 at its start, 100 where the end is in view.
+int percent(const FileView& view)
+{
+    if (!view.text || view.atEnd)
+        return 100;
+    const double part = static_cast<double>(view.top) / static_cast<double>(view.text->size());
+    return std::min(static_cast<int>(100 * part), 99);
+}
+
+// ---- Keeping up with the file ---------------------------------------------------------------
+
+// Another file that got the name; it takes the place of the old one once it can be read.
+bool takeReplacement(FileView& view)
+{
+    if (!view.text->isReplacedAt(view.szFileName))
+        return false;
+    FileText* text = FileText::open(view.szFileName);
+    if (!text)
+        return false;
+    FileText::close(view.text);
+    view.text = text;
+    return true;
+}
+
+// Fits the view to the file as it is now and to the width as it is now. True when it has to be
+// drawn.
+bool keepUp(FileView& view)
+{
+    if (!view.text)
+        return false;
+    const bool replaced = view.following && takeReplacement(view);
+    const auto change = replaced ? FileText::Change::Shorter : view.text->refresh();
+    if (change == FileText::Change::None && view.nColumns == columns(view))
+        return false;
+    const bool toEnd = view.following && (view.atEnd || change == FileText::Change::Shorter);
+    moveTo(view, toEnd ? view.text->size() : view.top);
+    return true;
+}
+
+bool keepUpAll(const GUI& dialog)
+{
+    bool changed = false;
+    for (const UI* ui = dialog.UserInterface; ui; ui = ui->Next) {
+        if (ui->nType == FILEVIEW && ui->Pointer && keepUp(*static_cast<FileView*>(ui->Pointer)))
+            changed = true;
+    }
+    return changed;
+}
+
+// ---- Loading --------------------------------------------------------------------------------
+
+// A file and the copy of its name; both or none.
+struct Loaded {
+    FileText* text;
+    char* szFileName;
+};
+
+Loaded openFile(const char* szFileName)
+{
+    Loaded loaded = {FileText::open(szFileName), nullptr};
+    if (loaded.text && !(loaded.szFileName = kul::copyText(szFileName))) {
+        FileText::close(loaded.text);
+        loaded.text = nullptr;
+    }
+    return loaded;
+}
+
+void showFile(FileView& view, const Loaded& loaded)
+{
+    kul::dropFileView(view);
+    view.text = loaded.text;
+    view.szFileName = loaded.szFileName;
+    if (!view.text)
+        return;
+    kul::lookEverySecond(keepUpAll);
+    moveTo(view, view.following ? view.text->size() : 0);
+}
+
+// ---- Drawing --------------------------------------------------------------------------------
+
+// A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
+void drawRow(WINDOW* win, int nY, const Box& box, FileRows& rows, const FileRows::Row& row)
+{
+    wchar_t run[FileRows::kMaxColumns];
+    const int nRight =
+        static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
+                                             static_cast<long long>(getmaxx(win)) - box.nX));
+    int nRun = 0;
+    int nFirst = 0; // column of the run's first character
+    int nColumn = 0;
+    for (FilePlace place = row.start; place < row.end && nColumn < nRight;) {
+        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
+        place += now.nBytes;
+        const bool blanks = now.character == L' ';
+        if (!blanks && nColumn + now.nCells > nRight)
+            break;
+        for (int i = 0; i < (blanks ? now.nCells : 1) && nColumn + i < nRight; ++i) {
+            if (kul::shifted(box.nX, nColumn + i) < 0)
+                continue;
+            if (nRun == 0)
+                nFirst = nColumn + i;
+            run[nRun++] = now.character;
+        }
+        nColumn += now.nCells;
+    }
+    nColumn = std::min(nColumn, std::max(nRight, 0));
+    if (nRun > 0)
+        mvwaddnwstr(win, nY, kul::shifted(box.nX, nFirst), run, nRun);
+    kul::hRun(win, nY, kul::shifted(box.nX, nColumn), static_cast<long long>(box.nWidth) - nColumn,
+              ' ');
+}
+
+// Draws the rows from the top on; returns the place behind them.
+FilePlace drawText(WINDOW* win, const FileView& view, const Box& box)
+{
+    const int nBottom = std::min(getmaxy(win), kul::shifted(box.nY, box.nHeight));
+    if (!view.text) {
+        for (int nY = std::max(box.nY, 0); nY < nBottom; ++nY)
+            kul::hRun(win, nY, box.nX, box.nWidth, ' ');
+        return 0;
+    }
+    FileRows rows(*view.text, columns(view));
+    FilePlace place = view.nColumns == columns(view) ? view.top : rows.rowOf(view.top);
+    // Rows that lie above of the window count, but not without end.
+    for (int nY = std::max(box.nY, -kMaxRows); nY < nBottom; ++nY) {
+        const FileRows::Row row = rows.row(place);
+        if (nY >= 0)
+            drawRow(win, nY, box, rows, row);
+        place = row.next;
+    }
+    return place;
+}
+
+// The thumb is as large, and as far down, as the view in the file.
+void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
+{
+    if (view.nHeight < 1)
+        return;
+    const auto size = static_cast<double>(view.text->size());
+    const auto shown = static_cast<double>(std::max<FilePlace>(bottom - view.top, 1));
+    KULGAUGEBAR bar{};
+    bar.nColorBar = bar.nColorRail = view.nColorUnfocus;
+    bar.nX = kul::shifted(view.nX, view.nWidth - 1LL);
+    bar.nY = view.nY;
+    bar.nLength = std::min(view.nHeight, kMaxRows);
+    bar.nRange = static_cast<int>(std::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
+    bar.nPosition = bar.nRange - bar.nLength; // the end
+    if (!view.atEnd)
+        bar.nPosition = std::min(
+            static_cast<int>(static_cast<double>(view.top) / size * bar.nRange), bar.nPosition - 1);
+    bar.nOrient = VERTICAL;
+    BarShow(gui, &bar, kScrollStyle);
+}
+
+} // namespace
+
+namespace kul {
+
+void dropFileView(FileView& view)
+{
+    FileText::close(view.text);
+    std::free(view.szFileName);
+    view.text = nullptr;
+    view.szFileName = nullptr;
+    view.top = 0;
+    view.atEnd = true;
+}
+
+} // namespace kul
+
+int AttachFileviewComponentToUI(UI* thisUI)
+{
+    return AttachComponentToUI(thisUI, FILEVIEW);
+}
+
+int ConfigFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView)
+{
+    if (!thisGUI || !thisView)
+        return -1;
+    auto* view = static_cast<FileView*>(thisView);
+    kul::dropFileView(*view);
+    kul::takeColors(*thisGUI, *view);
+    kul::setCallbacks(*view, nullptr, nullptr, nullptr, nullptr);
+    view->nVisible = T;
+    view->nBorder = NOBORDER;
+    view->following = false;
+    return 0;
+}
+
+int WipeFileviewComponent(KULFILEVIEW* thisView)
+{
+    if (!thisView)
+        return 0;
+    auto* view = static_cast<FileView*>(thisView);
+    kul::dropFileView(*view);
+    std::free(view);
+    return 0;
+}
+
+void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
+{
+    if (!thisGUI || !thisView || thisView->nVisible != T)
+        return;
+    const auto& view = *static_cast<const FileView*>(thisView);
+    WINDOW* win = thisGUI->winMain;
+    FilePlace bottom = 0;
+    {
+        const kul::Attribute color(win, nFocus == 1 ? view.nColorFocus : view.nColorUnfocus);
+        bottom = drawText(win, view, textBox(view));
+    }
+    if (view.nBorder == BORDER)
+        DrawBorder(win, view.nY, view.nX, view.nHeight, view.nWidth, view.nColorUnfocus);
+    if (view.text && (view.top > 0 || !view.atEnd))
+        drawScrollBar(thisGUI, view, bottom);
+}
+
+int kulfileview_create(int nChain, int nRef)
+{
+    return kul::createUI(nChain, nRef, FILEVIEW);
+}
+
+int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int nColorDisable,
+                       int nX, int nY, int nWidth, int nHeight, int nBorder, const char* szFileName,
+                       KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
+                       KULCALLBACK onClick)
+{
+    if (!findView(nChain, nRef))
+        return -1;
+    // Opened before the reset, which frees the name that the program may have got from the record.
+    const Loaded loaded = openFile(szFileName);
+    auto* view = kul::resetUI<FileView>(nChain, nRef, FILEVIEW);
+    kul::setColors(*view, nColorFocus, nColorUnfocus, nColorDisable);
+    kul::setCallbacks(*view, onFocus, onUnfocus, onSelect, onClick);
+    view->nX = nX;
+    view->nY = nY;
+    view->nWidth = nWidth;
+    view->nHeight = nHeight;
+    if (nBorder == BORDER || nBorder == NOBORDER)
+        view->nBorder = nBorder;
+    showFile(*view, loaded);
+    return szFileName && !loaded.text ? -10028 : 0;
+}
+
+int kulfileview_load(int nChain, int nRef, const char* szFileName)
+{
+    FileView* view = findView(nChain, nRef);
+    if (!view)
+        return -1;
+    const Loaded loaded = openFile(szFileName);
+    if (szFileName && !loaded.text)
+        return -10028;
+    showFile(*view, loaded);
+    return 0;
+}
+
+int kulfileview_setFollow(int nChain, int nRef, int bFollow)
+{
+    FileView* view = findView(nChain, nRef);
+    if (!view)
+        return -1;
+    view->following = bFollow == T;
+    if (view->following && view->text) {
+        keepUp(*view);
+        moveTo(*view, view->text->size());
+    }
+    return 0;
+}
+
+int kulfileview_find(int nChain, int nRef, const char* szText, int nFrom)
+{
+    FileView* view = findView(nChain, nRef);
+    if (!view || !view->text || !szText)
+        return -1;
+    keepUp(*view);
+    const FileText::Match match = view->text->find(szText, nFrom);
+    if (match.nLine < 0)
+        return -1;
+    moveTo(*view, match.line);
+    FileRows rows(*view->text, columns(*view));
+    if (match.place >= rows.down(view->top, rowsInView(*view)))
+        moveTo(*view, match.place); // far behind in a line that is larger than the view
+    return static_cast<int>(std::min<std::int64_t>(match.nLine, INT_MAX));
+}
+
+int kulfileview_getPosition(int nChain, int nRef)
+{
+    FileView* view = findView(nChain, nRef);
+    if (!view)
+        return -1;
+    keepUp(*view);
+    return view->text
+               ? static_cast<int>(std::min<std::int64_t>(view->text->lineOf(view->top), INT_MAX))
+               : 0;
+}
+
+int kulfileview_setPosition(int nChain, int nRef, int nLine)
+{
+    FileView* view = findView(nChain, nRef);
+    if (!view)
+        return -1;
+    if (!view->text)
+        return 0;
+    keepUp(*view);
+    const FilePlace place = view->text->lineStart(nLine);
+    moveTo(*view, place < 0 ? view->text->size() : place);
+    return 0;
+}
+
+int kulfileview_show(int nChain, int nRef)
+{
+    return SetUIVisibility(nChain, nRef, T);
+}
+
+int kulfileview_hide(int nChain, int nRef)
+{
+    return SetUIVisibility(nChain, nRef, F);
+}
+
+int kulfileview_execKeys(int nChain, int nRef)
+{
+    const FileView* start = findView(nChain, nRef);
+    if (!start)
+        return -10000;
+    if (start->nVisible != T)
+        return 10;
+    kul::Handler<FileView> handler({nChain, nRef, FILEVIEW, percent(*start), 0, 0});
+    handler.call(&FileView::onFocus);
+    while (const int nKey = handler.key(kul::isShown<FileView>)) {
+        FileView* view = handler.record();
+        const auto* move = std::find_if(std::begin(kKeyMoves), std::end(kKeyMoves),
+                                        [=](const KeyMove& row) { return row.nKey == nKey; });
+        if (nKey == KS_TAB || nKey == KS_ESC) {
+            handler.end(nKey == KS_TAB ? 10 : -10);
+        } else if (nKey == KS_ENTER) {
+            handler.call(&FileView::onClick);
+        } else if (view && view->text && move != std::end(kKeyMoves)) {
+            keepUp(*view);
+            const FilePlace before = view->top;
+            move->move(*view);
+            handler.selection.nPosition = percent(*view);
+            SetCurrentSelection(&handler.selection);
+            if (view->top != before)
+                handler.call(&FileView::onSelect);
+        }
+        if (const FileView* now = handler.record())
+            handler.selection.nPosition = percent(*now);
+        handler.show();
+    }
+    return handler.finish(&FileView::onUnfocus);
+}

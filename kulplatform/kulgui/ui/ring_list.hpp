@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+//
+// What check box lists and option lists have in common besides their elements: settings, drawing
+// and keys.
+#ifndef KUL_UI_RING_LIST_HPP
+#define KUL_UI_RING_LIST_HPP
+
+#include "../gui/text.hpp"
+#include "handler.hpp"
+#include "ring_view.hpp"
+
+namespace kul {
+
+// Records and their settings.
+
+template <typename Record>
+void dropRing(RingList<Record>& list)
+{
+    wipeRing(list.Element);
+    list.Element = list.FirstShowed = list.LastShowed = nullptr;
+    list.head = list.found = nullptr;
+    list.nRows = 0;
+}
+
+template <typename Record>
+int setListDefaults(const GUI* gui, Record* list)
+{
+    if (!gui || !list)
+        return -1;
+    takeColors(*gui, *list);
+    setCallbacks(*list, nullptr, nullptr, nullptr, nullptr);
+    list->Element = list->FirstShowed = list->LastShowed = nullptr;
+    list->nVisible = T;
+    list->nSelect = 0;
+    cursorOf(*list) = 0;
+    list->nElements = 0;
+    list->nBorder = NOBORDER;
+    list->bScrollbar = F;
+    list->nFirstShowed = list->nLastShowed = -1;
+    return 0;
+}
+
+template <typename Record>
+int wipeList(Record* list)
+{
+    if (!list)
+        return 0;
+    const int nResult = wipeRing(list->Element);
+    std::free(list);
+    return nResult;
+}
+
+// Drawing.
+
+template <typename Record>
+void drawScrollbar(GUI* gui, Record& list, int nColor)
+{
+    const int nRight = shifted(list.nX, list.nWidth - 1LL);
+    const int nLast = list.nElements - 1;
+    const int nCursor = cursorOf(list);
+    const KULGAUGEBAR bar = {nColor, nColor,  nRight,   list.nY, list.nHeight,
+                             nLast,  nCursor, VERTICAL, T,       nullptr};
+    BarShow(gui, &bar, 1);
+    if (nCursor != 0 && nCursor != nLast)
+        return;
+    const Attribute color(gui->winMain, nColor);
+    mvwaddch(gui->winMain, nCursor == 0 ? list.nY : shifted(list.nY, list.nHeight - 1LL), nRight,
+             ACS_DIAMOND | A_REVERSE);
+}
+
+// Draws the elements in view; marker gives the three characters in front of each.
+template <typename Record, typename Marker>
+void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
+{
+    const int nEdge = list.nBorder == BORDER ? 1 : 0;
+    const int nX = shifted(list.nX, nEdge);
+    const int nY = shifted(list.nY, nEdge);
+    const int nRows = hasRoom(list) ? viewRows(list) : 0;
+    const int nSeen = std::min(nRows, shifted(getmaxy(win), -static_cast<long long>(nY)));
+    auto* element = list.FirstShowed;
+    int nUsed = 0;
+    for (int i = list.nFirstShowed; element && i <= list.nLastShowed && nUsed < nSeen; ++i) {
+        int nColor = list.nColorUnfocus;
+        if (nFocus == 1 && i == cursorOf(list))
+            nColor = list.nColorFocus;
+        else if (nFocus == 1 && element->nEnable != 1)
+            nColor = list.nColorDisable;
+        const int nTop = shifted(nY, nUsed);
+        const int nHeight =
+            i < list.nLastShowed ? GetWrapTextHeight(textWidth(list), element->szText) : nRows;
+        const int nCut = std::min(nHeight, nRows - nUsed);
+        {
+            const Attribute color(win, nColor);
+            drawText(win, nTop, nX, marker(*element, i));
+        }
+        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT,
+                    element->szText);
+        nUsed += nCut;
+        element = element->Next;
+    }
+}
+
+template <typename Record, typename Marker>
+void showList(GUI* gui, Record* list, int nFocus, Marker marker)
+{
+    if (!gui || !list || list->nVisible != T || list->nWidth < 1 || list->nHeight < 1)
+        return;
+    if (list->nBorder == BORDER)
+        DrawBorder(gui->winMain, list->nY, list->nX, list->nHeight, list->nWidth,
+                   list->nColorUnfocus);
+    if (list->bScrollbar == T)
+        drawScrollbar(gui, *list, list->nColorUnfocus);
+    drawElements(gui->winMain, *list, nFocus, marker);
+}
+
+// Keys.
+
+// Has the selection say what the list says now.
+template <typename Record>
+void noteSelection(Handler<RingList<Record>>& handler)
+{
+    if (RingList<Record>* list = handler.record()) {
+        handler.selection.nSelect = list->nSelect;
+        handler.selection.nPosition = cursorOf(*list);
+        SetCurrentSelection(&handler.selection);
+    }
+}
+
+// Runs a callback of the cursor's element, wherever in the list that is.
+template <typename Record>
+void callElement(Handler<RingList<Record>>& handler, KULCALLBACK ElementOf<Record>::*callback)
+{
+    RingList<Record>* list = handler.record();
+    if (const auto* element = list ? elementAt(*list, cursorOf(*list)) : nullptr)
+        handler.run(element->*callback);
+}
+
+// Gives a list the keys. click and moved run the callbacks after Space or Enter and after a move.
+template <typename Record>
+int runList(int nChain, int nRef, UI_TYPE type, void (*click)(Handler<RingList<Record>>&),
+            void (*moved)(Handler<RingList<Record>>&))
+{
+    auto& start = *findUI<RingList<Record>>(nChain, nRef, type);
+    bringIntoView(start);
+    Handler<RingList<Record>> handler({nChain, nRef, type, cursorOf(start), start.nSelect, 0});
+    handler.call(&Record::onFocus);
+    while (const int nKey = handler.key(isShown<RingList<Record>>)) {
+        if (nKey == KS_SPACE || nKey == KS_ENTER) {
+            click(handler);
+        } else if (nKey == KS_UP || nKey == KS_DOWN) {
+            if (RingList<Record>* list = handler.record())
+                moveCursor(*list, nKey);
+            noteSelection(handler);
+            moved(handler);
+        }
+        noteSelection(handler);
+        handler.show();
+        if (nKey == KS_TAB || nKey == KS_ESC)
+            handler.end(nKey == KS_TAB ? 10 : -10);
+    }
+    return handler.finish(&Record::onUnfocus);
+}
+
+} // namespace kul
+
+#endif

@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: MIT
+//
+// A terminal that is left as it was found, whatever happens, and the keys of any line.
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <fstream>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <vector>
+
+#include "terminal.hpp"
+
+using namespace kultools;
+
+namespace {
+
+constexpr const char* kPrograms = KULGUI_TEST_PROGRAMS "/";
+
+// Runs a script with a test program and its words as "$@".
+Launch script(const std::string& text, const std::string& words, const std::string& term = "linux")
+{
+    Launch launch;
+    launch.argv = {"sh", "-c", "set -- " + (kPrograms + words) + "; " + text};
+    launch.columns = 40;
+    launch.rows = 14;
+    launch.term = term;
+    return launch;
+}
+
+// What a program finds, and has to leave.
+struct Line {
+    termios modes{};
+    int flags = -1;
+
+    explicit Line(const Terminal& terminal) : flags(fcntl(terminal.tty(), F_GETFL))
+    {
+        EXPECT_EQ(tcgetattr(terminal.tty(), &modes), 0);
+    }
+    bool hasModesOf(const Line& other) const
+    {
+        return modes.c_iflag == other.modes.c_iflag && modes.c_oflag == other.modes.c_oflag &&
+               modes.c_cflag == other.modes.c_cflag && modes.c_lflag == other.modes.c_lflag &&
+               std::memcmp(modes.c_cc, other.modes.c_cc, sizeof modes.c_cc) == 0;
+    }
+};
+
+int exited(int status)
+{
+    return W_EXITCODE(status, 0);
+}
+
+void signalled(Terminal& terminal, int signal)
+{
+    ASSERT_TRUE(terminal.settle());
+    terminal.kill(signal);
+}
+
+void enter(Terminal& terminal)
+{
+    terminal.press("\r");
+}
+
+struct Way {
+    const char* name;
+    const char* words;
+    std::function<void(Terminal&)> act;
+    int status;
+    bool closed = false; // by kulgui_destroyAll, which leaves its own flags
+};
+
+class Ways : public testing::TestWithParam<const char*> {};
+
+TEST_P(Ways, LeaveTheTerminalAsItWasFound)
+{
+    const Way ways[] = {
+        {"exit() in a callback", "exit", enter, exited(3)},
+        {"return without closing", "return", enter, exited(4)},
+        {"kulgui_destroyAll", "close", enter, exited(5), true},
+        {"opened twice", "again",
+         [](Terminal& terminal) {
+             enter(terminal);
+             terminal.waitForText("count 1");
+             enter(terminal);
+         },
+         exited(5), true},
+        {"HUP", "count", [](Terminal& terminal) { signalled(terminal, SIGHUP); }, SIGHUP},
+        {"INT", "count", [](Terminal& terminal) { signalled(terminal, SIGINT); }, SIGINT},
+        {"QUIT", "count", [](Terminal& terminal) { signalled(terminal, SIGQUIT); }, SIGQUIT},
+        {"TERM", "count", [](Terminal& terminal) { signalled(terminal, SIGTERM); }, SIGTERM},
+        {"TERM with a handler", "handler count",
+         [](Terminal& terminal) { signalled(terminal, SIGTERM); }, exited(6)},
+        {"INT ignored", "ignore exit",
+         [](Terminal& terminal) {
+             signalled(terminal, SIGINT);
+             enter(terminal);
+         },
+         exited(3)},
+    };
+    for (const Way& way : ways) {
+        SCOPED_TRACE(way.name);
+        Terminal terminal(
+            script("ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
+                   std::string("ways ") + way.words, GetParam()));
+        ASSERT_TRUE(terminal.waitForText("before"));
+        const Line before(terminal);
+        terminal.press("\r");
+        ASSERT_TRUE(terminal.waitForText("count 0"));
+        ASSERT_TRUE(terminal.settle());
+        EXPECT_FALSE(terminal.cursor().visible && GetParam() != std::string("vt100"));
+        EXPECT_FALSE(Line(terminal).hasModesOf(before));
+
+        way.act(terminal);
+        const auto status = terminal.wait();
+        ASSERT_TRUE(status);
+        EXPECT_EQ(*status, way.status);
+        const Line after(terminal);
+        EXPECT_TRUE(after.hasModesOf(before));
+        EXPECT_EQ(after.flags & (O_NONBLOCK | O_APPEND),
+                  way.closed ? O_APPEND : before.flags & (O_NONBLOCK | O_APPEND));
+        EXPECT_TRUE(terminal.cursor().visible);
+        if (GetParam() == std::string("xterm-256color")) { // which keeps the shell's screen
+            EXPECT_EQ(terminal.row(0), "before");
+        }
+        terminal.feed("x"); // in whatever look the program has left
+        EXPECT_EQ(terminal.cell(terminal.cursor().row, terminal.cursor().column - 1),
+                  Cell{.glyph = "x"});
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Terminals, Ways, testing::Values("linux", "vt100", "xterm-256color"),
+                         [](const testing::TestParamInfo<const char*>& term) {
+                             return std::string(term.param, std::strcspn(term.param, "-"));
+                         });
+
+// The process group that has the terminal of a program's session.
+pid_t foreground(const Terminal& terminal)
+{
+    std::ifstream file("/proc/" + std::to_string(terminal.pid()) + "/stat");
+    std::string field;
+    for (int i = 1; i <= 8; ++i)
+        file >> field;
+    return std::stoi(field);
+}
+
+TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
+{
+    for (const char* term : {"linux", "vt100", "xterm-256color"}) {
+        SCOPED_TRACE(term);
+        Terminal terminal(script("set -m; echo before; read go; \"$@\"; echo stopped; read go; "
+                                 "fg >/dev/null; echo \"ended with $?\"",
+                                 "ways count", term));
+        ASSERT_TRUE(terminal.waitForText("before"));
+        const Line before(terminal);
+        terminal.press("\r");
+        ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
+        const Line inside(terminal);
+        const std::string screen = terminal.text();
+
+        ASSERT_NE(foreground(terminal), terminal.pid());
+        ::kill(-foreground(terminal), SIGTSTP);
+        ASSERT_TRUE(terminal.waitForText("stopped") && terminal.settle());
+        EXPECT_TRUE(Line(terminal).hasModesOf(before));
+        EXPECT_EQ(Line(terminal).flags, before.flags);
+        EXPECT_TRUE(terminal.cursor().visible);
+
+        terminal.feed("\033[3;3Hdirt"); // what others have written meanwhile
+        terminal.press("\r");
+        EXPECT_TRUE(terminal.waitFor([&] { return terminal.text() == screen; })) << terminal.text();
+        ASSERT_TRUE(terminal.settle());
+        EXPECT_TRUE(Line(terminal).hasModesOf(inside));
+        EXPECT_EQ(Line(terminal).flags, inside.flags);
+        EXPECT_FALSE(terminal.cursor().visible && term != std::string("vt100"));
+        terminal.press("\r");
+        EXPECT_TRUE(terminal.waitForText("count 1"));
+
+        ::kill(-foreground(terminal), SIGTERM);
+        EXPECT_TRUE(terminal.waitForText("ended with 143"));
+        EXPECT_TRUE(Line(terminal).hasModesOf(before));
+    }
+}
+
+double processorSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+TEST(HangUp, EndsTheProgramThatDoesNotHandleIt)
+{
+    Terminal terminal(script("exec \"$@\"", "ways count"));
+    ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
+    terminal.hangUp();
+    EXPECT_EQ(terminal.wait(), SIGHUP);
+}
+
+TEST(HangUp, EndsTheLoopOfADialogSoonAndQuietly)
+{
+    constexpr int kSoon = 3000; // a second, and patience with a busy machine
+    const double before = processorSeconds();
+    {
+        Terminal ignoring(script("trap '' HUP; exec \"$@\"", "ways count"));
+        ASSERT_TRUE(ignoring.waitForText("count 0") && ignoring.settle());
+        ignoring.hangUp();
+        EXPECT_EQ(ignoring.wait(kSoon), exited(10));
+
+        Terminal empty(script("exec \"$@\" </dev/null", "ways count"));
+        EXPECT_EQ(empty.wait(kSoon), exited(10));
+        EXPECT_NE(empty.received().find("count 0"), std::string::npos);
+    }
+    EXPECT_LT(processorSeconds() - before, 0.5) << "they wait without spinning";
+}
+
+TEST(Unusable, IsToldAndNothingElse)
+{
+    for (const char* text : {
+             "unset TERM; \"$@\"; echo $?",
+             "TERM=nonsense; \"$@\"; echo $?",
+             "TERM=dumb; \"$@\"; echo $?",
+             "{ \"$@\"; echo $?; } | cat",
+         }) {
+        SCOPED_TRACE(text);
+        Terminal terminal(script(text, "ways count"));
+        const Line before(terminal);
+        EXPECT_EQ(terminal.wait(), exited(0));
+        EXPECT_EQ(terminal.received(), "11\r\n");
+        EXPECT_TRUE(Line(terminal).hasModesOf(before));
+        EXPECT_EQ(Line(terminal).flags, before.flags);
+    }
+}
+
+// A program that shows the keys which the library reads.
+class Keys : public testing::Test {
+protected:
+    Keys() : terminal_(script("exec \"$@\"", "keys")) {}
+    void SetUp() override { ASSERT_TRUE(terminal_.waitForText("ready") && terminal_.settle()); }
+
+    // Whether this is the very next key that the program reads; leaves it at rest.
+    bool next(int code)
+    {
+        const std::string wanted = std::to_string(++count_) + ": " + std::to_string(code) + '.';
+        return terminal_.waitFor([&] { return number() >= count_; }) && terminal_.settle() &&
+               terminal_.row(0) == wanted;
+    }
+
+    int number() const { return std::atoi(terminal_.row(0).c_str()); }
+
+    Terminal terminal_;
+    int count_ = 0;
+};
+
+struct Key {
+    std::string bytes;
+    int code;
+    bool together = false; // means something else when it comes byte by byte
+};
+
+const Key kKeys[] = {
+    {"\t", 9},
+    {"\r", 13},
+    {"\033", 27},
+    {" ", 32},
+    {"\177", 127},
+    {"a", 97},
+    {"\310", -56},
+    {"\033[OP", 1000},
+    {"\033[[B", 1001},
+    {"\033[[C", 1002},
+    {"\033[[D", 1003},
+    {"\033[[E", 1004},
+    {"\033[17~", 1005},
+    {"\033[18~", 1006},
+    {"\033[19~", 1007},
+    {"\033[20~", 1008},
+    {"\033[21~", 1009},
+    {"\033[23~", 1010},
+    {"\033[24~", 1011},
+    {"\033[2~", 1012},
+    {"\033[3~", 1013},
+    {"\033[H", 1014},
+    {"\033[5~", 1015},
+    {"\033[6~", 1016},
+    {"\033[F", 1017},
+    {"\033[D", 1018},
+    {"\033[A", 1019},
+    {"\033[B", 1020},
+    {"\033[C", 1021},
+    {"\033[[A", 1019},  // the first tail that occurs in it
+    {"\033OP", 0},      // unknown
+    {"\033[1;5A", 0},   //
+    {"\033[?1;2c", 0},  // the terminal says what it is
+    {"\033[24;80R", 0}, // and where the cursor stands
+    {"\033P1$r0m\033\\", 0},
+    {"ab", 0, true},
+    {"\033[A\033[B", 1019, true},
+};
+
+TEST_F(Keys, AreReadFromBytesThatComeTogether)
+{
+    for (const Key& key : kKeys) {
+        SCOPED_TRACE(testing::PrintToString(key.bytes));
+        terminal_.send(key.bytes);
+        EXPECT_TRUE(next(key.code)) << terminal_.row(0);
+        terminal_.send("z"); // and nothing is left of it
+        EXPECT_TRUE(next('z')) << terminal_.row(0);
+    }
+}
+
+TEST_F(Keys, AreReadFromBytesOfASlowLine)
+{
+    // A busy machine may stretch a gap until it is the end of a key: then the key comes again.
+    constexpr int kTries = 3;
+    constexpr int kGap = 10;
+    for (const Key& key : kKeys) {
+        SCOPED_TRACE(testing::PrintToString(key.bytes));
+        for (int tries = key.together ? 0 : kTries; tries > 0; --tries) {
+            terminal_.sendSlowly(key.bytes, kGap);
+            if (next(key.code))
+                break;
+            EXPECT_GT(tries, 1) << terminal_.row(0);
+            count_ = number();
+        }
+        terminal_.send("z");
+        EXPECT_TRUE(next('z')) << terminal_.row(0);
+    }
+}
+
+} // namespace

@@ -1,0 +1,73 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * A dialog of 40 by 14 with three buttons, and what may be around it. Words on the command line:
+ *   desktop   the primary dialog is shown below
+ *   behind    a second dialog is shown, which it overlaps
+ *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
+ * Enter draws all that is around the dialog again, and writes "drawn".
+ */
+#include <kulgui.h>
+
+#include <string.h>
+
+enum { DESKTOP, MAIN, BEHIND };
+
+static int desktop;
+static int behind;
+
+static void addButton(int chain, int ref, const char* text, KULCALLBACK onClick)
+{
+    kulbutton_create(chain, ref);
+    kulbutton_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2 + 12 * (ref - 1), 5,
+                     10, 1, text, NULL, NULL, NULL, onClick);
+}
+
+static void drawn(void)
+{
+    if (behind)
+        kulgui_show(BEHIND);
+    if (desktop)
+        kulgui_show(DESKTOP);
+    addButton(MAIN, 3, "drawn", NULL);
+}
+
+static void nothing(void) {}
+
+static void count(void)
+{
+    static int polls;
+    if (++polls == 10)
+        addButton(MAIN, 3, "polled", NULL);
+}
+
+int main(int argc, char** argv)
+{
+    int poll = 0;
+    for (int i = 1; i < argc; ++i) {
+        desktop |= strcmp(argv[i], "desktop") == 0;
+        behind |= strcmp(argv[i], "behind") == 0;
+        poll |= strcmp(argv[i], "poll") == 0;
+    }
+    kulgui_create(DESKTOP);
+    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL,
+                       poll && desktop ? nothing : NULL, NULL, NULL, NULL);
+    kulgui_create(BEHIND);
+    kulgui_config(BEHIND, BLACK_GREEN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Behind", BORDER, 2, 3, 16, 10,
+                  NULL, poll ? nothing : NULL, NULL, NULL, NULL);
+    kulgui_create(MAIN);
+    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14,
+                  NULL, poll ? count : NULL, NULL, NULL, NULL);
+    addButton(BEHIND, 1, "Lost", NULL);
+    addButton(MAIN, 1, "One", drawn);
+    addButton(MAIN, 2, "Two", drawn);
+    addButton(MAIN, 3, "Three", drawn);
+    kulgui_setTabbing(MAIN, T);
+    if (NCursesEnv(1) != 0)
+        return 1;
+    if (desktop)
+        kulgui_show(DESKTOP);
+    if (behind)
+        kulgui_show(BEHIND);
+    kulgui_exec(MAIN);
+    return 0;
+}

@@ -1,0 +1,86 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * A dialog that is left in the way that the command line says. Enter on its button, whose text
+ * counts, does the last of these words:
+ *   exit      ends the program with exit(3)
+ *   return    leaves the dialog; main returns 4 with the terminal open
+ *   close     leaves the dialog; the program closes the terminal, prints "closed" and returns 5
+ *   again     as close, but first opens and closes the terminal once more, with an Enter between
+ *   count     counts
+ * and these change what the program does about signals:
+ *   handler   its own handler for TERM ends it with 6
+ *   ignore    INT is ignored
+ * When the dialog ends by itself the program returns 10, without a usable terminal 11.
+ */
+#include <kulgui.h>
+
+#include <signal.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+enum { DESKTOP, MAIN };
+
+static const char* way = "count";
+static int clicks;
+
+static void click(void);
+
+static void label(void)
+{
+    char text[20];
+    snprintf(text, sizeof text, "count %d", clicks);
+    kulbutton_config(MAIN, 1, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2, 2, 14, 1, text, NULL,
+                     NULL, NULL, click);
+}
+
+static void click(void)
+{
+    ++clicks;
+    label();
+    if (strcmp(way, "exit") == 0)
+        exit(3);
+    if (strcmp(way, "count") != 0)
+        kulgui_leave(MAIN);
+}
+
+static void onTerminate(int number)
+{
+    (void)number;
+    exit(6);
+}
+
+int main(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (strcmp(argv[i], "handler") == 0)
+            signal(SIGTERM, onTerminate);
+        else if (strcmp(argv[i], "ignore") == 0)
+            signal(SIGINT, SIG_IGN);
+        else
+            way = argv[i];
+    }
+    kulgui_create(DESKTOP);
+    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, NULL,
+                       NULL, NULL, NULL);
+    kulgui_create(MAIN);
+    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 2, 3, 18, 8,
+                  NULL, NULL, NULL, NULL, NULL);
+    kulbutton_create(MAIN, 1);
+    label();
+    for (int rounds = strcmp(way, "again") == 0 ? 2 : 1; rounds > 0; --rounds) {
+        const int opened = NCursesEnv(1);
+        if (opened == 0)
+            kulgui_show(DESKTOP);
+        const int result = kulgui_exec(MAIN);
+        if (result == -1 && opened == -1)
+            return 11;
+        if (result != KUL_LEFT)
+            return 10;
+        if (strcmp(way, "return") == 0)
+            return 4;
+        kulgui_destroyAll();
+        puts("closed");
+    }
+    return 5;
+}

@@ -1,0 +1,301 @@
+// SPDX-License-Identifier: MIT
+#include "ui/file_text.hpp"
+
+#include <clocale>
+#include <fcntl.h>
+#include <memory>
+#include <random>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "support/temporary_file.hpp"
+#include "ui/file_rows.hpp"
+
+namespace {
+
+using kul::FilePlace;
+using kul::FileRows;
+using kul::FileText;
+using kultest::TemporaryFile;
+using Rows = std::vector<std::string>;
+
+static_assert(sizeof(FileText) + sizeof(FileRows) < 1024 * 1024);
+
+struct Close {
+    void operator()(FileText* text) const { FileText::close(text); }
+};
+using Text = std::unique_ptr<FileText, Close>;
+
+Text open(const TemporaryFile& file)
+{
+    Text text(FileText::open(file.path().c_str()));
+    EXPECT_NE(text, nullptr);
+    return text;
+}
+
+// In a locale of UTF-8 while it lives; tests begin and end in the C locale.
+struct Utf8 {
+    Utf8() { EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr); }
+    ~Utf8() { std::setlocale(LC_ALL, "C"); }
+};
+
+std::string shown(FileRows& rows, const FileRows::Row& row)
+{
+    std::string result;
+    int nColumn = 0;
+    for (FilePlace place = row.start; place < row.end;) {
+        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
+        if (now.character == L' ')
+            result.append(static_cast<std::size_t>(now.nCells), ' ');
+        else if (now.character < 0x80)
+            result += static_cast<char>(now.character);
+        else
+            result += '#';
+        nColumn += now.nCells;
+        place += now.nBytes;
+    }
+    return result;
+}
+
+TEST(FileRowsTest, LaysOutAwkwardText)
+{
+    const Utf8 locale;
+    struct {
+        const char* szName;
+        std::string text;
+        int nColumns;
+        Rows rows;
+    } const cases[] = {
+        {"empty", "", 10, {}},
+        {"no newline at the end", "one\ntwo", 10, {"one", "two"}},
+        {"only newlines", "\n\n\n", 10, {"", "", ""}},
+        {"carriage returns", "a\r\nb\rc\r\n\r\n\r", 10, {"a", "b?c", "", "?"}},
+        {"control bytes", std::string("a\0b\x1b[1m\x7f", 8), 10, {"a?b?[1m?"}},
+        {"invalid bytes", "\xff\xc3(\xe2\x82", 10, {"?\?(??"}},
+        {"characters of many bytes", "gr\xc3\xbc\xc3\x9f \xe2\x82\xac", 10, {"gr## #"}},
+        {"control and joining characters",
+         "a\xc2\x85"
+         "b\xcc\x81",
+         10,
+         {"a?b?"}},
+        {"as wide as the row", "abc defgh\nx", 9, {"abc defgh", "x"}},
+        {"at blanks", "abc defgh ij", 9, {"abc defgh", "ij"}},
+        {"inside of a word", "abc defghi", 9, {"abc ", "defghi"}},
+        {"runs of blanks", "abc    d  ", 5, {"abc", "d  "}},
+        {"runs of blanks longer than a row", "abc      d", 5, {"abc", "     ", "d"}},
+        {"blanks that do not fit at the end", "abcd   ", 4, {"abcd"}},
+        {"indentation stays", "    ab cd", 7, {"    ab ", "cd"}},
+        {"more blanks than fit", "       ab", 4, {"    ", "ab"}},
+        {"many more blanks than fit", "              ab", 4, {"    ", "    ", "    ", "ab"}},
+        {"a word too long", "abcdefghij klm", 4, {"abcd", "efgh", "ij ", "klm"}},
+        {"a word too long after a short one", "a bcdefgh", 4, {"a ", "bcde", "fgh"}},
+        {"one column", "ab c", 1, {"a", "b", " ", "c"}},
+        {"no column counts as one", "ab", 0, {"a", "b"}},
+        {"tabs", "\ta\tb\n1234567\tc", 20, {"        a       b", "1234567 c"}},
+        {"a tab wider than the row", "\tab", 4, {"        ", "ab"}},
+        {"wide characters", "\xe4\xb8\xad\xe4\xb8\xad\xe4\xb8\xad", 5, {"##", "#"}},
+        {"too wide a character",
+         "\xe4\xb8\xad"
+         "a",
+         1,
+         {"?", "a"}},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.szName);
+        const TemporaryFile file(test.text);
+        const Text text = open(file);
+        FileRows rows(*text, test.nColumns);
+        Rows got;
+        for (FilePlace place = 0; place < text->size() && got.size() < 20;) {
+            const FileRows::Row row = rows.row(place);
+            got.push_back(shown(rows, row));
+            place = row.next;
+        }
+        EXPECT_EQ(got, test.rows);
+    }
+}
+
+TEST(FileRowsTest, ShowsBytesOfOtherLocalesByStandIns)
+{
+    const TemporaryFile file("gr\xc3\xbc");
+    const Text text = open(file);
+    FileRows rows(*text, 10);
+    EXPECT_EQ(shown(rows, rows.row(0)), "gr??");
+}
+
+// Words, blanks, characters of several bytes, and lines of all lengths around the sizes that count.
+std::string randomText(std::mt19937& random)
+{
+    const char* const parts[] = {"a",  "word", " ",  "   ",          "\t",           "\r",
+                                 "\0", "\xff", "\n", "\xe2\x82\xac", "\xe4\xb8\xad", "\r\n"};
+    const std::size_t sizes[] = {3, 200, FileText::kPage - 5, FileText::kPage * 5 / 2};
+    std::string text;
+    const std::size_t nLines = random() % 12;
+    for (std::size_t i = 0; i < nLines; ++i) {
+        const std::size_t end = text.size() + sizes[random() % 4] + random() % 8;
+        const std::size_t nParts = random() % 8 == 0 ? 2 : std::size(parts);
+        while (text.size() < end)
+            text += parts[random() % nParts];
+        text += random() % 3 == 0 ? "\r\n" : "\n";
+    }
+    return random() % 2 ? text : text + "end";
+}
+
+TEST(FileRowsTest, RowsAreTheSameOnAllWays)
+{
+    const Utf8 locale;
+    for (unsigned seed = 0; seed < 12; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const std::string bytes = randomText(random);
+        const TemporaryFile file(bytes);
+        const Text text = open(file);
+        FileRows rows(*text, 1 + static_cast<int>(random() % 120));
+        std::vector<FilePlace> starts;
+        FilePlace shownUpTo = 0;
+        for (FilePlace place = 0; place < text->size();) {
+            const FileRows::Row row = rows.row(place);
+            ASSERT_GT(row.next, place);
+            ASSERT_LE(row.end, row.next);
+            for (; shownUpTo < row.start; ++shownUpTo)
+                ASSERT_NE(std::string(" \t\r\n").find(bytes[static_cast<std::size_t>(shownUpTo)]),
+                          std::string::npos);
+            shownUpTo = row.end;
+            starts.push_back(place);
+            place = row.next;
+        }
+        for (std::size_t sample = 0; sample < 30 && !starts.empty(); ++sample) {
+            const std::size_t i = random() % starts.size();
+            const FilePlace place = starts[i];
+            const FilePlace next = i + 1 < starts.size() ? starts[i + 1] : text->size();
+            ASSERT_EQ(rows.rowOf(place + static_cast<FilePlace>(random()) % (next - place)), place);
+            ASSERT_EQ(rows.up(place, 1), starts[i > 0 ? i - 1 : 0]);
+            ASSERT_EQ(rows.up(place, 23), starts[i > 23 ? i - 23 : 0]);
+            ASSERT_EQ(rows.down(place, 7), i + 7 < starts.size() ? starts[i + 7] : text->size());
+        }
+        ASSERT_EQ(rows.up(text->size(), 5),
+                  starts.empty() ? 0
+                                 : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
+    }
+}
+
+TEST(FileTextTest, KnowsLinesAndFindsText)
+{
+    for (unsigned seed = 0; seed < 8; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        const std::string bytes = randomText(random) + "needle" + randomText(random);
+        const TemporaryFile file(bytes);
+        const Text text = open(file);
+        std::vector<std::size_t> lines = {0};
+        for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
+            if (bytes[i] == '\n')
+                lines.push_back(i + 1);
+        }
+        for (int i = 0; i < 20; ++i) {
+            const std::size_t nLine = random() % lines.size();
+            const std::size_t end = nLine + 1 < lines.size() ? lines[nLine + 1] : bytes.size();
+            EXPECT_EQ(text->lineStart(static_cast<int>(nLine)),
+                      static_cast<FilePlace>(lines[nLine]));
+            EXPECT_EQ(text->lineOf(
+                          static_cast<FilePlace>(lines[nLine] + random() % (end - lines[nLine]))),
+                      static_cast<int>(nLine));
+            const std::size_t from = random() % bytes.size();
+            const std::string wanted = i == 0 ? "needle" : bytes.substr(from, 1 + random() % 9000);
+            std::size_t place = bytes.find(wanted, lines[nLine]);
+            if (wanted.find('\n') != std::string::npos)
+                place = std::string::npos;
+            const FileText::Match match = text->find(wanted, static_cast<int>(nLine));
+            EXPECT_EQ(match.place, static_cast<FilePlace>(place));
+            EXPECT_EQ(match.line, match.nLine < 0 ? -1 : text->lineStart(match.nLine));
+        }
+        EXPECT_EQ(text->lineStart(static_cast<int>(lines.size())), -1);
+        EXPECT_EQ(text->find("", static_cast<int>(lines.size())).nLine, -1);
+        EXPECT_EQ(text->find("", -5).nLine, 0);
+    }
+}
+
+// So large that the counts of lines are thinned out, and places do not fit into 32 bits. The file
+// has holes and takes no room.
+TEST(FileTextTest, IsNotConfusedByLargeFiles)
+{
+    constexpr FilePlace kStep = 7 * 1024 * 1024;
+    constexpr FilePlace kLarge = 6LL << 30;
+    const TemporaryFile file;
+    const int nFile = ::open(file.path().c_str(), O_WRONLY);
+    ASSERT_GE(nFile, 0);
+    for (FilePlace line = 1; line <= 100; ++line)
+        ASSERT_EQ(pwrite(nFile, "\n", 1, line * kStep - 1), 1);
+    ASSERT_EQ(pwrite(nFile, "\nend", 4, kLarge), 4);
+    ::close(nFile);
+    const Text text = open(file);
+    EXPECT_EQ(text->lineOf(90 * kStep), 90);
+    for (const FilePlace line : {1, 45, 89, 100}) {
+        EXPECT_EQ(text->lineStart(line), line * kStep);
+        EXPECT_EQ(text->lineOf(line * kStep - 1), line - 1);
+    }
+    FileRows rows(*text, 40);
+    EXPECT_EQ(text->size(), kLarge + 4);
+    EXPECT_EQ(rows.up(text->size(), 1), kLarge + 1);
+    EXPECT_EQ(shown(rows, rows.row(kLarge + 1)), "end");
+    EXPECT_EQ(rows.down(rows.up(text->size(), 50), 50), text->size());
+}
+
+TEST(FileTextTest, OpensRegularFilesOnly)
+{
+    const TemporaryFile file("text");
+    const std::string fifo = file.directory() + "/fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    for (const char* szName : {file.directory().c_str(), fifo.c_str(), "/dev/tty", "/dev/null", "",
+                               "/no/such/file", "/proc/self/mem"})
+        EXPECT_EQ(FileText::open(szName), nullptr) << szName;
+    EXPECT_EQ(FileText::open(nullptr), nullptr);
+    // Root may read what nobody may.
+    ASSERT_EQ(chmod(file.path().c_str(), 0), 0);
+    const Text text(FileText::open(file.path().c_str()));
+    EXPECT_EQ(text != nullptr, access(file.path().c_str(), R_OK) == 0);
+    // A file of the system has a text even if it says that it is empty.
+    const Text status(FileText::open("/proc/self/status"));
+    ASSERT_NE(status, nullptr);
+    EXPECT_GT(status->size(), 0);
+}
+
+TEST(FileTextTest, NoticesWhatBecomesOfTheFile)
+{
+    const TemporaryFile file("one\ntwo\n");
+    const Text text = open(file);
+    EXPECT_EQ(text->lineOf(8), 2);
+    EXPECT_EQ(text->refresh(), FileText::Change::None);
+    file.append("three\n");
+    EXPECT_EQ(text->at(8), "");
+    EXPECT_EQ(text->refresh(), FileText::Change::Some);
+    EXPECT_EQ(text->at(8), "three\n");
+    EXPECT_EQ(text->lineOf(14), 3);
+    file.write("four");
+    EXPECT_EQ(text->at(0), "one\ntwo\nthree\n"); // still in memory
+    EXPECT_EQ(text->refresh(), FileText::Change::Shorter);
+    EXPECT_EQ(text->at(0), "four");
+    EXPECT_EQ(text->lineOf(4), 0);
+    EXPECT_FALSE(text->isReplacedAt(file.path().c_str()));
+    file.replace("five");
+    EXPECT_TRUE(text->isReplacedAt(file.path().c_str()));
+    EXPECT_EQ(text->at(0), "four");
+}
+
+// What was cut off before it was read, and before anybody looked, does not exist.
+TEST(FileRowsTest, EndsWhereTheFileWasCutOff)
+{
+    const TemporaryFile file(std::string(1000000, 'x') + "\nend\n");
+    const Text text = open(file);
+    FileRows rows(*text, 40);
+    const FilePlace end = rows.up(text->size(), 1);
+    file.write("short\nfile\n");
+    rows.up(end, 100);
+    rows.row(end);
+    rows.row(700000);
+    EXPECT_EQ(text->size(), 11);
+    EXPECT_EQ(rows.up(end, 1), 6);
+    EXPECT_EQ(text->lineOf(end), 2);
+}
+
+} // namespace

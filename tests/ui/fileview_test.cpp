@@ -1,0 +1,333 @@
+// SPDX-License-Identifier: MIT
+#include <climits>
+#include <string>
+#include <sys/stat.h>
+
+#include "support/temporary_file.hpp"
+#include "support/window_test.hpp"
+
+namespace {
+
+using kultest::Rows;
+using kultest::TemporaryFile;
+
+constexpr int kRef = 5;
+
+std::string events;
+const TemporaryFile* theFile;
+
+void note(const char* event)
+{
+    events += event + std::to_string(GetCurrentSelection()->nPosition) + ' ';
+}
+
+std::string lines(int nFirst, int nLast)
+{
+    std::string text;
+    for (int i = nFirst; i <= nLast; ++i)
+        text += "line " + std::to_string(i) + '\n';
+    return text;
+}
+
+class FileviewTest : public kultest::WindowTest {
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        events.clear();
+        theFile = &file_;
+        makeDialog(1);
+        kulgui_show(1);
+        ASSERT_EQ(kulfileview_create(1, kRef), 0);
+        ASSERT_EQ(config(nullptr), 0);
+    }
+
+    static int config(const char* szFileName, int nBorder = BORDER, int nWidth = 16,
+                      int nHeight = 6)
+    {
+        return kulfileview_config(
+            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nWidth, nHeight, nBorder, szFileName,
+            [] { note("focus"); }, [] { note("unfocus"); }, [] { note("select"); },
+            [] { note("click"); });
+    }
+
+    int load(const std::string& text)
+    {
+        file_.write(text);
+        return kulfileview_load(1, kRef, file_.path().c_str());
+    }
+
+    static KULFILEVIEW& view()
+    {
+        return *static_cast<KULFILEVIEW*>(GetUIComponentByRef(1, kRef)->Pointer);
+    }
+
+    static Rows shown()
+    {
+        kulgui_show(1);
+        return kultest::picture(window(1), 2, 2, 6, 16);
+    }
+
+    // The texts of the four rows in view, without the blanks behind.
+    static Rows text()
+    {
+        kulgui_show(1);
+        Rows rows = kultest::picture(window(1), 3, 3, 4, 14);
+        for (std::string& row : rows)
+            row.erase(row.find_last_not_of(' ') + 1);
+        return rows;
+    }
+
+    static int type(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions = {})
+    {
+        kultest::typeKeys(keys, actions);
+        return kulfileview_execKeys(1, kRef);
+    }
+
+    // Lets a second pass while the viewer has the focus, after something was done.
+    static void aSecondAfter(KULCALLBACK action)
+    {
+        type({-2, -3, 0}, {action, [] { kultest::advanceClock(1); }});
+    }
+
+    const TemporaryFile file_;
+};
+
+TEST_F(FileviewTest, DrawsTextFrameAndScrollBar)
+{
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│              │", "│              │",
+                             "│              │", "│              │", "└──────────────┘"}));
+    load("tab\tx\nwrapped at blanks\r\ncut_because_it_is_long");
+    EXPECT_EQ(shown(), (Rows{"┌────────────── ", "│tab     x      ", "│wrapped at     ",
+                             "│blanks         ", "│cut_because_it ", "└──────────────┴"}))
+        << "the thumb is blank";
+    type({KS_END});
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┬", "│wrapped at     ", "│blanks         ",
+                             "│cut_because_it ", "│_is_long       ", "└────────────── "}));
+    load("two\nlines");
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│two           │", "│lines         │",
+                             "│              │", "│              │", "└──────────────┘"}));
+    config(file_.path().c_str(), NOBORDER, 6, 3);
+    file_.write(lines(1, 9));
+    type({KS_DOWN});
+    kulgui_show(1);
+    EXPECT_EQ(kultest::picture(window(1), 2, 2, 3, 6), (Rows{"1     ", "line │", "2    ┴"}));
+}
+
+TEST_F(FileviewTest, ShowsTheFocusInColour)
+{
+    const std::vector<kultest::Legend> legend = {
+        {'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}};
+    load(lines(1, 20));
+    type({'x'});
+    EXPECT_EQ(kultest::colors(window(1), 2, 1, 2, 18, legend),
+              (Rows{".uuuuuuuuuuuuuuuU.", ".uffffffffffffffu."}));
+    GetChain(1)->Pointer->nCurrentUI = -1;
+    kulgui_show(1);
+    EXPECT_EQ(kultest::colors(window(1), 3, 1, 1, 18, legend), (Rows{".uuuuuuuuuuuuuuuu."}));
+    kulfileview_hide(1, kRef);
+    kulgui_show(1);
+    EXPECT_EQ(kultest::colors(window(1), 3, 1, 1, 18, legend), (Rows{std::string(18, '.')}));
+}
+
+TEST_F(FileviewTest, MovesByKeys)
+{
+    load(lines(0, 19));
+    struct {
+        std::vector<int> keys;
+        int nPosition;
+        std::string events;
+    } const steps[] = {
+        {{KS_UP}, 0, "focus0 unfocus0 "},
+        {{KS_DOWN, KS_DOWN}, 2, "focus0 select4 select9 unfocus9 "},
+        {{KS_PAGEDOWN, KS_SPACE}, 8, "focus9 select23 select37 unfocus37 "},
+        {{KS_UP, KS_PAGEUP, KS_BACKSPACE}, 1, "focus37 select32 select18 select4 unfocus4 "},
+        {{KS_END, KS_DOWN, KS_PAGEDOWN, KS_END}, 16, "focus4 select100 unfocus100 "},
+        {{KS_UP, 'x', KS_ENTER}, 15, "focus100 select73 click73 unfocus73 "},
+        {{KS_HOME, KS_BACKSPACE}, 0, "focus73 select0 unfocus0 "},
+    };
+    for (const auto& step : steps) {
+        events.clear();
+        std::vector<int> keys = step.keys;
+        keys.push_back(KS_TAB);
+        EXPECT_EQ(type(keys), 10);
+        EXPECT_EQ(kulfileview_getPosition(1, kRef), step.nPosition) << step.events;
+        EXPECT_EQ(events, step.events);
+        EXPECT_EQ(text()[0], "line " + std::to_string(step.nPosition));
+    }
+    EXPECT_EQ(type({KS_ESC}), -10);
+    EXPECT_EQ(type({}), KUL_LEFT);
+    EXPECT_EQ(type({-2}, {[] { kulfileview_hide(1, kRef); }}), 0);
+    EXPECT_EQ(type({KS_ESC}), 10);
+    kulfileview_show(1, kRef);
+    EXPECT_EQ(type({-2}, {[] { kulgui_destroy(1); }}), -10000);
+    EXPECT_EQ(kulfileview_execKeys(1, kRef), -10000);
+}
+
+TEST_F(FileviewTest, FindsAndGoesToLines)
+{
+    load(lines(0, 9) + std::string(200, 'x') + "needle\n" + lines(11, 49));
+    struct {
+        const char* szText;
+        int nFrom;
+        int nLine;
+        int nPosition;
+    } const finds[] = {
+        {"line 2", 0, 2, 2},     {"line 2", 3, 20, 20}, {"line 2", INT_MIN, 2, 2},
+        {"nothing", 0, -1, 2},   {"line 2", 30, -1, 2}, {"line", INT_MAX, -1, 2},
+        {"2\nline 3", 0, -1, 2}, {"needle", 1, 10, 10}, {"line 48", 0, 48, 46},
+        {nullptr, 0, -1, 46},    {"", 7, 7, 7},         {"", 50, -1, 7},
+    };
+    for (const auto& find : finds) {
+        EXPECT_EQ(kulfileview_find(1, kRef, find.szText, find.nFrom), find.nLine);
+        EXPECT_EQ(kulfileview_getPosition(1, kRef), find.nPosition) << find.nFrom;
+    }
+    kulfileview_find(1, kRef, "needle", 0);
+    EXPECT_EQ(text()[0], "xxxxneedle") << "the place is in view, in a line larger than the view";
+    for (const auto& [nLine, nPosition] :
+         {std::pair(5, 5), {-1, 0}, {INT_MIN, 0}, {46, 46}, {47, 46}, {INT_MAX, 46}}) {
+        EXPECT_EQ(kulfileview_setPosition(1, kRef, nLine), 0);
+        EXPECT_EQ(kulfileview_getPosition(1, kRef), nPosition);
+    }
+}
+
+TEST_F(FileviewTest, RefusesWhatItCannotShow)
+{
+    const std::string fifo = file_.directory() + "/fifo";
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    load("text");
+    for (const char* szName :
+         {file_.directory().c_str(), fifo.c_str(), "/dev/zero", "/proc/self/mem", "/none", ""}) {
+        EXPECT_EQ(kulfileview_load(1, kRef, szName), -10028) << szName;
+        EXPECT_EQ(text()[0], "text");
+    }
+    for (const int nGood : {0, 1}) {
+        const kultest::FailingMemory failing(nGood);
+        EXPECT_EQ(kulfileview_load(1, kRef, view().szFileName), -10028);
+    }
+    EXPECT_EQ(config(view().szFileName), 0) << "its own name, which it frees";
+    EXPECT_EQ(text()[0], "text");
+    EXPECT_EQ(config("/none"), -10028);
+    EXPECT_EQ(view().nWidth, 16);
+    EXPECT_EQ(text()[0], "");
+    EXPECT_EQ(load("again"), 0);
+    EXPECT_EQ(kulfileview_load(1, kRef, nullptr), 0);
+    EXPECT_EQ(text()[0], "");
+    EXPECT_EQ(view().szFileName, nullptr);
+
+    // Everything works without a file.
+    EXPECT_EQ(kulfileview_find(1, kRef, "x", 0), -1);
+    EXPECT_EQ(kulfileview_setPosition(1, kRef, 3), 0);
+    EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
+    EXPECT_EQ(kulfileview_setFollow(1, kRef, T), 0);
+    EXPECT_EQ(type({KS_DOWN, KS_END, KS_UP, KS_TAB}), 10);
+    EXPECT_EQ(events, "focus100 unfocus100 ");
+
+    // And nothing without a viewer.
+    EXPECT_EQ(kulfileview_create(1, kRef), -10025);
+    EXPECT_EQ(kulfileview_create(9, kRef), -10009);
+    kulbutton_create(1, 6);
+    for (const int nRef : {6, 7}) {
+        EXPECT_EQ(kulfileview_load(1, nRef, nullptr), -1);
+        EXPECT_EQ(kulfileview_find(1, nRef, "", 0), -1);
+        EXPECT_EQ(kulfileview_setPosition(1, nRef, 0), -1);
+        EXPECT_EQ(kulfileview_getPosition(1, nRef), -1);
+        EXPECT_EQ(kulfileview_setFollow(1, nRef, T), -1);
+        EXPECT_EQ(kulfileview_execKeys(1, nRef), -10000);
+    }
+}
+
+TEST_F(FileviewTest, FollowsAFileThatGrowsShrinksAndIsReplaced)
+{
+    load(lines(0, 9));
+    EXPECT_EQ(text()[0], "line 0");
+    kulfileview_setFollow(1, kRef, T);
+    EXPECT_EQ(text()[3], "line 9");
+    aSecondAfter([] { theFile->append("new"); });
+    EXPECT_EQ(text(), (Rows{"line 7", "line 8", "line 9", "new"}));
+    aSecondAfter([] { theFile->append("er\nnewest"); });
+    EXPECT_EQ(text(), (Rows{"line 8", "line 9", "newer", "newest"}));
+    // Who reads further above is left alone.
+    type({KS_UP, KS_UP});
+    aSecondAfter([] { theFile->append("\nend\n"); });
+    EXPECT_EQ(text()[0], "line 6");
+    type({KS_END});
+    aSecondAfter([] { theFile->append("really\n"); });
+    EXPECT_EQ(text()[3], "really");
+    type({KS_HOME});
+    aSecondAfter([] { theFile->write(lines(20, 25)); });
+    EXPECT_EQ(text(), (Rows{"line 22", "line 23", "line 24", "line 25"}));
+    type({KS_HOME});
+    aSecondAfter([] { theFile->replace(lines(0, 200)); });
+    EXPECT_EQ(text()[3], "line 200");
+    aSecondAfter([] { theFile->append(lines(201, 201)); });
+    EXPECT_EQ(text()[3], "line 201");
+    aSecondAfter([] { theFile->write(""); });
+    EXPECT_EQ(text()[0], "");
+    kulfileview_setFollow(1, kRef, F);
+    aSecondAfter([] { theFile->write(lines(0, 9)); });
+    EXPECT_EQ(text()[0], "line 0");
+}
+
+TEST_F(FileviewTest, FollowsInADialogWithoutTheFocus)
+{
+    load(lines(0, 9));
+    kulfileview_setFollow(1, kRef, T);
+    makeDialog(2);
+    kulbutton_create(2, 1);
+    kulbutton_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 9, 1, "OK", nullptr,
+                     nullptr, nullptr, nullptr);
+    kulgui_show(1);
+    kultest::typeKeys({0, -2, 0}, {[] {
+                          theFile->append("new\n");
+                          kultest::advanceClock(1);
+                      }});
+    kulbutton_execKeys(2, 1);
+    EXPECT_EQ(kultest::picture(window(1), 6, 3, 1, 8), (Rows{"new     "}));
+}
+
+// Whatever happens to the file between two looks, keys and drawing go on.
+TEST_F(FileviewTest, SurvivesAFileThatIsCutOffBetweenLooks)
+{
+    load(lines(0, 60000));
+    type({KS_END});
+    file_.write("only\n");
+    shown();
+    type({-2, KS_PAGEUP}, {[] { theFile->write("less"); }});
+    EXPECT_EQ(text(), (Rows{"less", "", "", ""}));
+    EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
+}
+
+TEST_F(FileviewTest, TakesAnyPlaceAndSize)
+{
+    file_.write(lines(0, 99));
+    for (const int nX : {-3, 70, INT_MIN, INT_MAX}) {
+        for (const int nSize : {-1, 0, 1, 2, 3, 100, INT_MIN, INT_MAX}) {
+            for (const int nBorder : {int{BORDER}, int{NOBORDER}, 7}) {
+                kulfileview_config(1, kRef, KUL_KEEP, INT_MAX, KUL_KEEP, nX, nX, nSize, nSize,
+                                   nBorder, file_.path().c_str(), nullptr, nullptr, nullptr,
+                                   nullptr);
+                EXPECT_EQ(type({KS_DOWN, KS_PAGEDOWN, KS_END, KS_UP, KS_HOME, KS_TAB}), 10);
+                EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
+            }
+        }
+    }
+    // Cells left of and above the window are cut off.
+    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -3, -1, 30, 20, NOBORDER,
+                       file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
+    kulgui_show(1);
+    EXPECT_EQ(kultest::picture(window(1), 0, 0, 2, 6), (Rows{"e 1   ", "e 2   "}));
+}
+
+TEST_F(FileviewTest, IsLaidOutAnewForAnotherWidth)
+{
+    load("one two three four five six seven eight nine ten eleven twelve");
+    type({KS_END});
+    EXPECT_EQ(text()[0], "four five six");
+    view().nWidth = 12;
+    EXPECT_EQ(text()[0].substr(0, 10), "three four");
+    type({KS_DOWN});
+    EXPECT_EQ(text()[0].substr(0, 8), "five six");
+}
+
+} // namespace
