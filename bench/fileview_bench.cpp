@@ -191,8 +191,8 @@ void compareReading(const std::string& path)
                        nullptr, nullptr);
     kulfileview_create(0, 1);
     std::printf("\n%-40s %12s %12s\n", "Milliseconds through the log", "kulgui", "tool");
-    for (const char* szText :
-         {"nowhere in this file", "duplex, 10", "daemon[99999]", "zq", "Z", "000000000 "}) {
+    for (const char* szText : {"nowhere in this file", "duplex, 10", "daemon[99999]", "zq", "Z",
+                               "e1 q", "and a text that is longer than most"}) {
         kulfileview_config(0, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, 80, kRows, NOBORDER,
                            path.c_str(), nullptr, nullptr, nullptr, nullptr);
         const double ours = milliseconds([&] { kulfileview_find(0, 1, szText, 1); });

@@ -69,6 +69,7 @@ TEST_F(DialogTest, TabbingMovesTheFocusRoundTheList)
 
 TEST_F(DialogTest, CallbacksSteerTheLoop)
 {
+    // clang-format off
     const struct {
         const char* name;
         KULCALLBACK onClick;
@@ -106,6 +107,7 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
          },
          KUL_LEFT, "+1 +7 -7 -1 "},
     };
+    // clang-format on
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         addButton(1, row.onClick);
@@ -261,8 +263,12 @@ TEST_F(DialogTest, SizesAndPlacesOfEveryKind)
 {
     const struct {
         int nX, nY, nWidth, nHeight;
-    } rows[] = {{-5, -5, 10, 5},      {0, 0, 0, 0},         {0, 0, -3, -3},
-                {79, 23, 80, 24},     {1000, 1000, 10, 10}, {0, 0, 100000, 100000},
+    } rows[] = {{-5, -5, 10, 5},
+                {0, 0, 0, 0},
+                {0, 0, -3, -3},
+                {79, 23, 80, 24},
+                {1000, 1000, 10, 10},
+                {0, 0, 100000, 100000},
                 {INT_MAX, INT_MIN, INT_MAX, INT_MIN}};
     for (const auto& row : rows) {
         kulgui_create(2);
@@ -281,7 +287,8 @@ TEST_F(DialogTest, PrimaryBackground)
 {
     GetChain(0)->Pointer->onPoll = nullptr;
     kulgui_show(0);
-    EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10), (Rows{"primary   ", "──────────", "          "}));
+    EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10),
+              (Rows{"primary   ", "──────────", "          "}));
     // The line has attributes made of the colour set's number, twice shifted, and no colour.
     const kultest::Cell line = kultest::cellOf(stdscr, 1, 79);
     EXPECT_EQ(line.glyph, "─");

@@ -711,8 +711,7 @@ KULGUI_API int kulfileview_create(int nChain, int nRef);
 KULGUI_API int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                   int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                   int nBorder, const char* szFileName, KULCALLBACK onFocus,
-                                  KULCALLBACK onUnfocus, KULCALLBACK onSelect,
-                                  KULCALLBACK onClick);
+                                  KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Shows a file from its start, or from its end while following. NULL shows nothing. The name is
  * copied. Returns 0, -1 for an unknown component, -10028 for what cannot be opened or read or is

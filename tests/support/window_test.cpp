@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <deque>
+#include <string_view>
 
 namespace {
 
@@ -34,23 +35,13 @@ void startCurses()
     InitializeColorSets();
 }
 
-const char* lineGlyph(char letter)
+// Line drawing characters, as curses keeps them, in Unicode.
+std::string lineGlyph(char letter)
 {
-    switch (letter) {
-    case 'l': return "┌";
-    case 'k': return "┐";
-    case 'm': return "└";
-    case 'j': return "┘";
-    case 'q': return "─";
-    case 'x': return "│";
-    case 't': return "├";
-    case 'u': return "┤";
-    case 'w': return "┬";
-    case 'v': return "┴";
-    case 'a': return "▒";
-    case '`': return "◆";
-    default: return "?";
-    }
+    constexpr std::string_view kLetters = "lkmjqxtuwva`";
+    constexpr std::string_view kGlyphs = "┌┐└┘─│├┤┬┴▒◆";
+    const std::size_t place = kLetters.find(letter);
+    return place == kLetters.npos ? "?" : std::string(kGlyphs.substr(3 * place, 3));
 }
 
 } // namespace

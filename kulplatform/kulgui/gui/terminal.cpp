@@ -38,10 +38,10 @@ int nEnvSetting = F;
 bool isOpen = false;
 bool ttyKnown = false;
 bool ownScreen = false; // leaving it brings back what was there before
-Modes outside;  // as found
-Modes inside;   // as the open terminal has them
-Bytes leaving;  // gives the screen back
-Bytes entering; // takes it again
+Modes outside;          // as found
+Modes inside;           // as the open terminal has them
+Bytes leaving;          // gives the screen back
+Bytes entering;         // takes it again
 Bytes* capture = nullptr;
 volatile sig_atomic_t nResumed = 0;
 
