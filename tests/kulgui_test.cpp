@@ -78,6 +78,17 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
     } rows[] = {
         {"leaves after its onUnfocus", [] { EXPECT_EQ(kulgui_leave(1), 0); note("click"); },
          KUL_LEFT, "+1 click -1 "},
+        {"moves the focus after making the dialog anew",
+         [] {
+             kulgui_destroy(1);
+             kulgui_create(1);
+             kulgui_config(1, 0, 0, 0, 0, "", 0, 0, 0, 40, 9, nullptr, nullptr, nullptr, nullptr,
+                           nullptr);
+             addButton(1);
+             addButton(2);
+             kulgui_setFocus(1, 2);
+         },
+         KUL_LEFT, "+1 -1 +2 -2 "},
         {"moves the focus", [] { EXPECT_EQ(kulgui_setFocus(1, 2), 0); }, KUL_LEFT, "+1 -1 +2 -2 "},
         {"cannot move it to nothing", [] { EXPECT_EQ(kulgui_setFocus(1, 9), -1); }, KUL_LEFT,
          "+1 -1 "},
@@ -158,6 +169,33 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
     EXPECT_EQ(Poll(1), 0);
     kultest::advanceClock(1);
     EXPECT_EQ(Poll(1), 1) << "a clock that was set back does not stop the polling";
+}
+
+TEST_F(DialogTest, RequestsOfOtherCallbacks)
+{
+    // From a poll while no component can wait, and from onFocus and onUnfocus.
+    addButton(1);
+    addButton(2);
+    addButton(3, nullptr, [] { kulgui_leave(1); });
+    for (int nRef : {1, 2, 3})
+        kulbutton_hide(1, nRef);
+    GetChain(1)->Pointer->onPoll = [] {
+        for (int nRef : {1, 2, 3})
+            kulbutton_show(1, nRef);
+        kulgui_setFocus(1, 2);
+    };
+    EXPECT_EQ(run({kPoll, -2, KS_ENTER}, KUL_LEFT, {[] { kultest::advanceClock(1); }}), "+2 -2 ");
+    GetChain(1)->Pointer->onPoll = nullptr;
+    GetChain(1)->Pointer->nCurrentUI = 3;
+    EXPECT_EQ(run({'x'}, KUL_LEFT), "-3 ") << "left by its onFocus";
+    auto& button = *static_cast<KULBUTTON*>(GetUIComponentByRef(1, 1)->Pointer);
+    button.onUnfocus = [] { kulgui_setFocus(1, 2); };
+    kulgui_setTabbing(1, T);
+    kulgui_setFocus(1, 1);
+    EXPECT_EQ(run({KS_ESC}, KUL_LEFT), "+1 +2 -2 ") << "not to the last one";
+    button.onUnfocus = [] { kulgui_destroy(1); };
+    typeKeys({KS_TAB});
+    EXPECT_EQ(kulbutton_execKeys(1, 1), -10000);
 }
 
 TEST_F(DialogTest, PollsMayDestroyAnything)

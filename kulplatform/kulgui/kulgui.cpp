@@ -94,6 +94,8 @@ int runFocused(int nChain, int nResult, int& nStill)
     }
     if (kul::takeLeaving(nChain))
         return KUL_LEFT;
+    if (kul::takeRefocus(nChain))
+        return 0;
     if ((nResult == 10 || nResult == -10) && moveFocus(nChain, nRef, nResult == 10) != 0)
         return -10000;
     return nResult;
@@ -266,7 +268,7 @@ int kulgui_setFocus(int nChain, int nRef)
     if (!dialog || CheckUICompExistence(nChain, nRef) != 0)
         return -1;
     dialog->nCurrentUI = nRef;
-    dialog->refocused = dialog->nLoops > 0;
+    dialog->refocused = true;
     return 0;
 }
 

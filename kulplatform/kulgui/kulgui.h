@@ -29,7 +29,8 @@
  *  9. One thread. All calls come from the same thread.
  * 10. The terminal. kulgui_exec opens it; a program that wants to draw before that calls
  *     NCursesEnv(1) first. It is given back as it was found by kulgui_destroyAll, by exit, and by
- *     a signal that ends the program.
+ *     a signal that ends the program; kulgui_destroyAll leaves standard input's status flags at
+ *     O_APPEND.
  */
 #ifndef KULGUI_H
 #define KULGUI_H
@@ -244,11 +245,12 @@ KULGUI_API int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocu
                                   KULCALLBACK onDestroy, const char* szFilePath);
 
 /** Gives chain nChain its dialog, not yet shown; one that is there already starts anew, without
- * components. Colour sets: KUL_KEEP takes RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN. nBorder is
- * a BORDERS. nX and nY are the screen's column and row of the top left corner, nWidth and nHeight
- * the size with the frame; the shadow adds one of each. KUL_KEEP leaves nBorder at BORDER and a
- * place or size as it was, 0 at first. The primary chain must have its dialog first. szFilePath
- * is not used. Returns 0, -10009 for an unknown chain. */
+ * components, but keeps its tabbing and the number of what has the focus (see kulgui_setFocus).
+ * Colour sets: KUL_KEEP takes RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN. nBorder is a BORDERS. nX
+ * and nY are the screen's column and row of the top left corner, nWidth and nHeight the size with
+ * the frame; the shadow adds one of each. KUL_KEEP leaves nBorder at BORDER and a place or size as
+ * it was, 0 at first. The primary chain must have its dialog first: without it nothing is set.
+ * szFilePath is not used. Returns 0, -10009 for an unknown chain, -10007 without memory. */
 KULGUI_API int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnfocus,
                              int nColorDisable, const char* szTitle, int nBorder, int nX, int nY,
                              int nWidth, int nHeight, KULCALLBACK onFocus, KULCALLBACK onPoll,
@@ -281,18 +283,20 @@ KULGUI_API int kulgui_hasExited(void);
 KULGUI_API int kulgui_getExitValue(void);
 KULGUI_API int kulgui_update(void);
 
-/** Ends the running loop of a dialog: once the callback that calls this is over, the component in
- * focus gets its onUnfocus and kulgui_exec returns KUL_LEFT. Forgotten when no loop of the dialog
- * runs. Returns 0, -1 for an unknown chain or one without dialog. */
+/** Ends the running loop of a dialog, the innermost one: once the callback that calls this is over,
+ * the component that has the keys gets its onUnfocus and kulgui_exec returns KUL_LEFT. Forgotten
+ * when no loop of the dialog runs. Returns 0, -1 for an unknown chain or one without dialog. */
 KULGUI_API int kulgui_leave(int nChain);
 
 /** Moves the focus to component nRef; a running loop follows once the callback is over, after the
- * onUnfocus of the component that had it. Returns 0, -1 when there is no such component. */
+ * onUnfocus of the component that had it; without a running loop the next one begins there.
+ * Returns 0, -1 when there is no such component. */
 KULGUI_API int kulgui_setFocus(int nChain, int nRef);
 
 /** With T, Tab and Escape go to the next and the previous component from every kind, also from
  * those that keep these keys by themselves (buttons and menus). F, the start, leaves that to the
- * kinds. Returns 0, -1 for an unknown chain or one without dialog. */
+ * kinds. A hidden component passes the focus on to its next one. Returns 0, -1 for an unknown chain
+ * or one without dialog. */
 KULGUI_API int kulgui_setTabbing(int nChain, int bTabbing);
 
 /* ---- Buttons -------------------------------------------------------------------------------- *
@@ -334,8 +338,8 @@ KULGUI_API int kulexitbutton_create(int nChain, int nRef);
  * nX, nY: top left corner; nWidth: columns with the frame. nEnable: 1 or not; a disabled button
  * looks so, and works. szText is copied and centred. onFocus and onSelect run when the button
  * gets the focus, onClick at Enter, onUnfocus when tabbing or one of kulgui_leave and
- * kulgui_setFocus takes the focus away. Returns 0, -1 for an unknown component or without memory.
- */
+ * kulgui_setFocus takes the focus away. Returns 0, -1 for an unknown component or, with the
+ * defaults in place, without memory. */
 KULGUI_API int kulbutton_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                 int nColorDisable, int nColorBorder, int nX, int nY, int nWidth,
                                 int nEnable, const char* szText, KULCALLBACK onFocus,
@@ -671,11 +675,12 @@ KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
  *     │Mbit/s, full duplex   │
  *     └──────────────────────┴   Pages keep one row in view. onSelect runs after each move.
  *
- * A text file of any size, also while it grows or shrinks; the memory for it is below 1 MiB. Lines
- * wrap at blanks; only a word that is wider than a row is cut. Lines are those between newlines,
- * counted from 0, whatever rows they take. A tab goes to the next multiple of 8 columns of its row,
- * a carriage return at the end of a line is not shown, and '?' stands for each character that
- * cannot be shown in the program's locale. Lines above 64 KiB wrap anew at multiples of 64 KiB.
+ * A text file of any size, also while it grows or shrinks; it takes less than 0.5 MiB of memory.
+ * Lines wrap at blanks; only a word that is wider than a row is cut. Lines are those between
+ * newlines, counted from 0, whatever rows they take. A tab goes to the next multiple of 8 columns
+ * of its row, a carriage return at the end of a line is not shown, and '?' stands for each
+ * character that cannot be shown in the program's locale. Lines above 64 KiB wrap anew at multiples
+ * of 64 KiB of the file. The scroll bar is there while not all of the file is in view.
  *
  * Only the number of a line and a search read through the file; what was counted is remembered.
  * nPosition of the selection is how far the view is in the file: 0 at its start, 100 when its end
@@ -1101,8 +1106,9 @@ KULGUI_API int ConfigUIComponent(int nChain, int nRef);
 /** Sets nVisible (T or F) of the component's record. Always -1, also when all is well. */
 KULGUI_API int SetUIVisibility(int nChain, int nRef, int nVisible);
 
-/** Gives a component its record of kind nType (UI_TYPE), cleared. 0, -1 for NULL, an unknown kind
- * or without memory. The calls below do so for one kind each. */
+/** Makes a component one of kind nType (UI_TYPE) and gives it a cleared record; one that it had is
+ * not freed. 0, -1 for NULL, an unknown kind or without memory. The calls below do so for one kind
+ * each. */
 KULGUI_API int AttachComponentToUI(UI* thisUI, int nType);
 KULGUI_API int AttachMenuComponentToUI(UI* thisUI);
 KULGUI_API int AttachDynmenuComponentToUI(UI* thisUI);
@@ -1476,8 +1482,9 @@ KULGUI_API int SetDIVisibility(int nChain, int nRef, int nVisible);
 /** Marks the item as configured; draws nothing. 0, -1 for an unknown one. */
 KULGUI_API int UpdateDIComponent(int nChain, int nRef);
 
-/** Gives an item its record of kind nType (DI_TYPE), cleared. 0, -1 for NULL, an unknown kind or
- * without memory. The calls below do so for one kind each. */
+/** Makes an item one of kind nType (DI_TYPE) and gives it a cleared record; one that it had is
+ * not freed. 0, -1 for NULL, an unknown kind or without memory. The calls below do so for one kind
+ * each. */
 KULGUI_API int AttachComponentToDI(DI* thisDI, int nType);
 KULGUI_API int AttachStatbarComponentToDI(DI* thisDI);
 KULGUI_API int AttachScrollbarComponentToDI(DI* thisDI);
@@ -1649,7 +1656,8 @@ KULGUI_API int GetWindowHeight(const WINDOW* win);
 /** Draws a dialog's frame, title and shadow, with its windows made on first use; shows it. */
 KULGUI_API void DlgBox(GUI* thisGUI);
 
-/** Show and hide a frame's panels; KillDlg also deletes its windows. */
+/** Show and hide a frame's panels; KillDlg also deletes its windows; the panels
+ * stay, for the program to delete. */
 KULGUI_API void ShowDlg(DLG* dialog);
 KULGUI_API void HideDlg(DLG* dialog);
 KULGUI_API void KillDlg(DLG* dialog);
@@ -1660,7 +1668,8 @@ KULGUI_API void BackgroundDisplay(CHAIN* thisChain);
 /* ---- Keys and polling ----------------------------------------------------------------------- */
 
 /** Throws away what was typed ahead, waits up to 50 ms for a key and returns its code; 0 for none
- * or for an unknown sequence. */
+ * or for an unknown sequence. Inside of a sequence it waits up to 25 ms more for each byte. A line
+ * at its end takes the 50 ms and gives 0. */
 KULGUI_API int Inkeys(void);
 
 /** 1 when nPollingValue seconds have passed since the first call after the last 1, else 0. */

@@ -91,8 +91,11 @@ TEST(Screen, WritesNothingForAKeyThatChangesNothing)
 
 TEST(Screen, WritesNothingForPollsThatChangeNothing)
 {
-    for (const std::vector<std::string>& around : std::initializer_list<std::vector<std::string>>{
-             {"poll"}, {"poll", "desktop"}, {"poll", "desktop", "behind"}}) {
+    for (const std::vector<std::string>& around :
+         std::initializer_list<std::vector<std::string>>{{"poll"},
+                                                         {"poll", "desktop"},
+                                                         {"poll", "desktop", "behind"},
+                                                         {"poll", "behind", "third"}}) {
         SCOPED_TRACE(around.back());
         Terminal terminal(program("polling", around));
         ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());

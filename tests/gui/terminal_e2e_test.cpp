@@ -87,9 +87,17 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
          [](Terminal& terminal) {
              enter(terminal);
              terminal.waitForText("count 1");
+             EXPECT_LE(terminal.cell(11, 10).background, 0) << "a shadow is black";
              enter(terminal);
          },
          exited(5), true},
+        {"TERM with a handler set later", "late",
+         [](Terminal& terminal) {
+             enter(terminal);
+             terminal.waitForText("count 1");
+             signalled(terminal, SIGTERM);
+         },
+         exited(6)},
         {"HUP", "count", [](Terminal& terminal) { signalled(terminal, SIGHUP); }, SIGHUP},
         {"INT", "count", [](Terminal& terminal) { signalled(terminal, SIGINT); }, SIGINT},
         {"QUIT", "count", [](Terminal& terminal) { signalled(terminal, SIGQUIT); }, SIGQUIT},
@@ -139,14 +147,20 @@ INSTANTIATE_TEST_SUITE_P(Terminals, Ways, testing::Values("linux", "vt100", "xte
                              return std::string(term.param, std::strcspn(term.param, "-"));
                          });
 
+// A field of what the kernel says of a process, counted from 1.
+std::string statusField(pid_t process, int number)
+{
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    std::string field;
+    for (int i = 1; i <= number; ++i)
+        file >> field;
+    return field;
+}
+
 // The process group that has the terminal of a program's session.
 pid_t foreground(const Terminal& terminal)
 {
-    std::ifstream file("/proc/" + std::to_string(terminal.pid()) + "/stat");
-    std::string field;
-    for (int i = 1; i <= 8; ++i)
-        file >> field;
-    return std::stoi(field);
+    return std::stoi(statusField(terminal.pid(), 8));
 }
 
 TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
@@ -184,6 +198,19 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
         EXPECT_TRUE(terminal.waitForText("ended with 143"));
         EXPECT_TRUE(Line(terminal).hasModesOf(before));
     }
+}
+
+TEST(Stopping, EndsInTheBackgroundAsTheSignalSays)
+{
+    Terminal terminal(script("set -m; \"$@\"; echo stopped; read go", "ways count"));
+    ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
+    const pid_t program = foreground(terminal);
+    ::kill(program, SIGTSTP);
+    ASSERT_TRUE(terminal.waitForText("stopped"));
+    ::kill(program, SIGTERM);
+    ::kill(program, SIGCONT);
+    // It ends, and is not stopped for touching the terminal of somebody else.
+    EXPECT_TRUE(terminal.waitFor([&] { return statusField(program, 3) == "Z"; }));
 }
 
 double processorSeconds()

@@ -3,6 +3,7 @@
  * A dialog of 40 by 14 with three buttons, and what may be around it. Words on the command line:
  *   desktop   the primary dialog is shown below
  *   behind    a second dialog is shown, which it overlaps
+ *   third     and a third one, which overlaps the second
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
@@ -10,10 +11,11 @@
 
 #include <string.h>
 
-enum { DESKTOP, MAIN, BEHIND };
+enum { DESKTOP, MAIN, BEHIND, THIRD };
 
 static int desktop;
 static int behind;
+static int third;
 
 static void addButton(int chain, int ref, const char* text, KULCALLBACK onClick)
 {
@@ -46,6 +48,7 @@ int main(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         desktop |= strcmp(argv[i], "desktop") == 0;
         behind |= strcmp(argv[i], "behind") == 0;
+        third |= strcmp(argv[i], "third") == 0;
         poll |= strcmp(argv[i], "poll") == 0;
     }
     kulgui_create(DESKTOP);
@@ -53,6 +56,9 @@ int main(int argc, char** argv)
                        poll && desktop ? nothing : NULL, NULL, NULL, NULL);
     kulgui_create(BEHIND);
     kulgui_config(BEHIND, BLACK_GREEN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Behind", BORDER, 2, 3, 16, 10,
+                  NULL, poll ? nothing : NULL, NULL, NULL, NULL);
+    kulgui_create(THIRD);
+    kulgui_config(THIRD, BLACK_RED, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Third", BORDER, 4, 6, 12, 8,
                   NULL, poll ? nothing : NULL, NULL, NULL, NULL);
     kulgui_create(MAIN);
     kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14,
@@ -68,6 +74,8 @@ int main(int argc, char** argv)
         kulgui_show(DESKTOP);
     if (behind)
         kulgui_show(BEHIND);
+    if (third)
+        kulgui_show(THIRD);
     kulgui_exec(MAIN);
     return 0;
 }

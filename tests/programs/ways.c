@@ -7,6 +7,7 @@
  *   close     leaves the dialog; the program closes the terminal, prints "closed" and returns 5
  *   again     as close, but first opens and closes the terminal once more, with an Enter between
  *   count     counts
+ *   late      installs a handler for TERM, as below, and opens the terminal that is open again
  * and these change what the program does about signals:
  *   handler   its own handler for TERM ends it with 6
  *   ignore    INT is ignored
@@ -34,20 +35,25 @@ static void label(void)
                      NULL, NULL, click);
 }
 
-static void click(void)
-{
-    ++clicks;
-    label();
-    if (strcmp(way, "exit") == 0)
-        exit(3);
-    if (strcmp(way, "count") != 0)
-        kulgui_leave(MAIN);
-}
-
 static void onTerminate(int number)
 {
     (void)number;
     exit(6);
+}
+
+static void click(void)
+{
+    ++clicks;
+    label();
+    if (strcmp(way, "late") == 0) {
+        signal(SIGTERM, onTerminate);
+        NCursesEnv(1);
+        return;
+    }
+    if (strcmp(way, "exit") == 0)
+        exit(3);
+    if (strcmp(way, "count") != 0)
+        kulgui_leave(MAIN);
 }
 
 int main(int argc, char** argv)

@@ -104,7 +104,7 @@ Cell cellOf(WINDOW* win, int y, int x)
     const chtype cell = mvwinch(win, y, x);
     const char letter = static_cast<char>(cell & A_CHARTEXT);
     return {cell & A_ALTCHARSET ? lineGlyph(letter) : std::string(1, letter),
-            static_cast<int>(PAIR_NUMBER(cell)),
+            static_cast<int>(PAIR_NUMBER(static_cast<int>(cell))),
             cell & A_ATTRIBUTES & ~static_cast<chtype>(A_COLOR | A_ALTCHARSET)};
 }
 

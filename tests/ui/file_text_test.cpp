@@ -19,7 +19,7 @@ using kul::FileText;
 using kultest::TemporaryFile;
 using Rows = std::vector<std::string>;
 
-static_assert(sizeof(FileText) + sizeof(FileRows) < 1024 * 1024);
+static_assert(sizeof(FileText) + sizeof(FileRows) < 512 * 1024);
 
 struct Close {
     void operator()(FileText* text) const { FileText::close(text); }
@@ -128,7 +128,7 @@ std::string randomText(std::mt19937& random)
 {
     const char* const parts[] = {"a",  "word", " ",  "   ",          "\t",           "\r",
                                  "\0", "\xff", "\n", "\xe2\x82\xac", "\xe4\xb8\xad", "\r\n"};
-    const std::size_t sizes[] = {3, 200, FileText::kPage - 5, FileText::kPage * 5 / 2};
+    const std::size_t sizes[] = {3, 200, FileText::kPiece - 5, FileText::kPiece * 5 / 2};
     std::string text;
     const std::size_t nLines = random() % 12;
     for (std::size_t i = 0; i < nLines; ++i) {
@@ -176,6 +176,52 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
         ASSERT_EQ(rows.up(text->size(), 5),
                   starts.empty() ? 0
                                  : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
+    }
+}
+
+TEST(FileRowsTest, CutsLongLinesBetweenCharacters)
+{
+    const Utf8 locale;
+    std::string bytes;
+    while (bytes.size() < 3 * FileText::kPiece)
+        bytes += "\xe2\x82\xac";
+    const TemporaryFile file(bytes);
+    const Text text = open(file);
+    FileRows rows(*text, 10);
+    for (FilePlace place = 0; place < text->size();) {
+        const FileRows::Row row = rows.row(place);
+        ASSERT_EQ(shown(rows, row),
+                  std::string(static_cast<std::size_t>(row.end - row.start) / 3, '#'));
+        for (; place < row.next; ++place)
+            ASSERT_TRUE(place % FileText::kPiece > 3 || rows.rowOf(place) == row.start) << place;
+    }
+}
+
+TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
+{
+    constexpr FilePlace kEdge = FileText::kPiece;
+    for (const char* szEnd : {"\n", "\nmore", ""}) {
+        for (const bool tooLong : {false, true}) {
+            const std::string line(static_cast<std::size_t>(kEdge) + tooLong, 'x');
+            const TemporaryFile file("first\n" + line + szEnd);
+            EXPECT_EQ(open(file)->pieceStart(kEdge + 1), tooLong ? kEdge : 6) << szEnd;
+        }
+    }
+}
+
+TEST(FileTextTest, FindsTextAcrossTheBuffersItReads)
+{
+    constexpr std::size_t kBuffer = 128 * 1024;
+    for (const std::size_t nSize : {1, 2, 16, 17, 4096, 9000}) {
+        for (const std::size_t nBefore : {std::size_t{0}, std::size_t{1}, nSize - 1, nSize}) {
+            std::string bytes(2 * kBuffer + 100, '\n');
+            const std::string wanted = std::string(nSize - 1, 'a') + 'b';
+            bytes.replace(kBuffer - nBefore, nSize, wanted);
+            const TemporaryFile file(bytes);
+            const Text text = open(file);
+            EXPECT_EQ(text->find(wanted, 0).nLine, static_cast<int>(kBuffer - nBefore)) << nSize;
+            EXPECT_EQ(text->find(wanted + 'c', 0).nLine, -1);
+        }
     }
 }
 

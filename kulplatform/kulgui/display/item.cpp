@@ -72,6 +72,7 @@ int AttachComponentToDI(DI* thisDI, int nType)
     const kul::DIKind* kind = kul::diKind(nType);
     if (!thisDI || !kind)
         return -1;
+    thisDI->nType = nType;
     thisDI->Pointer = kind->allocate();
     return thisDI->Pointer ? 0 : -1;
 }

@@ -97,14 +97,6 @@ CHAIN* nextChain(const CHAIN* thisChain)
     return next == Primary ? nullptr : next;
 }
 
-bool isInRing(const CHAIN* thisChain)
-{
-    const CHAIN* chain = Primary;
-    while (chain && chain != thisChain)
-        chain = nextChain(chain);
-    return chain != nullptr;
-}
-
 Dialog* findDialog(int nChain)
 {
     const CHAIN* chain = GetChain(nChain);

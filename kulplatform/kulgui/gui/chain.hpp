@@ -14,6 +14,8 @@ struct Dialog : GUI {
     bool tabs;      // Tab and Escape leave every kind of component
     bool leaving;   // the running loop shall end
     bool refocused; // the running handler shall return to the loop
+    bool polled;    // in the poll pass that runs now
+    bool due;       // to be drawn at its end
     int nLoops;     // loops and handlers of this dialog that run now, one inside the other
 };
 
@@ -32,8 +34,6 @@ void destroyChain(CHAIN* thisChain);
 // The chain after this one in a walk that starts at the primary; null at the end.
 CHAIN* nextChain(const CHAIN* thisChain);
 
-// Whether a chain that was met earlier is still there. The pointer is compared, not followed.
-bool isInRing(const CHAIN* thisChain);
 
 } // namespace kul
 

@@ -14,12 +14,12 @@ namespace {
 
 constexpr int kShadowPair = GREEN_YELLOW;
 
-// No terminal is larger, and no window needs more memory than this by this.
-constexpr int kLargestSide = 512;
+bool shadowsMade = false;
 
+// A window larger than the screen shows no more, and its memory is bounded.
 int limited(int n, int least)
 {
-    return std::clamp(n, least, kLargestSide);
+    return std::clamp(n, least, std::max({512, LINES, COLS}));
 }
 
 // A window for a dialog, shifted by one cell or none. Sizes and places that curses would refuse or
@@ -34,7 +34,8 @@ void makeWindows(GUI* thisGUI)
 {
     thisGUI->winMain = newDialogWindow(*thisGUI, 0);
     thisGUI->winShadow = newDialogWindow(*thisGUI, 1);
-    init_pair(kShadowPair, COLOR_BLACK, COLOR_BLACK);
+    shadowsMade = true;
+    kul::defineShadow();
     if (thisGUI->winMain && thisGUI->winShadow) {
         thisGUI->pnlShadow = new_panel(thisGUI->winShadow);
         thisGUI->pnlMain = new_panel(thisGUI->winMain);
@@ -71,6 +72,12 @@ void raisePanels(PANEL* pnlShadow, PANEL* pnlMain)
                        !panel_above(pnlMain) && panel_below(pnlMain) == pnlShadow;
     if (!onTop)
         setPanels(pnlShadow, pnlMain, show_panel);
+}
+
+void defineShadow()
+{
+    if (shadowsMade)
+        init_pair(kShadowPair, COLOR_BLACK, COLOR_BLACK);
 }
 
 void deleteWindows(GUI* thisGUI)
@@ -182,7 +189,7 @@ void DlgBox(GUI* thisGUI)
 
 void ShowDlg(DLG* dialog)
 {
-    if (!dialog)
+    if (!dialog || !dialog->winMain || !dialog->winShadow)
         return;
     kul::Pass pass;
     kul::raisePanels(dialog->pnlShadow, dialog->pnlMain);
@@ -220,6 +227,8 @@ void BackgroundDisplay(CHAIN* thisChain)
         DlgBox(gui);
         return;
     }
+    if (gui->winMain != stdscr)
+        kul::deleteWindows(gui);
     gui->winMain = stdscr;
     gui->nWidth = GetWindowWidth(stdscr);
     gui->nHeight = GetWindowHeight(stdscr);

@@ -11,6 +11,9 @@ namespace kul {
 // Shows a frame above all others with its shadow right below it. Does nothing when it is so.
 void raisePanels(PANEL* pnlShadow, PANEL* pnlMain);
 
+// Makes the colour of shadows black on black, once a dialog has had one.
+void defineShadow();
+
 // Deletes a dialog's windows and panels and clears the fields. The standard screen stays.
 void deleteWindows(GUI* thisGUI);
 

@@ -25,7 +25,7 @@ const char* const szKeystrokes[KUL_KEYSTROKES] = {
 namespace {
 
 constexpr std::size_t kKeyBytes = 6;
-constexpr int kWaitMilliseconds = 50;
+constexpr long kWaitMicroseconds = 50000;
 constexpr int kSequenceMilliseconds = 25;
 // A sequence that does not end, and typed-ahead input that does not, are given up here.
 constexpr int kLongestSequence = 1024;
@@ -58,13 +58,13 @@ std::size_t firstBytes(char* key)
     fd_set input;
     FD_ZERO(&input);
     FD_SET(STDIN_FILENO, &input);
-    timeval limit{0, kWaitMilliseconds * 1000};
+    timeval limit{0, kWaitMicroseconds};
     const int nReady = select(STDIN_FILENO + 1, &input, nullptr, nullptr, &limit);
     const ssize_t got = nReady == 1 ? read(STDIN_FILENO, key, kKeyBytes) : nReady;
     const bool ended = (nReady == 1 && got == 0) || (got < 0 && errno != EAGAIN && errno != EINTR);
     nEndedWaits = ended ? nEndedWaits + 1 : 0;
     if (ended) {
-        const timespec rest{0, kWaitMilliseconds * 1000000L};
+        const timespec rest{0, kWaitMicroseconds * 1000};
         nanosleep(&rest, nullptr);
     }
     return got > 0 ? static_cast<std::size_t>(got) : 0;
@@ -101,8 +101,8 @@ void SequenceReader::feed(unsigned char byte)
     case State::Escape:
         if (byte == '[')
             state_ = State::Control;
-        else if (byte == 'O')
-            state_ = State::OneMore;
+        else if (byte == 'O' || byte == 'N')
+            state_ = State::Shift;
         else if (byte == ']' || byte == 'P' || byte == '^' || byte == '_' || byte == 'X')
             state_ = State::Text;
         else if (byte != kEscape)
@@ -115,6 +115,13 @@ void SequenceReader::feed(unsigned char byte)
         else if (byte == kEscape)
             state_ = State::Escape;
         else if (byte < ' ' || byte >= '@')
+            state_ = State::Done;
+        break;
+    case State::Shift:
+        // Between this and its last byte, a key pressed with others has a number.
+        if (byte == kEscape)
+            state_ = State::Escape;
+        else if ((byte < '0' || byte > '9') && byte != ';')
             state_ = State::Done;
         break;
     case State::OneMore:

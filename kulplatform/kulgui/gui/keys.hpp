@@ -17,7 +17,7 @@ public:
     bool isOpen() const { return state_ != State::Done; }
 
 private:
-    enum class State { Start, Escape, Control, OneMore, Text, TextEscape, Done };
+    enum class State { Start, Escape, Control, Shift, OneMore, Text, TextEscape, Done };
     State state_ = State::Start;
 };
 

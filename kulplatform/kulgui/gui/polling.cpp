@@ -14,35 +14,28 @@ int nRunStart = 0;
 time_t start = 0;
 kul::SecondLook secondLook = nullptr;
 
-void drawUnfocused(GUI* thisGUI)
+// The dialog that is due next: shown, not looked at in this pass, and with a callback or changed by
+// itself. Asked anew after each callback, which may have destroyed or made any dialog.
+kul::Dialog* nextDue()
 {
-    for (UI* ui = thisGUI->UserInterface; ui; ui = ui->Next)
-        ShowUIComponentUnfocused(thisGUI, ui);
-}
-
-// Whether a dialog that is shown has to be polled, or has changed by itself.
-bool isDue(const GUI* dialog)
-{
-    if (!dialog || dialog->nVisible != T)
-        return false;
-    const bool changed = secondLook && secondLook(*dialog);
-    return changed || dialog->onPoll;
-}
-
-// Runs a dialog's callback and draws the dialog if that has not hidden it. The one in focus is
-// drawn whole at once: the callback of the next dialog must not see, and show, a half of it.
-void pollDialog(CHAIN* chain)
-{
-    ExecOnFunction(chain->Pointer->onPoll);
-    if (!kul::isInRing(chain) || !chain->Pointer || chain->Pointer->nVisible != T)
-        return;
-    if (chain->nRef == GetCurrentSelection()->nChain) {
-        ShowUIColors();
-        return;
+    for (CHAIN* chain = GetPrimaryChain(); chain; chain = kul::nextChain(chain)) {
+        auto* dialog = static_cast<kul::Dialog*>(chain->Pointer);
+        if (!dialog || dialog->polled || dialog->nVisible != T)
+            continue;
+        dialog->polled = true;
+        dialog->due = secondLook && secondLook(*dialog);
+        if (dialog->due || dialog->onPoll)
+            return dialog;
     }
+    return nullptr;
+}
+
+void drawUnfocused(CHAIN* chain)
+{
     BackgroundDisplay(chain);
     ShowDisplayComponents(chain->Pointer);
-    drawUnfocused(chain->Pointer);
+    for (UI* ui = chain->Pointer->UserInterface; ui; ui = ui->Next)
+        ShowUIComponentUnfocused(chain->Pointer, ui);
 }
 
 } // namespace
@@ -71,17 +64,20 @@ void ExecPolling()
     if (Poll(1) != 1)
         return;
     kul::Pass pass;
-    CHAIN* chain = GetPrimaryChain();
-    while (chain) {
-        CHAIN* next = kul::nextChain(chain);
-        if (isDue(chain->Pointer))
-            pollDialog(chain);
-        // The callback may have destroyed either, or made new ones.
-        if (kul::isInRing(chain))
-            next = kul::nextChain(chain);
-        else if (!kul::isInRing(next))
-            break;
-        chain = next;
+    // All callbacks first: each may update the terminal, and must not show dialogs half drawn.
+    while (kul::Dialog* dialog = nextDue()) {
+        dialog->due = true;
+        ExecOnFunction(dialog->onPoll);
+    }
+    const CHAIN* current = GetChain(GetCurrentSelection()->nChain);
+    for (CHAIN* chain = GetPrimaryChain(); chain; chain = kul::nextChain(chain)) {
+        auto* dialog = static_cast<kul::Dialog*>(chain->Pointer);
+        if (!dialog)
+            continue;
+        // A callback may have hidden the dialog. The one in focus is drawn last.
+        if (dialog->due && dialog->nVisible == T && chain != current)
+            drawUnfocused(chain);
+        dialog->polled = dialog->due = false;
     }
     ShowUIColors();
 }

@@ -20,6 +20,7 @@
 #include <unistd.h>
 
 #include "../kulgui.h"
+#include "frame.hpp"
 
 namespace {
 
@@ -118,11 +119,20 @@ void setHandler(int nSignal, void (*handler)(int))
     sigaction(nSignal, &action, nullptr);
 }
 
+// In the background the terminal belongs to somebody else; setting its modes would stop the process.
+bool isInForeground()
+{
+    const pid_t nGroup = tcgetpgrp(STDOUT_FILENO);
+    return nGroup == -1 || nGroup == getpgrp();
+}
+
 void onSignal(int nSignal)
 {
     const int nError = errno;
-    send(leaving);
-    setModes(outside);
+    if (isInForeground()) {
+        send(leaving);
+        setModes(outside);
+    }
     setHandler(nSignal, SIG_DFL);
     // Blocked while this handler runs: let it through, to end or to stop the process here.
     sigset_t self;
@@ -140,21 +150,34 @@ void onSignal(int nSignal)
     errno = nError;
 }
 
+bool isHandledBy(int nSignal, void (*handler)(int))
+{
+    struct sigaction action {};
+    return sigaction(nSignal, nullptr, &action) == 0 && !(action.sa_flags & SA_SIGINFO) &&
+           action.sa_handler == handler;
+}
+
 // Which signals the program leaves to us; asked before curses takes some for itself.
 void findOurs()
 {
-    for (int i = 0; i < kCaughtCount; ++i) {
-        struct sigaction action {};
-        ours[i] = sigaction(kCaught[i], nullptr, &action) == 0 && !(action.sa_flags & SA_SIGINFO) &&
-                  action.sa_handler == SIG_DFL;
-    }
+    for (int i = 0; i < kCaughtCount; ++i)
+        ours[i] = isHandledBy(kCaught[i], SIG_DFL);
 }
 
-void setOurs(void (*handler)(int))
+void takeOurs()
 {
     for (int i = 0; i < kCaughtCount; ++i) {
         if (ours[i])
-            setHandler(kCaught[i], handler);
+            setHandler(kCaught[i], onSignal);
+    }
+}
+
+// Not those for which the program has set a handler meanwhile.
+void giveBackOurs()
+{
+    for (const int nSignal : kCaught) {
+        if (isHandledBy(nSignal, onSignal))
+            setHandler(nSignal, SIG_DFL);
     }
 }
 
@@ -162,7 +185,7 @@ void setOurs(void (*handler)(int))
 void closeScreen()
 {
     isOpen = false;
-    setOurs(SIG_DFL);
+    giveBackOurs();
     echo();
     wclear(stdscr);
     if (!ownScreen) {
@@ -234,7 +257,8 @@ int NCursesEnv(int nRef)
 int SetupGUIEnvironment()
 {
     static bool atExit = false;
-    if (!isOpen) {
+    const bool wasOpen = isOpen;
+    if (!wasOpen) {
         outside.nFlags = fcntl(STDIN_FILENO, F_GETFL);
         ttyKnown = tcgetattr(STDOUT_FILENO, &outside.tty) == 0;
         findOurs();
@@ -249,12 +273,14 @@ int SetupGUIEnvironment()
     curs_set(0);
     start_color();
     InitializeColorSets();
+    kul::defineShadow();
     inside.nFlags = O_NONBLOCK;
     if (ttyKnown)
         tcgetattr(STDOUT_FILENO, &inside.tty);
     prepareBytes();
     isOpen = true;
-    setOurs(onSignal);
+    if (!wasOpen)
+        takeOurs();
     if (!atExit)
         atExit = std::atexit(closeAtExit) == 0;
     return 0;

@@ -11,12 +11,6 @@ namespace {
 
 constexpr int kButtonHeight = 3;
 
-// The variants' config: defaults only.
-int resetButton(int nChain, int nRef)
-{
-    return kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON) ? 0 : -1;
-}
-
 } // namespace
 
 namespace kul {
@@ -148,19 +142,19 @@ int kulexitbutton_create(int nChain, int nRef)
 int kulokbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int, const char*,
                        KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return resetButton(nChain, nRef);
+    return ConfigUIComponent(nChain, nRef);
 }
 
 int kulcancelbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int,
                            const char*, KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return resetButton(nChain, nRef);
+    return ConfigUIComponent(nChain, nRef);
 }
 
 int kulexitbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int, const char*,
                          KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return resetButton(nChain, nRef);
+    return ConfigUIComponent(nChain, nRef);
 }
 
 int kulokbutton_show(int nChain, int nRef)

@@ -84,6 +84,7 @@ int AttachComponentToUI(UI* thisUI, int nType)
     const kul::UIKind* kind = kul::uiKind(nType);
     if (!thisUI || !kind)
         return -1;
+    thisUI->nType = nType;
     thisUI->Pointer = kind->allocate();
     return thisUI->Pointer ? 0 : -1;
 }

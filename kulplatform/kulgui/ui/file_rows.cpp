@@ -77,7 +77,7 @@ int FileRows::shownCells(int nCells) const
 FileRows::Row FileRows::row(FilePlace start)
 {
     const int nWanted = 2 * nColumns_ + 1;
-    const FilePlace edge = (start / FileText::kPage + 1) * FileText::kPage;
+    const FilePlace edge = (start / FileText::kPiece + 1) * FileText::kPiece;
     FilePlace cut = -1; // not known: it matters near the edge only
     FilePlace place = start;
     int nCells = 0;
@@ -93,10 +93,14 @@ FileRows::Row FileRows::row(FilePlace start)
             nLineEnd = 2;
         if (nLineEnd >= 0)
             break;
-        const Glyph now = glyph(place, end, nCells);
         const bool blank = nByte == ' ' || nByte == '\t';
         places_[nCells] = static_cast<int>(place - start);
         cells_[nCells++] = blank ? ' ' : 'x';
+        if (nByte < 0x80 && nByte != '\t') {
+            ++place;
+            continue;
+        }
+        const Glyph now = glyph(place, end, nCells - 1);
         for (int i = 1; i < now.nCells; ++i, ++nCells) {
             places_[nCells] = -1;
             cells_[nCells] = cells_[nCells - 1];

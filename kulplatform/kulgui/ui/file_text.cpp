@@ -5,13 +5,13 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "../gui/memory.hpp"
+#include "byte_search.hpp"
 
 namespace kul {
 
@@ -19,7 +19,7 @@ namespace {
 
 constexpr FilePlace kLargest = INT64_MAX / 2; // sums of places must not overflow
 
-constexpr FilePlace kProbed = 16 * 1024 * 1024;
+constexpr FilePlace kProbed = 1 << 24;
 
 // What is read at a place, less than asked for only at the end of the file; -1 for an error.
 ssize_t readAt(int nDescriptor, char* bytes, std::size_t size, FilePlace place)
@@ -37,76 +37,6 @@ ssize_t readAt(int nDescriptor, char* bytes, std::size_t size, FilePlace place)
         got += static_cast<std::size_t>(n);
     }
     return static_cast<ssize_t>(got);
-}
-
-// Sixteen bytes at a time, in whatever the processor has for it.
-constexpr std::size_t kWide = 16;
-using Wide [[gnu::vector_size(kWide)]] = unsigned char;
-using WideWords [[gnu::vector_size(kWide)]] = std::uint64_t;
-
-Wide load(const char* bytes)
-{
-    Wide wide;
-    std::memcpy(&wide, bytes, kWide);
-    return wide;
-}
-
-Wide filled(char byte)
-{
-    return Wide{} + static_cast<unsigned char>(byte);
-}
-
-std::int64_t newlines(std::string_view text)
-{
-    const Wide newline = filled('\n');
-    const char* bytes = text.data();
-    std::size_t left = text.size();
-    std::int64_t nFound = 0;
-    while (left >= kWide) {
-        const std::size_t nRounds = std::min<std::size_t>(left / kWide, UCHAR_MAX);
-        Wide sums{};
-        for (std::size_t i = 0; i < nRounds; ++i, bytes += kWide)
-            sums -= reinterpret_cast<Wide>(load(bytes) == newline); // true is -1
-        for (std::size_t i = 0; i < kWide; ++i)
-            nFound += sums[i];
-        left -= nRounds * kWide;
-    }
-    return nFound + std::count(bytes, bytes + left, '\n');
-}
-
-// Looks for a text of 2 to kWide bytes: where its first and its last byte stand in their places,
-// it may be. Short texts are where memmem is slow; with long ones this could be.
-const char* findShort(const char* bytes, const char* end, std::string_view wanted)
-{
-    const Wide first = filled(wanted.front());
-    const Wide last = filled(wanted.back());
-    const std::size_t nToLast = wanted.size() - 1;
-    const auto isHere = [=](const char* place) {
-        return std::memcmp(place, wanted.data(), wanted.size()) == 0;
-    };
-    for (; end - bytes >= static_cast<std::ptrdiff_t>(kWide + nToLast); bytes += kWide) {
-        const auto fits = (load(bytes) == first) & (load(bytes + nToLast) == last);
-        const auto words = reinterpret_cast<WideWords>(fits);
-        if ((words[0] | words[1]) == 0)
-            continue;
-        for (std::size_t i = 0; i < kWide; ++i) {
-            if (fits[i] && isHere(bytes + i))
-                return bytes + i;
-        }
-    }
-    for (; end - bytes > static_cast<std::ptrdiff_t>(nToLast); ++bytes) {
-        if (isHere(bytes))
-            return bytes;
-    }
-    return nullptr;
-}
-
-const char* findText(const char* bytes, const char* end, std::string_view wanted)
-{
-    if (wanted.size() >= 2 && wanted.size() <= kWide)
-        return findShort(bytes, end, wanted);
-    return static_cast<const char*>(
-        memmem(bytes, static_cast<std::size_t>(end - bytes), wanted.data(), wanted.size()));
 }
 
 bool isRegular(const struct stat& status)
@@ -176,6 +106,7 @@ FileText::Change FileText::refresh()
         return Change::None;
     for (Page& page : pages_)
         page.nUsed = 0;
+    lastSize_ = 0;
     if (size_ <= before) // a longer one has been added to
         forgetLines();
     return size_ < before ? Change::Shorter : Change::Some;
@@ -217,17 +148,13 @@ std::string_view FileText::at(FilePlace place)
         nUses_ = 2;
     }
     page->nUsed = nUses_;
-    const int nOffset = static_cast<int>(place % kPage);
-    const int nBytes = static_cast<int>(std::min<FilePlace>(page->nBytes, size_ - number * kPage));
-    return nOffset < nBytes
-               ? std::string_view(page->bytes + nOffset, static_cast<std::size_t>(nBytes - nOffset))
-               : std::string_view();
-}
-
-int FileText::byteAt(FilePlace place)
-{
-    const std::string_view bytes = at(place);
-    return bytes.empty() ? -1 : static_cast<unsigned char>(bytes.front());
+    last_ = page->bytes;
+    lastPlace_ = number * kPage;
+    lastSize_ =
+        static_cast<std::uint64_t>(std::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));
+    const auto nOffset = static_cast<std::uint64_t>(place - lastPlace_);
+    return nOffset < lastSize_ ? std::string_view(last_ + nOffset, lastSize_ - nOffset)
+                               : std::string_view();
 }
 
 FilePlace FileText::newlineBefore(FilePlace place, FilePlace from)
@@ -260,7 +187,7 @@ FilePlace FileText::newlineFrom(FilePlace from, FilePlace to)
 // ---- Lines that are too long ----------------------------------------------------------------
 //
 // Where a line is cut must not depend on where one comes from, and be found without reading the
-// line as a whole: it is cut at the multiples of a page inside of it (the edges), and not inside
+// line as a whole: it is cut at the multiples of a piece inside of it (the edges), and not inside
 // of a multi-byte character.
 
 FilePlace FileText::cutAt(FilePlace edge)
@@ -271,11 +198,11 @@ FilePlace FileText::cutAt(FilePlace edge)
     return cut;
 }
 
-// Whether a line that starts there, or before if that is a page before the edge, is longer than a
-// page and goes on behind the cut.
+// Whether a line that starts there, or before if that is a piece before the edge, is longer than
+// a piece and goes on behind the cut.
 bool FileText::isCut(FilePlace start, FilePlace edge)
 {
-    if (size_ - start <= kPage || newlineFrom(edge, start + kPage + 1) >= 0)
+    if (size_ - start <= kPiece || newlineFrom(edge, start + kPiece + 1) >= 0)
         return false;
     const FilePlace cut = cutAt(edge);
     const int nByte = byteAt(cut);
@@ -285,11 +212,11 @@ bool FileText::isCut(FilePlace start, FilePlace edge)
 FilePlace FileText::pieceStart(FilePlace place)
 {
     place = std::min(place, size_); // what is there may have become less a moment ago
-    const FilePlace edge = place / kPage * kPage;
+    const FilePlace edge = place / kPiece * kPiece;
     FilePlace newline = newlineBefore(place, edge);
     if (newline >= 0 || edge == 0)
         return newline + 1;
-    const FilePlace earlier = edge - kPage;
+    const FilePlace earlier = edge - kPiece;
     newline = newlineBefore(edge, earlier);
     const FilePlace start = std::max(newline + 1, earlier);
     if (start == edge)
@@ -301,7 +228,7 @@ FilePlace FileText::pieceStart(FilePlace place)
 
 FilePlace FileText::nextCut(FilePlace place)
 {
-    const FilePlace edge = (place / kPage + 1) * kPage;
+    const FilePlace edge = (place / kPiece + 1) * kPiece;
     const FilePlace cut = cutAt(edge);
     return cut < size_ && pieceStart(cut) == cut ? cut : kLargest;
 }
@@ -333,7 +260,7 @@ void FileText::advance(Counted& counted, std::string_view bytes)
     if (counted.place != nMarks_ * stride_)
         return;
     if (nMarks_ == kMarks) {
-        for (int i = 1; i < kMarks / 2; ++i)
+        for (std::size_t i = 1; i < kMarks / 2; ++i)
             marks_[i] = marks_[i * 2];
         nMarks_ = kMarks / 2;
         stride_ *= 2;

@@ -5,8 +5,8 @@
 #include "fileview.hpp"
 
 #include <algorithm>
+#include <climits>
 
-#include "../gui/draw.hpp"
 #include "../gui/polling.hpp"
 #include "file_rows.hpp"
 #include "handler.hpp"
@@ -18,30 +18,15 @@ using kul::FileRows;
 using kul::FileText;
 using kul::FileView;
 
-constexpr int kScrollStyle = 1;
-constexpr int kMaxRows = 1000;
-
-// The box of the text: inside the frame, or left of the scroll bar.
-struct Box {
-    int nX, nY, nWidth, nHeight;
-};
-
-Box textBox(const KULFILEVIEW& view)
-{
-    if (view.nBorder == BORDER)
-        return {kul::shifted(view.nX, 1), kul::shifted(view.nY, 1), kul::shifted(view.nWidth, -2),
-                kul::shifted(view.nHeight, -2)};
-    return {view.nX, view.nY, kul::shifted(view.nWidth, -1), view.nHeight};
-}
-
-int columns(const FileView& view)
-{
-    return std::clamp(textBox(view).nWidth, 1, FileRows::kMaxColumns);
-}
-
 int rowsInView(const FileView& view)
 {
-    return std::clamp(textBox(view).nHeight, 1, kMaxRows);
+    return std::clamp(kul::fileBox(view).nHeight, 1, kul::kMaxFileRows);
+}
+
+// As the calls give it: files may have more lines than an int can count.
+int lineNumber(std::int64_t nLine)
+{
+    return static_cast<int>(std::min<std::int64_t>(nLine, INT_MAX));
 }
 
 FileView* findView(int nChain, int nRef)
@@ -54,9 +39,9 @@ FileView* findView(int nChain, int nRef)
 // Shows the row that holds a place at the top, or the last rows where there are not enough below.
 void moveTo(FileView& view, FilePlace place)
 {
-    FileRows rows(*view.text, columns(view));
+    FileRows rows(*view.text, kul::fileColumns(view));
     const int nRows = rowsInView(view);
-    view.nColumns = columns(view);
+    view.nColumns = kul::fileColumns(view);
     view.top = rows.rowOf(place);
     view.atEnd = rows.down(view.top, nRows) >= view.text->size();
     if (view.atEnd)
@@ -65,7 +50,7 @@ void moveTo(FileView& view, FilePlace place)
 
 void moveRows(FileView& view, int nRows)
 {
-    FileRows rows(*view.text, columns(view));
+    FileRows rows(*view.text, kul::fileColumns(view));
     moveTo(view, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
 }
 
@@ -122,7 +107,7 @@ bool keepUp(FileView& view)
         return false;
     const bool replaced = view.following && takeReplacement(view);
     const auto change = replaced ? FileText::Change::Shorter : view.text->refresh();
-    if (change == FileText::Change::None && view.nColumns == columns(view))
+    if (change == FileText::Change::None && view.nColumns == kul::fileColumns(view))
         return false;
     const bool toEnd = view.following && (view.atEnd || change == FileText::Change::Shorter);
     moveTo(view, toEnd ? view.text->size() : view.top);
@@ -168,82 +153,6 @@ void showFile(FileView& view, const Loaded& loaded)
     moveTo(view, view.following ? view.text->size() : 0);
 }
 
-// ---- Drawing --------------------------------------------------------------------------------
-
-// A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
-void drawRow(WINDOW* win, int nY, const Box& box, FileRows& rows, const FileRows::Row& row)
-{
-    wchar_t run[FileRows::kMaxColumns];
-    const int nRight =
-        static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
-                                             static_cast<long long>(getmaxx(win)) - box.nX));
-    int nRun = 0;
-    int nFirst = 0; // column of the run's first character
-    int nColumn = 0;
-    for (FilePlace place = row.start; place < row.end && nColumn < nRight;) {
-        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
-        place += now.nBytes;
-        const bool blanks = now.character == L' ';
-        if (!blanks && nColumn + now.nCells > nRight)
-            break;
-        for (int i = 0; i < (blanks ? now.nCells : 1) && nColumn + i < nRight; ++i) {
-            if (kul::shifted(box.nX, nColumn + i) < 0)
-                continue;
-            if (nRun == 0)
-                nFirst = nColumn + i;
-            run[nRun++] = now.character;
-        }
-        nColumn += now.nCells;
-    }
-    nColumn = std::min(nColumn, std::max(nRight, 0));
-    if (nRun > 0)
-        mvwaddnwstr(win, nY, kul::shifted(box.nX, nFirst), run, nRun);
-    kul::hRun(win, nY, kul::shifted(box.nX, nColumn), static_cast<long long>(box.nWidth) - nColumn,
-              ' ');
-}
-
-// Draws the rows from the top on; returns the place behind them.
-FilePlace drawText(WINDOW* win, const FileView& view, const Box& box)
-{
-    const int nBottom = std::min(getmaxy(win), kul::shifted(box.nY, box.nHeight));
-    if (!view.text) {
-        for (int nY = std::max(box.nY, 0); nY < nBottom; ++nY)
-            kul::hRun(win, nY, box.nX, box.nWidth, ' ');
-        return 0;
-    }
-    FileRows rows(*view.text, columns(view));
-    FilePlace place = view.nColumns == columns(view) ? view.top : rows.rowOf(view.top);
-    // Rows that lie above of the window count, but not without end.
-    for (int nY = std::max(box.nY, -kMaxRows); nY < nBottom; ++nY) {
-        const FileRows::Row row = rows.row(place);
-        if (nY >= 0)
-            drawRow(win, nY, box, rows, row);
-        place = row.next;
-    }
-    return place;
-}
-
-// The thumb is as large, and as far down, as the view in the file.
-void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
-{
-    if (view.nHeight < 1)
-        return;
-    const auto size = static_cast<double>(view.text->size());
-    const auto shown = static_cast<double>(std::max<FilePlace>(bottom - view.top, 1));
-    KULGAUGEBAR bar{};
-    bar.nColorBar = bar.nColorRail = view.nColorUnfocus;
-    bar.nX = kul::shifted(view.nX, view.nWidth - 1LL);
-    bar.nY = view.nY;
-    bar.nLength = std::min(view.nHeight, kMaxRows);
-    bar.nRange = static_cast<int>(std::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
-    bar.nPosition = bar.nRange - bar.nLength; // the end
-    if (!view.atEnd)
-        bar.nPosition = std::min(
-            static_cast<int>(static_cast<double>(view.top) / size * bar.nRange), bar.nPosition - 1);
-    bar.nOrient = VERTICAL;
-    BarShow(gui, &bar, kScrollStyle);
-}
-
 } // namespace
 
 namespace kul {
@@ -287,23 +196,6 @@ int WipeFileviewComponent(KULFILEVIEW* thisView)
     kul::dropFileView(*view);
     std::free(view);
     return 0;
-}
-
-void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
-{
-    if (!thisGUI || !thisView || thisView->nVisible != T)
-        return;
-    const auto& view = *static_cast<const FileView*>(thisView);
-    WINDOW* win = thisGUI->winMain;
-    FilePlace bottom = 0;
-    {
-        const kul::Attribute color(win, nFocus == 1 ? view.nColorFocus : view.nColorUnfocus);
-        bottom = drawText(win, view, textBox(view));
-    }
-    if (view.nBorder == BORDER)
-        DrawBorder(win, view.nY, view.nX, view.nHeight, view.nWidth, view.nColorUnfocus);
-    if (view.text && (view.top > 0 || !view.atEnd))
-        drawScrollBar(thisGUI, view, bottom);
 }
 
 int kulfileview_create(int nChain, int nRef)
@@ -368,10 +260,10 @@ int kulfileview_find(int nChain, int nRef, const char* szText, int nFrom)
     if (match.nLine < 0)
         return -1;
     moveTo(*view, match.line);
-    FileRows rows(*view->text, columns(*view));
+    FileRows rows(*view->text, kul::fileColumns(*view));
     if (match.place >= rows.down(view->top, rowsInView(*view)))
         moveTo(*view, match.place); // far behind in a line that is larger than the view
-    return static_cast<int>(std::min<std::int64_t>(match.nLine, INT_MAX));
+    return lineNumber(match.nLine);
 }
 
 int kulfileview_getPosition(int nChain, int nRef)
@@ -380,9 +272,7 @@ int kulfileview_getPosition(int nChain, int nRef)
     if (!view)
         return -1;
     keepUp(*view);
-    return view->text
-               ? static_cast<int>(std::min<std::int64_t>(view->text->lineOf(view->top), INT_MAX))
-               : 0;
+    return view->text ? lineNumber(view->text->lineOf(view->top)) : 0;
 }
 
 int kulfileview_setPosition(int nChain, int nRef, int nLine)

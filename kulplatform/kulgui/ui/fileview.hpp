@@ -2,9 +2,8 @@
 #ifndef KUL_UI_FILEVIEW_HPP
 #define KUL_UI_FILEVIEW_HPP
 
-#include "file_text.hpp"
-
 #include "../kulgui.h"
+#include "file_text.hpp"
 
 namespace kul {
 
@@ -18,6 +17,19 @@ struct FileView : KULFILEVIEW {
 };
 
 void dropFileView(FileView& view);
+
+// The box of the text: inside the frame, or left of the scroll bar.
+struct FileBox {
+    int nX, nY, nWidth, nHeight;
+};
+
+FileBox fileBox(const KULFILEVIEW& view);
+
+// The columns to which the text is laid out.
+int fileColumns(const KULFILEVIEW& view);
+
+// No view is higher than this, whatever its record says.
+constexpr int kMaxFileRows = 1000;
 
 } // namespace kul
 

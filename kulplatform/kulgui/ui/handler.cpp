@@ -3,6 +3,8 @@
 // The one place where key handlers wait.
 #include "handler.hpp"
 
+#include <utility>
+
 #include "../gui/chain.hpp"
 #include "../gui/keys.hpp"
 
@@ -11,6 +13,12 @@ namespace kul {
 namespace {
 
 unsigned nWaits = 0;
+
+bool take(int nChain, bool Dialog::* request)
+{
+    Dialog* dialog = findDialog(nChain);
+    return dialog && std::exchange(dialog->*request, false);
+}
 
 } // namespace
 
@@ -46,11 +54,12 @@ unsigned waits()
 
 bool takeLeaving(int nChain)
 {
-    Dialog* dialog = findDialog(nChain);
-    const bool leaving = dialog && dialog->leaving;
-    if (leaving)
-        dialog->leaving = false;
-    return leaving;
+    return take(nChain, &Dialog::leaving);
+}
+
+bool takeRefocus(int nChain)
+{
+    return take(nChain, &Dialog::refocused);
 }
 
 HandlerBase::HandlerBase(const CURRENT& start) : selection(start), loop_(start.nChain) {}
@@ -116,14 +125,9 @@ int HandlerBase::key(bool (*goOn)(const GUI&, const void* record))
 
 int HandlerBase::settle()
 {
-    Dialog* dialog = findDialog(selection.nChain);
     if (takeLeaving(selection.nChain))
         return KUL_LEFT;
-    if (dialog && dialog->refocused) {
-        dialog->refocused = false;
-        return 0;
-    }
-    return nResult_;
+    return takeRefocus(selection.nChain) ? 0 : nResult_;
 }
 
 } // namespace kul

@@ -35,8 +35,9 @@ private:
 int waitOnce();
 unsigned waits();
 
-// Whether the dialog's loop was asked to end; forgets the request.
+// Whether the dialog's loop was asked to end, or to go on with another component; forgets it.
 bool takeLeaving(int nChain);
+bool takeRefocus(int nChain);
 
 class HandlerBase {
 public:
@@ -99,8 +100,10 @@ public:
     int finish(KULCALLBACK Public::*onUnfocus)
     {
         const Record* now = result() == -10000 ? nullptr : record();
-        if (now)
+        if (now) {
             ExecOnFunction(now->*onUnfocus);
+            record(); // ends with an error if that has destroyed it
+        }
         return settle();
     }
 };

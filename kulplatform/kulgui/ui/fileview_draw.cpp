@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+//
+// What a file viewer looks like.
+#include <algorithm>
+
+#include "../gui/draw.hpp"
+#include "file_rows.hpp"
+#include "fileview.hpp"
+
+namespace kul {
+
+FileBox fileBox(const KULFILEVIEW& view)
+{
+    if (view.nBorder == BORDER)
+        return {shifted(view.nX, 1), shifted(view.nY, 1), shifted(view.nWidth, -2),
+                shifted(view.nHeight, -2)};
+    return {view.nX, view.nY, shifted(view.nWidth, -1), view.nHeight};
+}
+
+int fileColumns(const KULFILEVIEW& view)
+{
+    return std::clamp(fileBox(view).nWidth, 1, FileRows::kMaxColumns);
+}
+
+} // namespace kul
+
+namespace {
+
+using kul::FileBox;
+using kul::fileColumns;
+using kul::FilePlace;
+using kul::FileRows;
+using kul::FileView;
+using kul::kMaxFileRows;
+
+constexpr int kScrollStyle = 1;
+
+// A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
+void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
+{
+    wchar_t run[FileRows::kMaxColumns];
+    const int nRight =
+        static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
+                                             static_cast<long long>(getmaxx(win)) - box.nX));
+    int nRun = 0;
+    int nFirst = 0; // column of the run's first character
+    int nColumn = 0;
+    for (FilePlace place = row.start; place < row.end && nColumn < nRight;) {
+        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
+        place += now.nBytes;
+        const bool blanks = now.character == L' ';
+        if (!blanks && nColumn + now.nCells > nRight)
+            break;
+        for (int i = 0; i < (blanks ? now.nCells : 1) && nColumn + i < nRight; ++i) {
+            if (kul::shifted(box.nX, nColumn + i) < 0)
+                continue;
+            if (nRun == 0)
+                nFirst = nColumn + i;
+            run[nRun++] = now.character;
+        }
+        nColumn += now.nCells;
+    }
+    nColumn = std::min(nColumn, std::max(nRight, 0));
+    if (nRun > 0)
+        mvwaddnwstr(win, nY, kul::shifted(box.nX, nFirst), run, nRun);
+    kul::hRun(win, nY, kul::shifted(box.nX, nColumn), static_cast<long long>(box.nWidth) - nColumn,
+              ' ');
+}
+
+// Draws the rows from the top on; returns the place behind them.
+FilePlace drawText(WINDOW* win, const FileView& view, const FileBox& box)
+{
+    const int nBottom = std::min(getmaxy(win), kul::shifted(box.nY, box.nHeight));
+    if (!view.text) {
+        for (int nY = std::max(box.nY, 0); nY < nBottom; ++nY)
+            kul::hRun(win, nY, box.nX, box.nWidth, ' ');
+        return 0;
+    }
+    FileRows rows(*view.text, fileColumns(view));
+    FilePlace place = view.nColumns == fileColumns(view) ? view.top : rows.rowOf(view.top);
+    // Rows that lie above of the window count, but not without end.
+    for (int nY = std::max(box.nY, -kMaxFileRows); nY < nBottom; ++nY) {
+        const FileRows::Row row = rows.row(place);
+        if (nY >= 0)
+            drawRow(win, nY, box, rows, row);
+        place = row.next;
+    }
+    return place;
+}
+
+// The thumb is as large, and as far down, as the view in the file.
+void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
+{
+    if (view.nHeight < 1)
+        return;
+    const auto size = static_cast<double>(view.text->size());
+    const auto shown = static_cast<double>(std::max<FilePlace>(bottom - view.top, 1));
+    KULGAUGEBAR bar{};
+    bar.nColorBar = bar.nColorRail = view.nColorUnfocus;
+    bar.nX = kul::shifted(view.nX, view.nWidth - 1LL);
+    bar.nY = view.nY;
+    bar.nLength = std::min(view.nHeight, kMaxFileRows);
+    bar.nRange = static_cast<int>(std::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
+    bar.nPosition = bar.nRange - bar.nLength; // the end
+    if (!view.atEnd)
+        bar.nPosition = std::min(
+            static_cast<int>(static_cast<double>(view.top) / size * bar.nRange), bar.nPosition - 1);
+    bar.nOrient = VERTICAL;
+    BarShow(gui, &bar, kScrollStyle);
+}
+
+} // namespace
+
+void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
+{
+    if (!thisGUI || !thisView || thisView->nVisible != T)
+        return;
+    const auto& view = *static_cast<const FileView*>(thisView);
+    WINDOW* win = thisGUI->winMain;
+    FilePlace bottom = 0;
+    {
+        const kul::Attribute color(win, nFocus == 1 ? view.nColorFocus : view.nColorUnfocus);
+        bottom = drawText(win, view, kul::fileBox(view));
+    }
+    if (view.nBorder == BORDER)
+        DrawBorder(win, view.nY, view.nX, view.nHeight, view.nWidth, view.nColorUnfocus);
+    if (view.text && (view.top > 0 || !view.atEnd))
+        drawScrollBar(thisGUI, view, bottom);
+}
