@@ -136,7 +136,7 @@ static void addEntries(int nY, int nWidth, int nHeight)
 static void addStatus(const GUI* page)
 {
     kulstatbar_create(PAGE, STATUS);
-    kulstatbar_config(PAGE, STATUS, PAGE_COLOR, NULL);
+    kulstatbar_config(PAGE, STATUS, CYAN_BLACK, NULL);
     kulstatbar_addElement(PAGE, STATUS, 1, page->nWidth - 12, factText(HOST, 0), LEFT, NULL);
     kulstatbar_addElement(PAGE, STATUS, page->nWidth - 10, 9, "", RIGHT, NULL);
 }
