@@ -60,7 +60,9 @@ int memoryPercent(void);
 int diskPercent(void);
 int loadPercent(void);
 
-/* Reads the start of a file into a text; an empty one when it cannot be read. */
+/* Read the start of a file, or of one below /proc (the environment variable KULGUI_DEMO_PROC names
+ * another directory), into a text; an empty one when it cannot be read. */
 void readText(const char* szFile, char* szText, size_t size);
+void readProc(const char* szName, char* szText, size_t size);
 
 #endif

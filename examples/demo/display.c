@@ -157,7 +157,7 @@ void displayPage(void)
         return;
     char szVersion[256];
     const bool roomy = page->nWidth >= 60 && page->nHeight >= 20;
-    readText("/proc/version", szVersion, sizeof szVersion);
+    readProc("version", szVersion, sizeof szVersion);
     nSeconds = roomy ? MOST_SECONDS : 8;
     addMenuBar();
     kulline_create(PAGE, RULE);

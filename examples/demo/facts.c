@@ -5,11 +5,11 @@
 #include "demo.h"
 
 #include <stdio.h>
+#include <stdlib.h>
 #include <string.h>
 #include <sys/statvfs.h>
-#include <sys/utsname.h>
 
-static char szFact[64];
+static char szFact[48];
 
 void readText(const char* szFile, char* szText, size_t size)
 {
@@ -22,11 +22,19 @@ void readText(const char* szFile, char* szText, size_t size)
     szText[got] = '\0';
 }
 
+void readProc(const char* szName, char* szText, size_t size)
+{
+    char szFile[512];
+    const char* szProc = getenv("KULGUI_DEMO_PROC");
+    snprintf(szFile, sizeof szFile, "%s/%s", szProc ? szProc : "/proc", szName);
+    readText(szFile, szText, size);
+}
+
 long memoryEntry(const char* szName)
 {
     char szText[4096];
     long nKibibytes = 0;
-    readText("/proc/meminfo", szText, sizeof szText);
+    readProc("meminfo", szText, sizeof szText);
     const char* szEntry = strstr(szText, szName);
     if (szEntry)
         sscanf(szEntry + strlen(szName), ": %ld", &nKibibytes);
@@ -51,7 +59,7 @@ static double loadAverage(int nForm)
 {
     char szText[64];
     double load[3] = {0, 0, 0};
-    readText("/proc/loadavg", szText, sizeof szText);
+    readProc("loadavg", szText, sizeof szText);
     if (sscanf(szText, "%lf %lf %lf", &load[0], &load[1], &load[2]) != 3)
         return 0;
     return load[nForm % 3];
@@ -62,27 +70,28 @@ int loadPercent(void)
     return (int)(100 * loadAverage(0));
 }
 
+/* The first line of a file, as the fact. */
+static void lineFact(const char* szName)
+{
+    readProc(szName, szFact, sizeof szFact);
+    szFact[strcspn(szFact, "\n")] = '\0';
+}
+
 static void hostFact(int nForm)
 {
-    struct utsname names;
-    if (uname(&names) != 0)
-        return;
-    snprintf(szFact, sizeof szFact, "%.40s", nForm % 2 == 0 ? names.nodename : names.machine);
+    lineFact(nForm % 2 == 0 ? "sys/kernel/hostname" : "sys/kernel/domainname");
 }
 
 static void kernelFact(int nForm)
 {
-    struct utsname names;
-    if (uname(&names) != 0)
-        return;
-    snprintf(szFact, sizeof szFact, "%.40s", nForm % 2 == 0 ? names.release : names.sysname);
+    lineFact(nForm % 2 == 0 ? "sys/kernel/osrelease" : "sys/kernel/ostype");
 }
 
 static void uptimeFact(int nForm)
 {
     char szText[64];
     double nSeconds = 0;
-    readText("/proc/uptime", szText, sizeof szText);
+    readProc("uptime", szText, sizeof szText);
     sscanf(szText, "%lf", &nSeconds);
     const long n = (long)nSeconds;
     if (nForm % 2 == 0)

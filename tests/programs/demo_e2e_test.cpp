@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+//
+// The demonstration's page of items that show, on facts that the test gives it.
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "terminal.hpp"
+
+namespace {
+
+using namespace kultools;
+
+TEST(Demo, ShowsItsItems)
+{
+    Launch launch;
+    launch.argv = {KULGUI_DEMO};
+    launch.environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC};
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.waitForText("Quit"));
+    terminal.press(*keyBytes("down"));
+    terminal.press("\r");
+    ASSERT_TRUE(terminal.waitForText("Display items"));
+    terminal.press("\r");
+    ASSERT_TRUE(terminal.waitForText("Memory that nobody uses"));
+    // What this machine and this moment have to do with it is left out.
+    std::string text = std::regex_replace(terminal.text(), std::regex("disk .*"), "disk");
+    text = std::regex_replace(text, std::regex("[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\n"), "clock\n");
+    EXPECT_EQ(text, R"(gateway   6.1.0-32-arm64   up 26:03:04   load1 0.75   mem 50 %
+────────────────────────────────────────────────────────────────────────────────
+    ┌─────────────────────────── Display items ────────────────────────────┐
+    │                                                                      │
+    │  Next     Back     Quit                                              │
+    ├──────────────────────────────────────────────────────────────────────┤
+    │ ┌────────────────────────────────────────┐  ┌──────────────────────┐ │
+    │ │Linux version 6.1.0-32-arm64            │  │▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒│ │
+    │ │(router@example) (gcc 12.2.0, GNU ld    │  │▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒│ │
+    │ │2.40) #1 SMP                            │  │▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒│ │
+    │ │                                        │  │                      │ │
+    │ └────────────────────────────────────────┘  └──────────────────────┘ │
+    │                                                                      │
+    │ memory                   ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒                             │
+    │ disk
+    │ MemTotal   MemFree   Cached   Dirty                                  │
+    │ ┌───────────────────────────────────────────────────────────────┐ ┬  │
+    │ │400 MiB. Memory that nobody uses for anything.                 │    │
+    │ │                                                               │ │  │
+    │ │                                                               │ │  │
+    │ │                                                               │ │  │
+     gateway                                                       clock
+
+
+)");
+}
+
+} // namespace
