@@ -1754,7 +1754,8 @@ KULGUI_API int ReturnLineStart(const char* szText, int nStart, int nLength);
 
 /** Index of the last character of a line at nStart that has nLength columns: the end of a text
  * shorter than nLength or than what is left, else the first newline, else where a word ends with
- * the line, else the space before the word that is cut. -1 for a start outside of the text. */
+ * the line, else the space before the word that is cut, nStart without one. Where a blank follows
+ * the line, blanks at its end are left out. -1 for a start outside of the text. */
 KULGUI_API int ReturnLineEnd(const char* szText, int nStart, int nLength);
 
 /** Distance from nStart to the next newline; -1 for none, or when its index is above nLength. */

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <climits>
+#include <clocale>
 #include <utility>
 
 #include "support/window_test.hpp"
@@ -62,6 +63,18 @@ TEST_F(DescrfieldTest, ExplainsTheSelectedElement)
     EXPECT_EQ(field().nSelect, 0);
 }
 
+TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
+{
+    ASSERT_TRUE(std::setlocale(LC_ALL, "C.UTF-8"));
+    std::string text;
+    for (int nLength = 0; nLength < 20; ++nLength)
+        text += "\303\251";
+    kuldescrfield_addElement(1, 1, (text + "and a long tail").c_str(), "");
+    EXPECT_EQ(drawn()[0], " " + std::string(20, '\351') + "and a l");
+    EXPECT_EQ(drawn()[1], " ┌──────────┐               ");
+    std::setlocale(LC_ALL, "C");
+}
+
 TEST_F(DescrfieldTest, ChangesTextsThatFit)
 {
     kuldescrfield_addElement(1, 1, "one", "box");
@@ -83,6 +96,10 @@ TEST_F(DescrfieldTest, ChangesTextsThatFit)
     }
     EXPECT_STREQ(element->szText, "three");
     EXPECT_EQ(element->szBoxText, fits);
+    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, "heading", element->szText), 0) << "its own text";
+    EXPECT_STREQ(element->szText, "heading");
+    EXPECT_STREQ(element->szBoxText, "three");
+    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, fits.c_str()), 0);
     EXPECT_EQ(kuldescrfield_setElement(1, 1, 1, "none", "none"), 0) << "no such element";
     EXPECT_EQ(kuldescrfield_setElement(1, 1, INT_MAX, "none", "none"), 0);
 

@@ -80,6 +80,7 @@ TEST_F(GaugeTest, PutsTheBarOnItsRail)
              {kProgress, LATERAL, INT_MIN, 10, 5, "-------------"},
              {kScroll, LATERAL, INT_MAX, INT_MAX, 0, "-BBBBBBBBBBBB"},
              {kProgress, VERTICAL, INT_MAX, 10, 0, "-rrrrrrrrrrrr"},
+             {kProgress, VERTICAL, INT_MAX, 10, -5, "-rrrrrrrrrrrr"},
          }) {
         werase(gui_->winMain);
         const KULGAUGEBAR bar{kBar,       kRail,         2,           2, row.nLength,

@@ -344,4 +344,17 @@ TEST(FileRowsTest, EndsWhereTheFileWasCutOff)
     EXPECT_EQ(text->lineOf(end), 2);
 }
 
+// A file that was cut off and then written anew is not one that has been added to.
+TEST(FileTextTest, ForgetsTheLinesOfAFileThatWasCutOff)
+{
+    const TemporaryFile file(std::string(400000, '\n'));
+    const Text text = open(file);
+    EXPECT_EQ(text->lineOf(400000), 400000);
+    file.write("short");
+    EXPECT_EQ(text->at(390000), "");
+    file.write(std::string(500000, 'x'));
+    EXPECT_EQ(text->refresh(), FileText::Change::Shorter);
+    EXPECT_EQ(text->lineOf(400000), 0);
+}
+
 } // namespace

@@ -296,6 +296,25 @@ TEST_F(FileviewTest, SurvivesAFileThatIsCutOffBetweenLooks)
     type({-2, KS_PAGEUP}, {[] { theFile->write("less"); }});
     EXPECT_EQ(text(), (Rows{"less", "", "", ""}));
     EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
+
+    // Drawing may be the first to meet the end, where it reads more than before.
+    load(std::string(100000, '\n'));
+    kulfileview_setPosition(1, kRef, 5 * 16384 - 6);
+    file_.write("");
+    view().nHeight = 20;
+    shown();
+    events.clear();
+    type({KS_TAB});
+    EXPECT_EQ(events, "focus99 unfocus99 ");
+}
+
+TEST_F(FileviewTest, TellsCallbacksThePlaceInAFileThatGrew)
+{
+    load(lines(0, 9));
+    type({KS_DOWN});
+    events.clear();
+    type({-2, -3, KS_ENTER}, {[] { theFile->append(lines(10, 99)); }, [] { kultest::advanceClock(1); }});
+    EXPECT_EQ(events, "focus10 click0 unfocus0 ");
 }
 
 TEST_F(FileviewTest, TakesAnyPlaceAndSize)
@@ -312,6 +331,11 @@ TEST_F(FileviewTest, TakesAnyPlaceAndSize)
             }
         }
     }
+    // Nothing is drawn beside a box without columns.
+    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 2, 0, 3, NOBORDER,
+                       file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
+    kulgui_show(1);
+    EXPECT_EQ(kultest::picture(window(1), 2, 1, 3, 6), (Rows{"      ", "      ", "      "}));
     // Cells left of and above the window are cut off.
     kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -3, -1, 30, 20, NOBORDER,
                        file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);

@@ -153,15 +153,18 @@ int kuldescrfield_setElement(int nChain, int nRef, int nSelect, const char* szTe
     if (szBoxText && (!element->szBoxText || kul::length(szBoxText) > capacity))
         return -1;
     // A text of the same length as before is not taken: that is how the call is defined.
+    char* copy = nullptr;
     if (szText && (!element->szText || std::strlen(szText) != std::strlen(element->szText))) {
-        char* copy = kul::copyText(szText);
+        copy = kul::copyText(szText);
         if (!copy)
             return -1;
-        std::free(element->szText);
-        element->szText = copy;
     }
     if (szBoxText)
         kul::setText(element->szBoxText, capacity, szBoxText);
+    if (copy) { // only now: the box text may have been the text before
+        std::free(element->szText);
+        element->szText = copy;
+    }
     return 0;
 }
 

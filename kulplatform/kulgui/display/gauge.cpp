@@ -41,7 +41,8 @@ void drawProgress(WINDOW* win, const KULGAUGEBAR& bar)
 {
     const double part = bar.nRange != 0 ? static_cast<double>(bar.nPosition) / bar.nRange : 0;
     const int nFill = static_cast<int>(std::clamp<double>(bar.nLength * part, -1, bar.nLength));
-    drawCells(win, bar, bar.nOrient == LATERAL ? 0 : bar.nLength - nFill, kul::shifted(nFill, 1));
+    const int nFrom = bar.nOrient == LATERAL ? 0 : kul::shifted(bar.nLength, -nFill);
+    drawCells(win, bar, nFrom, kul::shifted(nFill, 1));
 }
 
 // The item when it is a gauge, of either kind.

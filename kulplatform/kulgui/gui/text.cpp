@@ -97,8 +97,14 @@ void drawText(WINDOW* win, int nY, int nX, std::string_view text)
 
 void printOnRow(WINDOW* win, int nY, int nX, const char* szText)
 {
-    mvwaddnstr(win, nY, nX, szText,
-               std::max(0, shifted(getmaxx(win), -static_cast<long long>(nX))));
+    if (wmove(win, nY, nX) == ERR)
+        return;
+    // Byte by byte, for only curses knows how many cells they take. Past the last cell of the row
+    // the cursor is in the next one, and below the last row there is an error.
+    while (*szText != '\0' && getcury(win) == nY) {
+        if (waddch(win, static_cast<unsigned char>(*szText++)) == ERR)
+            return;
+    }
 }
 
 std::string_view viewOf(const char* szText)

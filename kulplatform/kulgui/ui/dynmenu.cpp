@@ -23,13 +23,15 @@ void follow(kul::MenuView& view, const KULDYNMENU& menu)
     view.nFirst = std::min(view.nFirst, std::max(nLast - nBottom, 0));
 }
 
-// What curses makes of the bytes of one character.
+// How one character is printed.
 struct Print {
     int nBytes;
     int nColumns;
     char shown; // in place of the bytes, if not 0
 };
 
+// Curses gets whole characters only: a control character would lead it out of the row, and a part
+// of a character it keeps and adds to what comes next.
 Print nextPrint(const char* szText)
 {
     std::mbstate_t state{};
@@ -39,19 +41,18 @@ Print nextPrint(const char* szText)
     if (nColumns >= 0)
         return {static_cast<int>(size), nColumns, '\0'};
     const auto byte = static_cast<unsigned char>(*szText);
-    if (byte < ' ' || byte == KS_BACKSPACE)
-        return {1, 1, ' '}; // a control character would lead out of the row
-    return {1, kul::length(unctrl(byte)), '\0'};
+    return {1, 1, byte < ' ' || byte == KS_BACKSPACE ? ' ' : '?'};
 }
 
-// Prints what of a text fits into nWidth columns and into the window.
+// Prints what of a text fits into nWidth columns and into the window. An accent without a letter
+// before it is left out: it would go to the frame.
 void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
 {
     const int nEnd = std::min(kul::shifted(nX, nWidth), getmaxx(win));
     for (int nAt = wmove(win, nY, nX) == ERR ? nEnd : nX; *szText && nAt < nEnd;) {
         const Print print = nextPrint(szText);
         nAt += print.nColumns;
-        if (nAt <= nEnd)
+        if (nAt > nX && nAt <= nEnd)
             waddnstr(win, print.shown ? &print.shown : szText, print.nBytes);
         szText += print.nBytes;
     }
