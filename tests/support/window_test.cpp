@@ -198,4 +198,29 @@ WINDOW* WindowTest::window(int nChain)
     return GetChain(nChain)->Pointer->winMain;
 }
 
+void ComponentTest::SetUp()
+{
+    WindowTest::SetUp();
+    renew();
+}
+
+void ComponentTest::renew()
+{
+    kulgui_destroy(1);
+    makeDialog(1);
+    kulgui_show(1);
+    events.clear();
+}
+
+Rows ComponentTest::shown(int y, int x, int height, int width)
+{
+    return picture(window(1), y, x, height, width);
+}
+
+Rows ComponentTest::shades(int y, int x, int height, int width)
+{
+    return colors(window(1), y, x, height, width,
+                  {{'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}, {'d', RED_CYAN}});
+}
+
 } // namespace kultest

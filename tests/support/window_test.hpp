@@ -69,6 +69,37 @@ protected:
     static WINDOW* window(int nChain);
 };
 
+// The component that a ComponentTest is about, in dialog 1.
+constexpr int kRef = 5;
+
+template <typename Record>
+Record& record()
+{
+    return *static_cast<Record*>(GetUIComponentByRef(1, kRef)->Pointer);
+}
+
+// What callbacks noted, each with what was selected: "focus0 click2 ".
+inline std::string events;
+
+inline void note(const char* event)
+{
+    events += event + std::to_string(GetCurrentSelection()->nSelect) + ' ';
+}
+
+// Dialog 1, shown and without components.
+class ComponentTest : public WindowTest {
+protected:
+    void SetUp() override;
+
+    // The dialog anew, and no events.
+    void renew();
+
+    static Rows shown(int y, int x, int height, int width);
+
+    // Its standard colours: '.' background, 'f' focused, 'u' unfocused, 'd' disabled.
+    static Rows shades(int y, int x, int height, int width);
+};
+
 } // namespace kultest
 
 #endif

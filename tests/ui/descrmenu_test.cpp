@@ -4,85 +4,73 @@
 #include "support/window_test.hpp"
 
 #include <climits>
-#include <string>
 
 namespace {
 
-using kultest::Rows;
+using namespace kultest;
 
-constexpr int kRef = 5;
-
-class DescrmenuTest : public kultest::WindowTest {
+class DescrmenuTest : public ComponentTest {
 protected:
     void SetUp() override
     {
-        WindowTest::SetUp();
-        makeDialog(1);
-        kulgui_show(1);
+        ComponentTest::SetUp();
         kuldescrmenu_create(1, kRef);
     }
 
-    static int config(int nBarLength, int nBoxWidth, int nBoxHeight)
+    static KULDESCRMENU& menu() { return record<KULDESCRMENU>(); }
+
+    static void config(int nBarLength, int nBoxWidth, int nBoxHeight)
     {
-        return kuldescrmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 7, 7, nBarLength,
-                                   nBoxWidth, nBoxHeight, nullptr, nullptr, nullptr, nullptr);
+        kuldescrmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 7, 7, nBarLength, nBoxWidth,
+                            nBoxHeight, nullptr, nullptr, nullptr, nullptr);
     }
 
     static void add(const char* szText, const char* szBoxText, int nEnable = 1)
     {
-        EXPECT_EQ(kuldescrmenu_addElement(1, kRef, nEnable, szText, szBoxText, nullptr, nullptr),
-                  0);
-    }
-
-    static KULDESCRMENU& menu()
-    {
-        return *static_cast<KULDESCRMENU*>(GetUIComponentByRef(1, kRef)->Pointer);
+        kuldescrmenu_addElement(1, kRef, nEnable, szText, szBoxText, nullptr, nullptr);
     }
 
     static void press(const std::vector<int>& keys)
     {
-        kultest::typeKeys(keys);
+        typeKeys(keys);
         EXPECT_EQ(kuldescrmenu_execKeys(1, kRef), KUL_LEFT);
     }
 };
 
-TEST_F(DescrmenuTest, KeepsItsDefaults)
+TEST_F(DescrmenuTest, DescribesTheSelectedElement)
 {
     config(KUL_KEEP, KUL_KEEP, KUL_KEEP);
-    EXPECT_EQ(menu().nX, 2);
-    EXPECT_EQ(menu().nY, 2);
     EXPECT_EQ(menu().nBarLength, 75);
     EXPECT_EQ(menu().nBoxWidth, 20);
     EXPECT_EQ(menu().nBoxHeight, 19);
-    EXPECT_EQ(menu().nColorDisable, RED_CYAN);
-}
-
-TEST_F(DescrmenuTest, DescribesTheSelectedElement)
-{
     config(20, 12, 5);
     add("Net", "all about host names");
     add("Off", "never seen", 0);
     add("Disk", nullptr);
-    press({'x'});
-    EXPECT_EQ(kultest::picture(window(1), 2, 1, 7, 22),
-              (Rows{" Net   Off   Disk     ", " ┌──────────┐         ", " │all       │         ",
-                    " │about     │         ", " │host      │         ", " │          │         ",
+    press({});
+    // clang-format off
+    EXPECT_EQ(shown(2, 1, 7, 22),
+              (Rows{" Net   Off   Disk     ",
+                    " ┌──────────┐         ",
+                    " │all       │         ",
+                    " │about     │         ",
+                    " │host      │         ",
+                    " │          │         ",
                     " └──────────┘         "}));
-    const std::vector<kultest::Legend> legend = {
-        {'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}, {'d', RED_CYAN}};
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 3, 22, legend),
+    // clang-format on
+    EXPECT_EQ(shades(2, 1, 3, 22),
               (Rows{".fff...ddd...uuuu.....", ".ffffffffffffffffffff.", ".ffffffffffff........."}));
     press({KS_LEFT}); // none is selected
-    EXPECT_EQ(kultest::picture(window(1), 4, 1, 1, 14), (Rows{" │          │ "}));
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 1, 22, legend), (Rows{".uuu...ddd...uuuu....."}));
+    EXPECT_EQ(shown(4, 1, 1, 14), (Rows{" │          │ "}));
+    EXPECT_EQ(shades(2, 1, 1, 22), (Rows{".uuu...ddd...uuuu....."}));
     press({KS_LEFT, KS_LEFT});
-    EXPECT_EQ(kultest::picture(window(1), 4, 1, 1, 14), (Rows{" │never     │ "}));
+    EXPECT_EQ(shown(4, 1, 1, 14), (Rows{" │never     │ "}));
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 3, 22, legend),
+    EXPECT_EQ(shades(2, 1, 3, 22),
               (Rows{".uuu...uuu...uuuu.....", ".uuuuuuuuuuuuuuuuuuuu.", ".uuuuuuuuuuuu........."}));
     kuldescrmenu_hide(1, kRef);
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 1, 22, legend), (Rows{std::string(22, '.')}));
+    EXPECT_EQ(shades(2, 1, 1, 22), (Rows{std::string(22, '.')}));
 }
 
 TEST_F(DescrmenuTest, DescribesElementsBeyondTheWindow)
@@ -90,20 +78,19 @@ TEST_F(DescrmenuTest, DescribesElementsBeyondTheWindow)
     config(20, 12, 3);
     for (int i = 0; i < 40; ++i)
         add("text", std::to_string(i).c_str());
-    const auto described = [] { return kultest::picture(window(1), 4, 3, 1, 4)[0]; };
     menu().nSelect = 20;
     press({KS_RIGHT});
-    EXPECT_EQ(described(), "21  ");
+    EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"21  "}));
     press({KS_RIGHT});
-    EXPECT_EQ(described(), "22  ");
+    EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"22  "}));
     for (int i = 0; i < 30; ++i)
         kuldescrmenu_remElement(1, kRef, 0);
     press({KS_LEFT}); // the count is not told, the list ends before
-    EXPECT_EQ(described(), "    ");
+    EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"    "}));
     menu().nSelect = 9;
     add("new", "here");
     press({KS_RIGHT});
-    EXPECT_EQ(described(), "here");
+    EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"here"}));
 }
 
 TEST_F(DescrmenuTest, AnySizeAndPlace)
@@ -117,11 +104,6 @@ TEST_F(DescrmenuTest, AnySizeAndPlace)
             EXPECT_EQ(menu().nSelect, 0);
         }
     }
-    EXPECT_EQ(ConfigDescrmenuComponent(nullptr, nullptr), -1);
-    EXPECT_EQ(WipeDescrmenuComponent(nullptr), 0);
-    EXPECT_EQ(WipeDescrmenuElements(nullptr), -1);
-    EXPECT_EQ(RemoveDescrmenuElement(nullptr), -1);
-    ShowDescrmenuComponent(nullptr, nullptr, 1);
 }
 
 } // namespace

@@ -3,81 +3,63 @@
 // What a dynamic menu shows; its keys are tested with those of the other menus.
 #include "support/window_test.hpp"
 
+#include <array>
 #include <climits>
 #include <clocale>
-#include <string>
 
 namespace {
 
-using kultest::Rows;
+using namespace kultest;
 
-constexpr int kRef = 5;
-const std::vector<kultest::Legend> kLegend = {
-    {'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}, {'d', RED_CYAN}};
-
-class DynmenuTest : public kultest::WindowTest {
+class DynmenuTest : public ComponentTest {
 protected:
     void SetUp() override
     {
-        WindowTest::SetUp();
-        makeDialog(1);
-        kulgui_show(1);
+        ComponentTest::SetUp();
         kuldynmenu_create(1, kRef);
     }
 
-    static int config(int nX, int nY, int nWidth, int nHeight)
-    {
-        return kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, nWidth, nHeight,
-                                 nullptr, nullptr, nullptr, nullptr);
-    }
+    static KULDYNMENU& menu() { return record<KULDYNMENU>(); }
 
-    static void add(const std::vector<const char*>& texts)
+    static void fill(int nX, int nY, int nWidth, int nHeight,
+                     const std::vector<const char*>& texts)
     {
+        kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, nWidth, nHeight, nullptr,
+                          nullptr, nullptr, nullptr);
         for (const char* szText : texts)
             EXPECT_EQ(kuldynmenu_addElement(1, kRef, szText, nullptr, nullptr, 1), 0);
     }
 
-    static KULDYNMENU& menu()
-    {
-        return *static_cast<KULDYNMENU*>(GetUIComponentByRef(1, kRef)->Pointer);
-    }
-
     static void press(const std::vector<int>& keys)
     {
-        kultest::typeKeys(keys);
+        typeKeys(keys);
         EXPECT_EQ(kuldynmenu_execKeys(1, kRef), KUL_LEFT);
     }
 
     // What stands in the rows inside of the frame.
     static Rows inside()
     {
-        return kultest::picture(window(1), menu().nY + 1, menu().nX + 1, menu().nHeight,
-                                menu().nWidth);
+        return shown(menu().nY + 1, menu().nX + 1, menu().nHeight, menu().nWidth);
     }
 };
 
 TEST_F(DynmenuTest, ShowsItsElementsInAFrame)
 {
-    config(2, 1, 6, 4);
-    add({"one", "seventeen", "no"});
+    fill(2, 1, 6, 4, {"one", "seventeen", "no"});
     kuldynmenu_getElement(1, kRef, 2)->nEnable = 0;
     EXPECT_EQ(menu().nMaxLength, 9);
-    press({'x'});
-    EXPECT_EQ(
-        kultest::picture(window(1), 1, 1, 6, 10),
-        (Rows{" ┌──────┐ ", " │one   │ ", " │sevent│ ", " │no    │ ", " │      │ ", " └──────┘ "}));
-    EXPECT_EQ(
-        kultest::colors(window(1), 1, 1, 6, 10, kLegend),
-        (Rows{".ffffffff.", ".ffffffff.", ".fuuuuuuf.", ".fddddddf.", ".ffffffff.", ".ffffffff."}));
+    press({});
+    // clang-format off
+    EXPECT_EQ(shown(1, 1, 6, 10), (Rows{" ┌──────┐ ", " │one   │ ", " │sevent│ ", " │no    │ ", " │      │ ", " └──────┘ "}));
+    EXPECT_EQ(shades(1, 1, 6, 10), (Rows{".ffffffff.", ".ffffffff.", ".fuuuuuuf.", ".fddddddf.", ".ffffffff.", ".ffffffff."}));
+    // clang-format on
     press({KS_UP}); // none is selected
-    EXPECT_EQ(kultest::colors(window(1), 2, 2, 3, 8, kLegend),
-              (Rows{"fuuuuuuf", "fuuuuuuf", "fddddddf"}));
+    EXPECT_EQ(shades(2, 2, 3, 8), (Rows{"fuuuuuuf", "fuuuuuuf", "fddddddf"}));
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 2, 3, 8, kLegend),
-              (Rows{"uuuuuuuu", "uuuuuuuu", "uuuuuuuu"}));
+    EXPECT_EQ(shades(2, 2, 3, 8), (Rows{"uuuuuuuu", "uuuuuuuu", "uuuuuuuu"}));
     kuldynmenu_hide(1, kRef);
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 2, 1, 8, kLegend), (Rows{"........"}));
+    EXPECT_EQ(shades(2, 2, 1, 8), (Rows{"........"}));
 }
 
 TEST_F(DynmenuTest, ScrollsWithTheSelection)
@@ -87,8 +69,8 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
         Rows shown;
         int nSelect;
     };
+    // clang-format off
     const Row rows[] = {
-        {{'x'}, {"a", "b", "c"}, 0},
         {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2},
         {{KS_DOWN}, {"b", "c", "d"}, 3},
         {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
@@ -98,8 +80,8 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
         {{KS_UP, KS_UP}, {"c", "d", "e"}, 4},
         {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
     };
-    config(2, 1, 1, 3);
-    add({"a", "b", "c", "d", "e"});
+    // clang-format on
+    fill(2, 1, 1, 3, {"a", "b", "c", "d", "e"});
     for (const Row& row : rows) {
         press(row.keys);
         EXPECT_EQ(menu().nSelect, row.nSelect);
@@ -108,111 +90,105 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
     // Without the last two the view is moved up to fill the box, and stays inside of the list.
     kuldynmenu_remElement(1, kRef, 0);
     kuldynmenu_remElement(1, kRef, 0);
-    EXPECT_EQ(menu().nElements, 5);
-    press({'x'});
-    EXPECT_EQ(inside(), (Rows{"a", "b", "c"}));
-    for (const int nSelect : {INT_MAX, INT_MIN, -1, 3}) {
+    for (const int nSelect : {5, INT_MAX, INT_MIN, -1, 3}) {
         menu().nSelect = nSelect;
-        press({'x'});
+        press({});
         EXPECT_EQ(inside(), (Rows{"a", "b", "c"})) << nSelect;
     }
 }
 
 TEST_F(DynmenuTest, ScrollBarAppearsWhenTheListIsLonger)
 {
-    config(0, 0, 3, 5);
-    add({"1", "2", "3", "4", "5"});
-    press({'x'});
-    EXPECT_EQ(kultest::picture(window(1), 0, 4, 7, 1), (Rows{"┐", "│", "│", "│", "│", "│", "┘"}));
-    add({"6", "7", "8", "9", "10", "11", "12", "13", "14"});
-    press({'x'});
-    EXPECT_EQ(kultest::picture(window(1), 0, 4, 7, 1), (Rows{" ", " ", " ", "│", "│", "│", "┴"}));
-    EXPECT_EQ(kultest::colors(window(1), 0, 4, 7, 1, kLegend),
-              (Rows{"F", "F", "F", "f", "f", "f", "f"}));
+    fill(0, 0, 3, 5, {"1", "2", "3", "4", "5"});
+    press({});
+    EXPECT_EQ(shown(0, 4, 7, 1), (Rows{"┐", "│", "│", "│", "│", "│", "┘"}));
+    fill(0, 0, 3, 5, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "a", "b", "c", "d", "e"});
+    press({});
+    EXPECT_EQ(shown(0, 4, 7, 1), (Rows{" ", " ", " ", "│", "│", "│", "┴"}));
+    EXPECT_EQ(shades(0, 4, 7, 1), (Rows{"F", "F", "F", "f", "f", "f", "f"}));
 }
 
 TEST_F(DynmenuTest, KeepsInsideOfItsFrame)
 {
+    // clang-format off
     const struct {
         const char* szText;
         const char* shown;
     } rows[] = {
         {"a\nb\tc\001d", "a b c d   "},
         {nullptr, "          "},
-        {"\x7f"
-         "del",
-         " del      "},
+        {"\177del", " del      "},
         {"123456789\x01", "123456789 "},
-        {"123456789\x80!", "123456789 "},
+        {"123456789\x80!", "123456789?"},
         {"much longer than it", "much longe"},
     };
-    config(5, 1, 10, 1);
+    // clang-format on
     for (const auto& row : rows) {
-        config(5, 1, 10, 1);
-        kuldynmenu_addElement(1, kRef, row.szText, nullptr, nullptr, 1);
-        press({'x'});
-        EXPECT_EQ(kultest::picture(window(1), 2, 4, 1, 14),
-                  (Rows{" │" + std::string(row.shown) + "│ "}));
+        fill(5, 1, 10, 1, {row.szText});
+        press({});
+        EXPECT_EQ(shown(2, 4, 1, 14), (Rows{" │" + std::string(row.shown) + "│ "}));
     }
+    fill(35, 1, 20, 2, {"abcdefgh", "ijklmnop"}); // the window ends first
+    press({});
+    EXPECT_EQ(shown(2, 34, 2, 6), (Rows{" │abcd", " │ijkl"}));
+    EXPECT_EQ(shown(2, 0, 3, 6), (Rows{"│     ", "│     ", "│     "}));
 }
 
 TEST_F(DynmenuTest, CutsByColumnsWhereTheLocaleHasWideCharacters)
 {
-    const char* before = std::setlocale(LC_CTYPE, "C.UTF-8");
-    config(5, 1, 3, 3);
-    add({"\u00e9\u00e9\u00e9\u00e9", "a\u4e2d\u4e2d", "ab\u4e2d"});
-    press({'x'});
-    const auto code = [](int nRow, int nColumn) {
-        cchar_t cell;
-        wchar_t text[CCHARW_MAX + 1] = L"";
-        attr_t attributes;
-        short nPair;
-        mvwin_wch(window(1), 2 + nRow, 6 + nColumn, &cell);
-        getcchar(&cell, text, &attributes, &nPair, nullptr);
-        return static_cast<unsigned>(text[0]);
+    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
+    const struct {
+        const char* szText;
+        std::wstring shown; // with the frame: x
+    } rows[] = {
+        {"\u00e9\u00e9\u00e9\u00e9", L"x\u00e9\u00e9\u00e9x"},
+        {"a\u4e2d\u4e2d", L"xa\u4e2d\u4e2dx"},
+        {"ab\u4e2d", L"xab x"},
+        {"\u0301a", L"xa  x"}, // the accent is not the frame's
+        {"\xc2\u4e2d\xe4", L"x?\u4e2d\u4e2dx"},
+        {"ab\xc2", L"xab?x"},
     };
+    std::vector<const char*> texts;
+    for (const auto& row : rows)
+        texts.push_back(row.szText);
+    fill(5, 1, 3, 6, texts);
+    press({});
     std::setlocale(LC_CTYPE, "C");
-    ASSERT_NE(before, nullptr);
-    EXPECT_EQ(code(0, 2), 0xe9U);
-    EXPECT_EQ(code(1, 1), 0x4e2dU);
-    EXPECT_EQ(code(2, 1), 'b');
-    EXPECT_EQ(code(2, 2), ' ');
-    for (const int nRow : {0, 1, 2})
-        EXPECT_EQ(code(nRow, 3), 'x') << "the frame";
+    for (int y = 2; const auto& row : rows) {
+        std::wstring cells;
+        for (int x = 5; x < 10; ++x) {
+            cchar_t cell;
+            wchar_t text[CCHARW_MAX + 1] = L"";
+            attr_t attributes;
+            short nPair;
+            mvwin_wch(window(1), y, x, &cell);
+            getcchar(&cell, text, &attributes, &nPair, nullptr);
+            cells += text;
+        }
+        EXPECT_EQ(cells, row.shown) << row.szText;
+        ++y;
+    }
 }
 
 TEST_F(DynmenuTest, AnySizeAndPlace)
 {
-    kulgui_show(1);
-    const Rows before = kultest::picture(window(1), 0, 0, 14, 40);
+    const std::vector<const char*> texts(16, "text");
+    const Rows before = shown(0, 0, 14, 40);
     for (const auto& [nWidth, nHeight] :
          std::initializer_list<std::pair<int, int>>{{0, 3}, {3, 0}, {-1, 3}, {3, INT_MIN}}) {
-        config(2, 2, nWidth, nHeight);
-        add({"a", "b", "c", "d"});
+        fill(2, 2, nWidth, nHeight, texts);
         press({KS_DOWN});
-        EXPECT_EQ(kultest::picture(window(1), 0, 0, 14, 40), before);
+        EXPECT_EQ(shown(0, 0, 14, 40), before);
     }
-    for (const auto& [nX, nY, nWidth, nHeight] :
-         std::initializer_list<std::array<int, 4>>{{0, 0, INT_MAX, INT_MAX},
-                                                   {INT_MAX, INT_MAX, 3, 3},
-                                                   {INT_MIN, INT_MIN, INT_MAX, 9},
-                                                   {-3, -1, 5, 3},
-                                                   {36, 11, 9, 9},
-                                                   {39, 13, 1, 1}}) {
-        config(nX, nY, nWidth, nHeight);
-        add({"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k", "l", "m", "n", "o", "p"});
+    // clang-format off
+    for (const auto& [nX, nY, nWidth, nHeight] : std::initializer_list<std::array<int, 4>>{
+             {0, 0, INT_MAX, INT_MAX}, {INT_MAX, INT_MAX, 3, 3}, {INT_MIN, INT_MIN, INT_MAX, 9},
+             {-3, -1, 5, 3}, {36, 11, 9, 9}, {39, 13, 1, 1}}) {
+        // clang-format on
+        fill(nX, nY, nWidth, nHeight, texts);
         press({KS_UP, KS_UP, KS_DOWN, KS_DOWN, KS_DOWN});
         EXPECT_EQ(menu().nSelect, 1);
     }
-}
-
-TEST_F(DynmenuTest, EndsAtTheEdgeOfTheWindow)
-{
-    config(35, 1, 20, 2);
-    add({"abcdefgh", "ijklmnop"});
-    press({'x'});
-    EXPECT_EQ(kultest::picture(window(1), 2, 34, 2, 6), (Rows{" │abcd", " │ijkl"}));
-    EXPECT_EQ(kultest::picture(window(1), 2, 0, 3, 6), (Rows{"│     ", "│     ", "│     "}));
 }
 
 // The exported calls take a program's own record too.
@@ -226,10 +202,8 @@ TEST_F(DynmenuTest, DrawsARecordOfTheProgram)
     AddMenuElement(own.Element, 1, "b", nullptr, nullptr);
     own.nSelect = 1;
     ShowDynmenuComponent(gui, &own, 1);
-    EXPECT_EQ(kultest::picture(window(1), 0, 0, 3, 3), (Rows{"┌─┐", "│b│", "└─┘"}));
+    EXPECT_EQ(shown(0, 0, 3, 3), (Rows{"┌─┐", "│b│", "└─┘"}));
     WipeMenuElements(own.Element);
-    ShowDynmenuComponent(nullptr, nullptr, 1);
-    EXPECT_EQ(WipeDynmenuComponent(nullptr), 0);
 }
 
 } // namespace

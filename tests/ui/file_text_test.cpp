@@ -212,7 +212,7 @@ TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
 TEST(FileTextTest, FindsTextAcrossTheBuffersItReads)
 {
     constexpr std::size_t kBuffer = 128 * 1024;
-    for (const std::size_t nSize : {1, 2, 16, 17, 4096, 9000}) {
+    for (const std::size_t nSize : {1U, 2U, 16U, 17U, 4096U, 9000U}) {
         for (const std::size_t nBefore : {std::size_t{0}, std::size_t{1}, nSize - 1, nSize}) {
             std::string bytes(2 * kBuffer + 100, '\n');
             const std::string wanted = std::string(nSize - 1, 'a') + 'b';

@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: MIT
 //
-// Menus, and what all three kinds of menus and their element lists have in common.
+// Menus, what all three kinds of menus have in common, and their and the toolbar's element lists.
 #include "support/window_test.hpp"
 
 #include <climits>
 #include <malloc.h>
-#include <string>
 
 namespace {
 
-using kultest::Rows;
+using namespace kultest;
 
-constexpr int kRef = 5;
+constexpr int kKeep = KUL_KEEP;
 constexpr int kMany = 10000;
-
-std::string events;
-
-void note(const char* event)
-{
-    events += event + std::to_string(GetCurrentSelectedMenuElement()) + ' ';
-}
 
 void onFocus()
 {
@@ -29,48 +21,33 @@ void onUnfocus()
 {
     note("unfocus");
 }
-void onSelect()
-{
-    note("select");
-}
 void onClick()
 {
     note("click");
 }
-void onElement()
+void never()
 {
-    note("element");
+    note("never");
 }
 
-int addEntry(const char* szText, int nEnable = 1)
-{
-    return kulmenu_addElement(1, kRef, szText, nEnable, onElement, onElement);
-}
-
-// What a test needs of each kind of menu.
 struct Kind {
     const char* name;
     int nType;
     int nTaken;
+    int nForeign; // what execKeys gives for no component of the kind
     int nBack;
     int nForward;
     bool obeysControls;
     bool counts; // removal changes the count and the selection
     int (*create)(int, int);
-    int (*config)(KULCALLBACK onClick);
-    int (*add)(const char*);
     int (*remove)(int, int, int);
-    std::string (*get)(int, int); // the text, or "null"
     int (*execKeys)(int, int);
+    int (*config)(int nRef, KULCALLBACK onClick);
+    int (*add)(int nRef, const char*);
+    std::string (*get)(int, int); // the text, or "null"
     int& (*select)();
     int& (*count)();
 };
-
-template <typename Record>
-Record& record()
-{
-    return *static_cast<Record*>(GetUIComponentByRef(1, kRef)->Pointer);
-}
 
 template <typename Element>
 std::string textOf(const Element* element)
@@ -78,117 +55,93 @@ std::string textOf(const Element* element)
     return element ? element->szText : "null";
 }
 
+// clang-format off
 const Kind kKinds[] = {
-    {"menu", MENU, -10018, KS_LEFT, KS_RIGHT, true, true, kulmenu_create,
-     [](KULCALLBACK click) {
-         return kulmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, onFocus, onUnfocus, onSelect,
-                               click);
-     },
-     [](const char* szText) { return addEntry(szText); }, kulmenu_remElement,
+    {"menu", MENU, -10018, 10, KS_LEFT, KS_RIGHT, true, true,
+     kulmenu_create, kulmenu_remElement, kulmenu_execKeys,
+     [](int nRef, KULCALLBACK click) { return kulmenu_config(1, nRef, kKeep, kKeep, kKeep, onFocus, onUnfocus, never, click); },
+     [](int nRef, const char* szText) { return kulmenu_addElement(1, nRef, szText, 1, never, never); },
      [](int nRef, int nElement) { return textOf(kulmenu_getElement(1, nRef, nElement)); },
-     kulmenu_execKeys, []() -> int& { return record<KULMENU>().nSelect; },
-     []() -> int& { return record<KULMENU>().nElements; }},
-    {"dynamic menu", DYNMENU, -10021, KS_UP, KS_DOWN, true, false, kuldynmenu_create,
-     [](KULCALLBACK click) {
-         return kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 10, 4, onFocus,
-                                  onUnfocus, onSelect, click);
-     },
-     [](const char* szText) {
-         return kuldynmenu_addElement(1, kRef, szText, onElement, onElement, 1);
-     },
-     kuldynmenu_remElement,
+     []() -> int& { return record<KULMENU>().nSelect; }, []() -> int& { return record<KULMENU>().nElements; }},
+    {"dynamic menu", DYNMENU, -10021, 10, KS_UP, KS_DOWN, true, false,
+     kuldynmenu_create, kuldynmenu_remElement, kuldynmenu_execKeys,
+     [](int nRef, KULCALLBACK click) { return kuldynmenu_config(1, nRef, kKeep, kKeep, kKeep, 1, 1, 10, 4, onFocus, onUnfocus, never, click); },
+     [](int nRef, const char* szText) { return kuldynmenu_addElement(1, nRef, szText, never, never, 1); },
      [](int nRef, int nElement) { return textOf(kuldynmenu_getElement(1, nRef, nElement)); },
-     kuldynmenu_execKeys, []() -> int& { return record<KULDYNMENU>().nSelect; },
-     []() -> int& { return record<KULDYNMENU>().nElements; }},
-    {"description menu", DESCRMENU, -10020, KS_LEFT, KS_RIGHT, false, false, kuldescrmenu_create,
-     [](KULCALLBACK click) {
-         return kuldescrmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, KUL_KEEP, KUL_KEEP,
-                                    8, onFocus, onUnfocus, onSelect, click);
-     },
-     [](const char* szText) {
-         return kuldescrmenu_addElement(1, kRef, 1, szText, szText, onElement, onElement);
-     },
-     kuldescrmenu_remElement,
+     []() -> int& { return record<KULDYNMENU>().nSelect; }, []() -> int& { return record<KULDYNMENU>().nElements; }},
+    {"description menu", DESCRMENU, -10020, 10, KS_LEFT, KS_RIGHT, false, false,
+     kuldescrmenu_create, kuldescrmenu_remElement, kuldescrmenu_execKeys,
+     [](int nRef, KULCALLBACK click) { return kuldescrmenu_config(1, nRef, kKeep, kKeep, kKeep, 0, 0, kKeep, kKeep, 8, onFocus, onUnfocus, never, click); },
+     [](int nRef, const char* szText) { return kuldescrmenu_addElement(1, nRef, 1, szText, szText, never, never); },
      [](int nRef, int nElement) { return textOf(kuldescrmenu_getElement(1, nRef, nElement)); },
-     kuldescrmenu_execKeys, []() -> int& { return record<KULDESCRMENU>().nSelect; },
-     []() -> int& { return record<KULDESCRMENU>().nElements; }},
+     []() -> int& { return record<KULDESCRMENU>().nSelect; }, []() -> int& { return record<KULDESCRMENU>().nElements; }},
+    {"toolbar", TOOLBAR, -10027, -1, KS_LEFT, KS_RIGHT, false, true,
+     kultoolbar_create, kultoolbar_remButton, kultoolbar_execKeys,
+     [](int nRef, KULCALLBACK click) { return kultoolbar_config(1, nRef, kKeep, kKeep, kKeep, 2, 2, LATERAL, onFocus, onUnfocus, never, click); },
+     [](int nRef, const char* szText) { return kultoolbar_addButton(1, nRef, szText, 3, 1, never, nullptr); },
+     [](int nRef, int nElement) { return textOf(kultoolbar_getButton(1, nRef, nElement)); },
+     []() -> int& { return record<KULTOOLBAR>().nSelect; }, []() -> int& { return record<KULTOOLBAR>().nButtons; }},
 };
+// clang-format on
 
 const Kind* now = nullptr; // the kind that callbacks act on
 
-class MenuTest : public kultest::WindowTest {
+class MenuTest : public ComponentTest {
 protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        events.clear();
-        makeDialog(1);
-        kulgui_show(1);
-    }
-
-    // Runs a test for each kind of menu, each in a dialog of its own.
+    // Runs a test for each kind, each in a dialog of its own.
     template <typename Test>
     void forEachKind(Test test)
     {
         for (const Kind& kind : kKinds) {
             SCOPED_TRACE(kind.name);
-            kulgui_destroy(1);
-            makeDialog(1);
-            kulgui_show(1);
-            events.clear();
+            renew();
             now = &kind;
             ASSERT_EQ(kind.create(1, kRef), 0);
-            ASSERT_EQ(kind.config(onClick), 0);
+            ASSERT_EQ(kind.config(kRef, onClick), 0);
             test(kind);
         }
+    }
+
+    template <typename Test>
+    void forEachMenu(Test test)
+    {
+        forEachKind([&](const Kind& kind) {
+            if (kind.nType != TOOLBAR)
+                test(kind);
+        });
     }
 
     static void addMany(int nCount)
     {
         for (int i = 0; i < nCount; ++i)
-            ASSERT_EQ(now->add(("e" + std::to_string(i)).c_str()), 0);
+            ASSERT_EQ(now->add(kRef, ("e" + std::to_string(i)).c_str()), 0);
     }
 };
 
 TEST_F(MenuTest, DrawsTextsSideBySide)
 {
-    const std::vector<kultest::Legend> legend = {
-        {'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}, {'d', RED_CYAN}};
     kulmenu_create(1, kRef);
-    kulmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
-    addEntry("File");
-    addEntry("Edit", 0);
-    addEntry("");
-    addEntry(nullptr);
-    addEntry("Go");
-    kultest::typeKeys({'x'});
+    kulmenu_config(1, kRef, kKeep, kKeep, kKeep, nullptr, nullptr, nullptr, nullptr);
+    for (const char* szText : {"File", "Edit", "", static_cast<const char*>(nullptr), "Go"})
+        kulmenu_addElement(1, kRef, szText, 1, nullptr, nullptr);
+    kulmenu_getElement(1, kRef, 1)->nEnable = 0;
     kulmenu_execKeys(1, kRef);
-    EXPECT_EQ(kultest::picture(window(1), 2, 0, 1, 30), (Rows{"│ File   Edit         Go      "}));
-    EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 30, legend),
-              (Rows{"..ffff...dddd.........uu......"}));
+    EXPECT_EQ(shown(2, 0, 1, 30), (Rows{"│ File   Edit         Go      "}));
+    EXPECT_EQ(shades(2, 0, 1, 30), (Rows{"..ffff...dddd.........uu......"}));
     record<KULMENU>().nSelect = 1;
     kulmenu_execKeys(1, kRef);
-    EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 30, legend),
-              (Rows{"..uuuu...ffff.........uu......"}));
+    EXPECT_EQ(shades(2, 0, 1, 30), (Rows{"..uuuu...ffff.........uu......"}));
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 30, legend),
-              (Rows{"..uuuu...uuuu.........uu......"}));
+    EXPECT_EQ(shades(2, 0, 1, 30), (Rows{"..uuuu...uuuu.........uu......"}));
     kulmenu_hide(1, kRef);
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 30, legend), (Rows{std::string(30, '.')}));
-}
-
-TEST_F(MenuTest, GoesOnInTheNextRowAtTheEdge)
-{
-    kulmenu_create(1, kRef);
-    kulmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
-    addEntry("123456789 123456789 123456789 123");
-    addEntry("abcdef");
-    addEntry("beyond");
+    EXPECT_EQ(shades(2, 0, 1, 30), (Rows{std::string(30, '.')}));
+    kulmenu_show(1, kRef);
+    for (const char* szText : {"a long one, up to the ed", "beyond"})
+        kulmenu_addElement(1, kRef, szText, 1, nullptr, nullptr);
     kulgui_show(1);
-    EXPECT_EQ(kultest::picture(window(1), 2, 0, 2, 40),
-              (Rows{"│ 123456789 123456789 123456789 123   ab",
-                    "cdef                                   │"}));
+    EXPECT_EQ(shown(2, 20, 2, 20), (Rows{"  Go   a long one, u", "                   │"}));
+    EXPECT_EQ(shown(3, 0, 1, 20), (Rows{"p to the ed         "})) << "goes on in the next row";
 }
 
 TEST_F(MenuTest, KeysGoRoundTheElementsAndOnePlaceMore)
@@ -196,165 +149,75 @@ TEST_F(MenuTest, KeysGoRoundTheElementsAndOnePlaceMore)
     struct Row {
         int nElements;
         int nStart;
-        std::string keys; // b: back, f: forward, others as they are
+        const char* keys; // b: back, f: forward, e: Enter, others as they are
         int nSelect;
+        const char* clicks;
     };
+    // clang-format off
     const Row rows[] = {
-        {3, 0, "b", 3},
-        {3, 0, "bb", 2},
-        {3, 3, "f", 0},
-        {3, 1, "ffff", 1},
-        {3, 1, "x\t\033q", 1},
-        {0, 0, "bfbfb", 0},
-        {1, 0, "ff", 0},
-        {2, -1, "b", -2},
-        {2, -1, "f", 0},
-        {2, INT_MIN, "b", INT_MIN},
-        {2, INT_MAX, "f", INT_MAX},
-        {40, 31, "fff", 34},
+        {3, 0, "eb", 3, "click0 "},
+        {3, 0, "bbe", 2, "click2 "},
+        {3, 3, "f", 0, ""},
+        {3, 1, "ffefxef", 1, "click3 click0 "},
+        {3, 1, "x\t\033q", 1, ""},
+        {0, 0, "bfbfbe", 0, "click0 "},
+        {2, -1, "b", -2, ""},
+        {2, INT_MIN, "b", INT_MIN, ""},
+        {2, INT_MAX, "f", INT_MAX, ""},
+        {40, 31, "fff", 34, ""},
     };
-    forEachKind([&](const Kind& kind) {
-        int nHave = 0;
+    // clang-format on
+    forEachMenu([&](const Kind& kind) {
         for (const Row& row : rows) {
-            SCOPED_TRACE(row.keys + ' ' + std::to_string(row.nStart));
-            kind.config(onClick);
-            nHave = row.nElements;
-            addMany(nHave);
+            SCOPED_TRACE(std::string(row.keys) + ' ' + std::to_string(row.nStart));
+            kind.config(kRef, onClick);
+            addMany(row.nElements);
             kind.select() = row.nStart;
+            events.clear();
             std::vector<int> keys;
-            for (const char key : row.keys)
-                keys.push_back(key == 'b' ? kind.nBack : key == 'f' ? kind.nForward : key);
-            kultest::typeKeys(keys);
+            for (const char key : std::string(row.keys))
+                keys.push_back(key == 'b'   ? kind.nBack
+                               : key == 'f' ? kind.nForward
+                               : key == 'e' ? KS_ENTER
+                                            : key);
+            typeKeys(keys);
             EXPECT_EQ(kind.execKeys(1, kRef), KUL_LEFT);
             EXPECT_EQ(kind.select(), row.nSelect);
-            EXPECT_EQ(GetCurrentSelection()->nSelect, row.nSelect);
-            EXPECT_EQ(GetCurrentSelection()->nType, kind.nType);
+            EXPECT_EQ(GetCurrentSelectedMenuElement(), row.nSelect);
+            EXPECT_EQ(GetCurrentComponentType(), kind.nType);
+            EXPECT_EQ(events, "focus" + std::to_string(row.nStart) + ' ' + row.clicks + "unfocus" +
+                                  std::to_string(row.nSelect) + ' ');
         }
     });
 }
 
-TEST_F(MenuTest, RunsItsCallbacksAndNoneOfTheElements)
-{
-    forEachKind([&](const Kind& kind) {
-        addMany(2);
-        kind.select() = 0;
-        kultest::typeKeys({KS_ENTER, kind.nForward, 'x', KS_ENTER, kind.nBack, kind.nBack});
-        EXPECT_EQ(kind.execKeys(1, kRef), KUL_LEFT);
-        EXPECT_EQ(events, "focus0 click0 click1 unfocus2 ");
-    });
-}
-
-TEST_F(MenuTest, ObeysTheNavigationFlags)
+TEST_F(MenuTest, ObeysNavigationFlagsTabbingAndVisibility)
 {
     const KULCALLBACK exitGui = [] {
         const CONTROL exit{F, F, T, F};
         SetControls(&exit);
     };
     const CONTROL clear{F, F, F, F};
-    forEachKind([&](const Kind& kind) {
+    forEachMenu([&](const Kind& kind) {
         addMany(3);
         const int nLeft = kind.obeysControls ? 10 : KUL_LEFT;
-        const int nSelect = kind.obeysControls ? 0 : 1;
         kind.select() = 0;
-        kultest::typeKeys({-2, kind.nForward}, {exitGui});
+        typeKeys({-2, kind.nForward}, {exitGui});
         EXPECT_EQ(kind.execKeys(1, kRef), nLeft);
-        EXPECT_EQ(kind.select(), nSelect);
-        EXPECT_EQ(events, "focus0 unfocus" + std::to_string(nSelect) + ' ');
+        EXPECT_EQ(events, kind.obeysControls ? "focus0 unfocus0 " : "focus0 unfocus1 ");
         SetControls(&clear);
-        kind.config(exitGui);
-        kultest::typeKeys({KS_ENTER, 'x'});
+        kind.config(kRef, exitGui);
+        typeKeys({KS_ENTER, 'x'});
         EXPECT_EQ(kind.execKeys(1, kRef), nLeft);
         SetControls(&clear);
-    });
-}
-
-TEST_F(MenuTest, TabbingLeavesOnlyWhereAsked)
-{
-    forEachKind([&](const Kind& kind) {
         kulgui_setTabbing(1, T);
-        kultest::typeKeys({KS_TAB});
+        typeKeys({KS_TAB});
         EXPECT_EQ(kind.execKeys(1, kRef), 10);
-        kultest::typeKeys({KS_ESC});
+        typeKeys({KS_ESC});
         EXPECT_EQ(kind.execKeys(1, kRef), -10);
-    });
-}
-
-TEST_F(MenuTest, RunsHiddenOrNot)
-{
-    forEachKind([&](const Kind& kind) {
-        addMany(2);
-        kind.select() = 0;
         SetUIVisibility(1, kRef, F);
-        kultest::typeKeys({kind.nForward});
         EXPECT_EQ(kind.execKeys(1, kRef), kind.nType == MENU ? 10 : KUL_LEFT);
-        EXPECT_EQ(kind.select(), kind.nType == MENU ? 0 : 1);
     });
-}
-
-TEST_F(MenuTest, RemovesTheLastWhateverIsNamed)
-{
-    forEachKind([&](const Kind& kind) {
-        addMany(3);
-        kind.select() = 3;
-        EXPECT_EQ(kind.remove(1, kRef, 0), 0);
-        EXPECT_EQ(kind.get(kRef, 1), "e1");
-        EXPECT_EQ(kind.get(kRef, 2), "null");
-        EXPECT_EQ(kind.count(), kind.counts ? 2 : 3);
-        EXPECT_EQ(kind.select(), kind.counts ? 2 : 3);
-        EXPECT_EQ(kind.remove(1, kRef, -7), 0);
-        EXPECT_EQ(kind.remove(1, kRef, 99), 1);
-        EXPECT_EQ(kind.get(kRef, 0), "null");
-        EXPECT_EQ(kind.remove(1, kRef, 0), -1);
-        EXPECT_EQ(kind.count(), kind.counts ? 0 : 3);
-        EXPECT_EQ(kind.add("again"), 0);
-        EXPECT_EQ(kind.add("and again"), 0);
-        EXPECT_EQ(kind.get(kRef, 0), "again");
-        EXPECT_EQ(kind.remove(1, kRef, 0), 0);
-        EXPECT_EQ(kind.get(kRef, 1), "null");
-        // The count of the two other kinds is too high now: nothing behind the list is read.
-        kultest::typeKeys({kind.nBack, kind.nBack, kind.nBack, kind.nBack, kind.nBack});
-        EXPECT_EQ(kind.execKeys(1, kRef), KUL_LEFT);
-    });
-}
-
-TEST_F(MenuTest, LooksUpThirtyStepsAtMost)
-{
-    forEachKind([&](const Kind& kind) {
-        EXPECT_EQ(kind.get(kRef, 0), "null");
-        addMany(3);
-        EXPECT_EQ(kind.get(kRef, 0), "e0");
-        EXPECT_EQ(kind.get(kRef, 2), "e2");
-        for (const int nNone : {3, 30, 31, -1, INT_MAX, INT_MIN})
-            EXPECT_EQ(kind.get(kRef, nNone), "null");
-        kind.config(onClick);
-        addMany(40);
-        EXPECT_EQ(kind.get(kRef, 29), "e29");
-        for (const int nCapped : {30, 31, 39, 45, -1, INT_MAX, INT_MIN})
-            EXPECT_EQ(kind.get(kRef, nCapped), "e30");
-    });
-}
-
-TEST_F(MenuTest, RefusesUnknownAndForeignComponents)
-{
-    forEachKind([&](const Kind& kind) {
-        EXPECT_EQ(kind.create(1, kRef), kind.nTaken);
-        EXPECT_EQ(kind.create(9, 1), -10009);
-        kulbutton_create(1, kRef + 1);
-        for (const int nRef : {kRef + 1, kRef + 2, -1, INT_MAX}) {
-            EXPECT_EQ(kind.get(nRef, 0), "null");
-            EXPECT_EQ(kind.remove(1, nRef, 0), -1);
-            EXPECT_EQ(kind.execKeys(1, nRef), 10);
-        }
-        EXPECT_EQ(kind.execKeys(77, kRef), 10);
-        EXPECT_EQ(events, "");
-    });
-    EXPECT_EQ(kulmenu_config(1, 99, 0, 0, 0, nullptr, nullptr, nullptr, nullptr), -1);
-    EXPECT_EQ(kulmenu_addElement(1, 99, "x", 1, nullptr, nullptr), -1);
-    EXPECT_EQ(ConfigMenuComponent(nullptr, nullptr), -1);
-    EXPECT_EQ(WipeMenuComponent(nullptr), 0);
-    EXPECT_EQ(WipeMenuElements(nullptr), -1);
-    EXPECT_EQ(RemoveMenuElement(nullptr), -1);
-    ShowMenuComponent(nullptr, nullptr, 1);
 }
 
 TEST_F(MenuTest, CallbacksMayTakeAwayWhatRuns)
@@ -363,105 +226,146 @@ TEST_F(MenuTest, CallbacksMayTakeAwayWhatRuns)
         const char* name;
         KULCALLBACK act;
         int nResult;
-        bool unfocused;
     };
+    const auto removeAll = [] {
+        while (now->remove(1, kRef, 0) == 0) {
+        }
+    };
+    const auto exchangeLast = [] {
+        now->remove(1, kRef, 0);
+        now->add(kRef, "new");
+    };
+    // clang-format off
     const Row rows[] = {
-        {"remove all",
-         [] {
-             while (now->remove(1, kRef, 0) == 0) {
-             }
-         },
-         KUL_LEFT, true},
-        {"remove, add",
-         [] {
-             now->remove(1, kRef, 0);
-             now->add("new");
-         },
-         KUL_LEFT, true},
-        {"configure", [] { now->config(nullptr); }, KUL_LEFT, true},
-        {"hide", [] { SetUIVisibility(1, kRef, F); }, KUL_LEFT, true},
-        {"hide the dialog", [] { kulgui_hide(1); }, KUL_LEFT, true},
-        {"focus", [] { kulgui_setFocus(1, kRef); }, 0, true},
-        {"leave", [] { kulgui_leave(1); }, KUL_LEFT, true},
-        {"destroy the dialog", [] { kulgui_destroy(1); }, -10000, false},
+        {"remove all", removeAll, KUL_LEFT},
+        {"remove, add", exchangeLast, KUL_LEFT},
+        {"configure", [] { now->config(kRef, nullptr); }, KUL_LEFT},
+        {"hide", [] { SetUIVisibility(1, kRef, F); }, KUL_LEFT},
+        {"hide the dialog", [] { kulgui_hide(1); }, KUL_LEFT},
+        {"focus", [] { kulgui_setFocus(1, kRef); }, 0},
+        {"destroy the dialog", [] { kulgui_destroy(1); }, -10000},
     };
+    // clang-format on
     for (const Row& row : rows) {
-        forEachKind([&](const Kind& kind) {
+        forEachMenu([&](const Kind& kind) {
             SCOPED_TRACE(row.name);
-            kind.config(row.act);
+            kind.config(kRef, row.act);
             addMany(6);
             kind.select() = 5;
-            kultest::typeKeys({KS_ENTER, kind.nForward, kind.nBack, kind.nBack, KS_ENTER, 0});
+            typeKeys({KS_ENTER, kind.nForward, kind.nBack, kind.nBack, KS_ENTER, 0});
             EXPECT_EQ(kind.execKeys(1, kRef), row.nResult);
-            EXPECT_EQ(events.find("unfocus") != events.npos, row.unfocused);
+            EXPECT_EQ(events.find("unfocus") != events.npos, row.nResult != -10000);
         });
     }
 }
 
-TEST_F(MenuTest, AddsWholeElementsOrNone)
-{
-    forEachKind([&](const Kind& kind) {
-        addMany(2);
-        const int nAllocations = kind.nType == DESCRMENU ? 3 : 2;
-        for (int nGood = 0; nGood < nAllocations; ++nGood) {
-            const kultest::FailingMemory memory(nGood);
-            EXPECT_EQ(kind.add("x"), -1);
-        }
-        EXPECT_EQ(kind.count(), 2);
-        EXPECT_EQ(kind.get(kRef, 2), "null");
-        EXPECT_EQ(kind.add("x"), 0);
-        EXPECT_EQ(kind.get(kRef, 2), "x");
-        {
-            const kultest::FailingMemory memory(1);
-            EXPECT_EQ(kind.create(1, kRef + 1), -1);
-        }
-        EXPECT_EQ(kind.execKeys(1, kRef + 1), 10);
-    });
-}
-
-TEST_F(MenuTest, SelectsTheFirstWhenNoneIs)
+TEST_F(MenuTest, AddsAndRemovesAtTheEnd)
 {
     forEachKind([&](const Kind& kind) {
         EXPECT_EQ(kind.select(), kind.nType == DESCRMENU ? -1 : 0);
+        EXPECT_EQ(kind.get(kRef, 0), "null");
         kind.select() = -1;
         addMany(1);
         EXPECT_EQ(kind.select(), 0);
-        kind.select() = 2;
-        addMany(1);
-        EXPECT_EQ(kind.select(), 2);
+        kind.select() = 3;
+        addMany(2);
+        EXPECT_EQ(kind.select(), 3);
+        EXPECT_EQ(kind.remove(1, kRef, 0), 0);
+        EXPECT_EQ(kind.get(kRef, 1), "e0");
+        EXPECT_EQ(kind.get(kRef, 2), "null");
+        EXPECT_EQ(kind.count(), kind.counts ? 2 : 3);
+        EXPECT_EQ(kind.select(), kind.counts ? 2 : 3);
+        EXPECT_EQ(kind.remove(1, kRef, -7), 0);
+        EXPECT_EQ(kind.remove(1, kRef, 99), 1);
+        EXPECT_EQ(kind.get(kRef, 0), "null");
+        EXPECT_EQ(kind.remove(1, kRef, 0), -1);
+        EXPECT_EQ(kind.count(), kind.counts ? 0 : 3);
+        const int nCount = kind.count();
+        for (int nGood = 0; nGood < (kind.nType == DESCRMENU ? 3 : 2); ++nGood) {
+            const FailingMemory memory(nGood);
+            EXPECT_EQ(kind.add(kRef, "x"), -1);
+        }
+        EXPECT_EQ(kind.count(), nCount);
+        EXPECT_EQ(kind.get(kRef, 0), "null");
+        EXPECT_EQ(kind.add(kRef, "again"), 0);
+        EXPECT_EQ(kind.get(kRef, 0), "again");
+        // The count of the two that do not count is too high: nothing behind the list is read.
+        typeKeys({kind.nBack, kind.nBack, kind.nBack});
+        EXPECT_EQ(kind.execKeys(1, kRef), KUL_LEFT);
     });
 }
 
-TEST_F(MenuTest, HoldsThousands)
+TEST_F(MenuTest, HoldsThousandsAndLooksUpThirty)
 {
     forEachKind([&](const Kind& kind) {
+        addMany(3);
+        for (const int nNone : {3, 30, 31, -1, INT_MAX, INT_MIN})
+            EXPECT_EQ(kind.get(kRef, nNone), "null");
+        kind.config(kRef, onClick);
         addMany(kMany);
         EXPECT_EQ(kind.count(), kMany);
+        EXPECT_EQ(kind.get(kRef, 29), "e29");
+        for (const int nCapped : {30, 31, 45, -1, INT_MAX, INT_MIN})
+            EXPECT_EQ(kind.get(kRef, nCapped), "e30");
         kind.select() = kMany - 2;
-        kultest::typeKeys({kind.nForward, kind.nForward, kind.nForward, kind.nForward, kind.nBack,
-                           kind.nBack, kind.nBack});
+        typeKeys({kind.nForward, kind.nForward, kind.nForward, kind.nBack, kind.nBack});
         EXPECT_EQ(kind.execKeys(1, kRef), KUL_LEFT);
         EXPECT_EQ(kind.select(), kMany - 1);
         for (int i = 1; i < kMany; ++i)
             ASSERT_EQ(kind.remove(1, kRef, 0), 0);
         EXPECT_EQ(kind.get(kRef, 0), "e0");
-        addMany(kMany);
     });
-    EXPECT_LE(malloc_usable_size(kuldescrmenu_getElement(1, kRef, 0)), 160U);
+    EXPECT_LE(malloc_usable_size(kultoolbar_getButton(1, kRef, 0)), 160U);
+}
+
+TEST_F(MenuTest, RefusesUnknownAndForeignComponents)
+{
+    forEachKind([&](const Kind& kind) {
+        EXPECT_EQ(kind.create(1, kRef), kind.nTaken);
+        kulbutton_create(1, kRef + 1);
+        {
+            const FailingMemory memory(1);
+            EXPECT_EQ(kind.create(1, kRef + 2), -1);
+        }
+        for (const int nRef : {kRef + 1, kRef + 2, -1, INT_MAX}) {
+            EXPECT_EQ(kind.config(nRef, nullptr), -1);
+            EXPECT_EQ(kind.add(nRef, "x"), -1);
+            EXPECT_EQ(kind.get(nRef, 0), "null");
+            EXPECT_EQ(kind.remove(1, nRef, 0), -1);
+            EXPECT_EQ(kind.execKeys(1, nRef), kind.nForeign);
+        }
+        EXPECT_EQ(kind.execKeys(77, kRef), kind.nForeign);
+        EXPECT_EQ(events, "");
+    });
+    for (const int nResult :
+         {ConfigMenuComponent(nullptr, nullptr), ConfigDynmenuComponent(nullptr, nullptr),
+          ConfigDescrmenuComponent(nullptr, nullptr), ConfigToolbarComponent(nullptr, nullptr),
+          WipeMenuElements(nullptr), WipeDescrmenuElements(nullptr), WipeToolbarButtons(nullptr),
+          RemoveMenuElement(nullptr), RemoveDescrmenuElement(nullptr),
+          RemoveToolbarButton(nullptr)})
+        EXPECT_EQ(nResult, -1);
+    for (const int nResult : {WipeMenuComponent(nullptr), WipeDynmenuComponent(nullptr),
+                              WipeDescrmenuComponent(nullptr), WipeToolbarComponent(nullptr)})
+        EXPECT_EQ(nResult, 0);
+    ShowMenuComponent(nullptr, nullptr, 1);
+    ShowDynmenuComponent(nullptr, nullptr, 1);
+    ShowDescrmenuComponent(nullptr, nullptr, 1);
+    ShowToolbarComponent(nullptr, nullptr, 1);
+    ShowToolbarButtonComponent(nullptr, nullptr, nullptr, 1);
+    EXPECT_EQ(AddToolbarButton(nullptr, nullptr, 1, "x", nullptr, nullptr), nullptr);
 }
 
 // Programs may hold a list of their own, and name it by any of its elements.
 TEST_F(MenuTest, AnyElementStandsForItsList)
 {
-    KULMENUELEMENT* first = AddMenuElement(nullptr, 1, "a", onElement, onElement);
+    KULMENUELEMENT* first = AddMenuElement(nullptr, 1, "a", never, never);
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->Prev, nullptr);
     EXPECT_EQ(first->onSelect, nullptr);
-    EXPECT_EQ(first->onClick, onElement);
+    EXPECT_EQ(first->onClick, never);
     KULMENUELEMENT* second = AddMenuElement(first, 0, "b", nullptr, nullptr);
     KULMENUELEMENT* third = AddMenuElement(second, 1, "c", nullptr, nullptr);
     KULMENUELEMENT* fourth = AddMenuElement(third, 1, "d", nullptr, nullptr);
-    EXPECT_EQ(first->Next, second);
     EXPECT_EQ(second->Next, third);
     EXPECT_EQ(fourth->Prev, third);
     EXPECT_EQ(first->Prev, fourth);

@@ -102,14 +102,15 @@ void FileText::forgetLines()
 FileText::Change FileText::refresh()
 {
     const FilePlace before = size_;
+    const bool cut = size_ < std::min(seen_.size, kLargest); // reading has met an earlier end
     if (!look())
         return Change::None;
     for (Page& page : pages_)
         page.nUsed = 0;
     lastSize_ = 0;
-    if (size_ <= before) // a longer one has been added to
+    if (cut || size_ <= before) // a longer one has been added to
         forgetLines();
-    return size_ < before ? Change::Shorter : Change::Some;
+    return cut || size_ < before ? Change::Shorter : Change::Some;
 }
 
 bool FileText::isReplacedAt(const char* szName) const

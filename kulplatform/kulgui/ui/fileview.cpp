@@ -80,8 +80,9 @@ int percent(const FileView& view)
 {
     if (!view.text || view.atEnd)
         return 100;
-    const double part = static_cast<double>(view.top) / static_cast<double>(view.text->size());
-    return std::min(static_cast<int>(100 * part), 99);
+    // The file may have been cut off above of the view a moment ago.
+    const auto size = static_cast<double>(std::max<FilePlace>(view.text->size(), 1));
+    return static_cast<int>(std::min(100 * static_cast<double>(view.top) / size, 99.0));
 }
 
 // ---- Keeping up with the file ---------------------------------------------------------------
@@ -309,11 +310,14 @@ int kulfileview_execKeys(int nChain, int nRef)
     handler.call(&FileView::onFocus);
     while (const int nKey = handler.key(kul::isShown<FileView>)) {
         FileView* view = handler.record();
+        if (view) // a poll may have moved the view, or the file have grown
+            handler.selection.nPosition = percent(*view);
         const auto* move = std::find_if(std::begin(kKeyMoves), std::end(kKeyMoves),
                                         [=](const KeyMove& row) { return row.nKey == nKey; });
         if (nKey == KS_TAB || nKey == KS_ESC) {
             handler.end(nKey == KS_TAB ? 10 : -10);
         } else if (nKey == KS_ENTER) {
+            SetCurrentSelection(&handler.selection);
             handler.call(&FileView::onClick);
         } else if (view && view->text && move != std::end(kKeyMoves)) {
             keepUp(*view);

@@ -91,9 +91,9 @@ FilePlace drawText(WINDOW* win, const FileView& view, const FileBox& box)
 // The thumb is as large, and as far down, as the view in the file.
 void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
 {
-    if (view.nHeight < 1)
+    if (view.nHeight < 1 || view.nWidth < 1)
         return;
-    const auto size = static_cast<double>(view.text->size());
+    const auto size = static_cast<double>(std::max<FilePlace>(view.text->size(), 1));
     const auto shown = static_cast<double>(std::max<FilePlace>(bottom - view.top, 1));
     KULGAUGEBAR bar{};
     bar.nColorBar = bar.nColorRail = view.nColorUnfocus;
@@ -103,8 +103,8 @@ void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
     bar.nRange = static_cast<int>(std::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
     bar.nPosition = bar.nRange - bar.nLength; // the end
     if (!view.atEnd)
-        bar.nPosition = std::min(
-            static_cast<int>(static_cast<double>(view.top) / size * bar.nRange), bar.nPosition - 1);
+        bar.nPosition = static_cast<int>(
+            std::min(static_cast<double>(view.top) / size * bar.nRange, bar.nPosition - 1.0));
     bar.nOrient = VERTICAL;
     BarShow(gui, &bar, kScrollStyle);
 }
