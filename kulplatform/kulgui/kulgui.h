@@ -432,8 +432,9 @@ KULGUI_API int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorU
 KULGUI_API int kulmenu_addElement(int nChain, int nRef, const char* szText, int nEnable,
                                   KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** Removes the last element, whatever nSelection is. Returns 0, 1 when it was the only one, -1 for
- * an unknown menu or one without elements. */
+/** Removes the last element, whatever nSelection is; nSelect goes no further than the place after
+ * the last. Returns 0, 1 when it was the only one, -1 for an unknown menu or one without
+ * elements. */
 KULGUI_API int kulmenu_remElement(int nChain, int nRef, int nSelection);
 
 /** The element at a position from 0, the library's; its fields may be changed. Positions above 30
@@ -493,7 +494,8 @@ KULGUI_API int kuldynmenu_config(int nChain, int nRef, int nColorFocus, int nCol
                                  KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                                  KULCALLBACK onClick);
 
-/** As kulmenu_addElement; texts are cut to the menu's width. Mind the place of nEnable. */
+/** As kulmenu_addElement; texts are cut to the menu's width, and show a question mark for what is
+ * no character of the locale. Mind the place of nEnable. */
 KULGUI_API int kuldynmenu_addElement(int nChain, int nRef, const char* szText, KULCALLBACK onSelect,
                                      KULCALLBACK onClick, int nEnable);
 
@@ -661,10 +663,11 @@ KULGUI_API KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nBut
 KULGUI_API int kultoolbar_show(int nChain, int nRef);
 KULGUI_API int kultoolbar_hide(int nChain, int nRef);
 
-/** Gives a toolbar the keys until it loses the focus. Returns 10 after Tab and when it is hidden,
- * -10 after Escape; -1 when it is no toolbar; 0 when it gets hidden meanwhile and after
- * kulgui_setFocus; KUL_LEFT after kulgui_leave; -10000 when it is gone, the line was hung up, or
- * its dialog gets hidden, which hides dialog 1 as well. */
+/** Gives a toolbar the keys until it loses the focus. An arrow key looks at 30 buttons at most for
+ * an enabled one. Returns 10 after Tab and when it is hidden, -10 after Escape; -1 when it is no
+ * toolbar; 0 when it gets hidden meanwhile and after kulgui_setFocus; KUL_LEFT after kulgui_leave;
+ * -10000 when it is gone, the line was hung up, or its dialog gets hidden, which hides dialog 1 as
+ * well. */
 KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
 
 /* ---- File viewers --------------------------------------------------------------------------- *

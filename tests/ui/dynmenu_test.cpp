@@ -3,7 +3,6 @@
 // What a dynamic menu shows; its keys are tested with those of the other menus.
 #include "support/window_test.hpp"
 
-#include <array>
 #include <climits>
 #include <clocale>
 
@@ -21,8 +20,7 @@ protected:
 
     static KULDYNMENU& menu() { return record<KULDYNMENU>(); }
 
-    static void fill(int nX, int nY, int nWidth, int nHeight,
-                     const std::vector<const char*>& texts)
+    static void fill(int nX, int nY, int nWidth, int nHeight, const std::vector<const char*>& texts)
     {
         kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, nWidth, nHeight, nullptr,
                           nullptr, nullptr, nullptr);
@@ -34,12 +32,6 @@ protected:
     {
         typeKeys(keys);
         EXPECT_EQ(kuldynmenu_execKeys(1, kRef), KUL_LEFT);
-    }
-
-    // What stands in the rows inside of the frame.
-    static Rows inside()
-    {
-        return shown(menu().nY + 1, menu().nX + 1, menu().nHeight, menu().nWidth);
     }
 };
 
@@ -64,13 +56,8 @@ TEST_F(DynmenuTest, ShowsItsElementsInAFrame)
 
 TEST_F(DynmenuTest, ScrollsWithTheSelection)
 {
-    struct Row {
-        std::vector<int> keys;
-        Rows shown;
-        int nSelect;
-    };
     // clang-format off
-    const Row rows[] = {
+    const struct { std::vector<int> keys; Rows shown; int nSelect; } rows[] = {
         {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2},
         {{KS_DOWN}, {"b", "c", "d"}, 3},
         {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
@@ -82,10 +69,10 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
     };
     // clang-format on
     fill(2, 1, 1, 3, {"a", "b", "c", "d", "e"});
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         press(row.keys);
         EXPECT_EQ(menu().nSelect, row.nSelect);
-        EXPECT_EQ(inside(), row.shown);
+        EXPECT_EQ(shown(2, 3, 3, 1), row.shown);
     }
     // Without the last two the view is moved up to fill the box, and stays inside of the list.
     kuldynmenu_remElement(1, kRef, 0);
@@ -93,7 +80,7 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
     for (const int nSelect : {5, INT_MAX, INT_MIN, -1, 3}) {
         menu().nSelect = nSelect;
         press({});
-        EXPECT_EQ(inside(), (Rows{"a", "b", "c"})) << nSelect;
+        EXPECT_EQ(shown(2, 3, 3, 1), (Rows{"a", "b", "c"})) << nSelect;
     }
 }
 
@@ -111,10 +98,7 @@ TEST_F(DynmenuTest, ScrollBarAppearsWhenTheListIsLonger)
 TEST_F(DynmenuTest, KeepsInsideOfItsFrame)
 {
     // clang-format off
-    const struct {
-        const char* szText;
-        const char* shown;
-    } rows[] = {
+    const struct { const char *szText, *shown; } rows[] = {
         {"a\nb\tc\001d", "a b c d   "},
         {nullptr, "          "},
         {"\177del", " del      "},
@@ -137,10 +121,8 @@ TEST_F(DynmenuTest, KeepsInsideOfItsFrame)
 TEST_F(DynmenuTest, CutsByColumnsWhereTheLocaleHasWideCharacters)
 {
     ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
-    const struct {
-        const char* szText;
-        std::wstring shown; // with the frame: x
-    } rows[] = {
+    // clang-format off
+    const struct { const char* szText; std::wstring shown; } rows[] = { // with the frame: x
         {"\u00e9\u00e9\u00e9\u00e9", L"x\u00e9\u00e9\u00e9x"},
         {"a\u4e2d\u4e2d", L"xa\u4e2d\u4e2dx"},
         {"ab\u4e2d", L"xab x"},
@@ -148,6 +130,7 @@ TEST_F(DynmenuTest, CutsByColumnsWhereTheLocaleHasWideCharacters)
         {"\xc2\u4e2d\xe4", L"x?\u4e2d\u4e2dx"},
         {"ab\xc2", L"xab?x"},
     };
+    // clang-format on
     std::vector<const char*> texts;
     for (const auto& row : rows)
         texts.push_back(row.szText);
@@ -174,20 +157,19 @@ TEST_F(DynmenuTest, AnySizeAndPlace)
 {
     const std::vector<const char*> texts(16, "text");
     const Rows before = shown(0, 0, 14, 40);
-    for (const auto& [nWidth, nHeight] :
-         std::initializer_list<std::pair<int, int>>{{0, 3}, {3, 0}, {-1, 3}, {3, INT_MIN}}) {
-        fill(2, 2, nWidth, nHeight, texts);
-        press({KS_DOWN});
-        EXPECT_EQ(shown(0, 0, 14, 40), before);
-    }
     // clang-format off
-    for (const auto& [nX, nY, nWidth, nHeight] : std::initializer_list<std::array<int, 4>>{
-             {0, 0, INT_MAX, INT_MAX}, {INT_MAX, INT_MAX, 3, 3}, {INT_MIN, INT_MIN, INT_MAX, 9},
-             {-3, -1, 5, 3}, {36, 11, 9, 9}, {39, 13, 1, 1}}) {
-        // clang-format on
-        fill(nX, nY, nWidth, nHeight, texts);
+    const struct { int nX, nY, nWidth, nHeight; } rows[] = {
+        {2, 2, 0, 3}, {2, 2, 3, 0}, {2, 2, -1, 3}, {2, 2, 3, INT_MIN}, {INT_MAX, INT_MAX, 3, 3},
+        {0, 0, INT_MAX, INT_MAX}, {INT_MIN, INT_MIN, INT_MAX, 9}, {-3, -1, 5, 3}, {36, 11, 9, 9}, {39, 13, 1, 1},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        fill(row.nX, row.nY, row.nWidth, row.nHeight, texts);
         press({KS_UP, KS_UP, KS_DOWN, KS_DOWN, KS_DOWN});
         EXPECT_EQ(menu().nSelect, 1);
+        if (row.nWidth < 1 || row.nHeight < 1) {
+            EXPECT_EQ(shown(0, 0, 14, 40), before);
+        }
     }
 }
 

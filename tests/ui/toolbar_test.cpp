@@ -9,10 +9,8 @@ namespace {
 
 using namespace kultest;
 
-void onButton()
-{
-    note("button");
-}
+const KULCALLBACK onButton = [] { note("button"); };
+const KULCALLBACK onClick = [] { note("click"); };
 
 class ToolbarTest : public ComponentTest {
 protected:
@@ -22,11 +20,11 @@ protected:
         kultoolbar_create(1, kRef);
     }
 
-    static void config(int nOrient, KULCALLBACK onClick = [] { note("click"); })
+    static void config(int nOrient, KULCALLBACK click = onClick)
     {
         kultoolbar_config(
             1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nOrient, [] { note("focus"); },
-            [] { note("unfocus"); }, [] { note("select"); }, onClick);
+            [] { note("unfocus"); }, [] { note("select"); }, click);
     }
 
     static void add(const char* szText, int nEnable = 1)
@@ -49,11 +47,9 @@ TEST_F(ToolbarTest, DrawsButtonsOfOneSize)
     add("Cancel");
     add("No", 0);
     kultoolbar_execKeys(1, kRef);
-    // clang-format off
-    EXPECT_EQ(shown(2, 0, 3, 31), (Rows{"│ ┌──────┐ ┌──────┐ ┌──────┐   ",
-                                        "│ │  OK  │ │Cancel│ │  No  │   ",
-                                        "│ └──────┘ └──────┘ └──────┘   "}));
-    // clang-format on
+    EXPECT_EQ(shown(2, 0, 3, 31),
+              (Rows{"│ ┌──────┐ ┌──────┐ ┌──────┐   ", "│ │  OK  │ │Cancel│ │  No  │   ",
+                    "│ └──────┘ └──────┘ └──────┘   "}));
     EXPECT_EQ(shades(3, 0, 1, 31), (Rows{"..ffffffff.uuuuuuuu.dddddddd..."}));
     kulgui_show(1);
     EXPECT_EQ(shades(3, 0, 1, 31), (Rows{"..uuuuuuuu.uuuuuuuu.dddddddd..."}));
@@ -94,9 +90,7 @@ TEST_F(ToolbarTest, Keys)
         std::string enabled; // a character for each button, '1' or not
         int nStart;
         std::vector<int> keys;
-        int nResult;
-        int nSelect;
-        int nCurrent;
+        int nResult, nSelect, nCurrent;
         const char* events;
     };
     const int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, E = KS_ENTER;
@@ -141,28 +135,14 @@ TEST_F(ToolbarTest, Keys)
 
 TEST_F(ToolbarTest, CallbacksMayTakeAwayWhatRuns)
 {
-    struct Row {
-        const char* name;
-        KULCALLBACK act;
-        int nResult;
-        const char* events;
-    };
-    const auto hideAndLeave = [] {
-        kulgui_hide(1);
-        kulgui_leave(1);
-    };
-    const auto removeAll = [] {
-        while (kultoolbar_remButton(1, kRef, 0) == 0) {
-        }
-    };
     // clang-format off
-    const Row rows[] = {
+    const struct { const char* name; KULCALLBACK act; int nResult; const char* events; } rows[] = {
         {"hide", [] { kultoolbar_hide(1, kRef); }, 0, "focus2 button2 unfocus2 "},
         {"hide dialog", [] { kulgui_hide(1); }, -10000, "focus2 button2 unfocus2 "},
-        {"hide and leave", hideAndLeave, KUL_LEFT, "focus2 unfocus2 "},
+        {"hide and leave", [] { kulgui_hide(1); kulgui_leave(1); }, KUL_LEFT, "focus2 unfocus2 "},
         // The selection is behind the list then, and the second Enter removes another one.
         {"remove it", [] { kultoolbar_remButton(1, kRef, 0); }, KUL_LEFT, "focus2 unfocus2 "},
-        {"remove all", removeAll, KUL_LEFT, "focus2 unfocus2 "},
+        {"remove all", [] { while (kultoolbar_remButton(1, kRef, 0) == 0) {} }, KUL_LEFT, "focus2 unfocus2 "},
         {"configure", [] { config(LATERAL); }, KUL_LEFT, "focus2 click2 unfocus2 "},
         {"focus", [] { kulgui_setFocus(1, kRef); }, 0, "focus2 unfocus2 "},
         {"destroy", [] { kulgui_destroy(1); }, -10000, "focus2 "},
@@ -170,7 +150,7 @@ TEST_F(ToolbarTest, CallbacksMayTakeAwayWhatRuns)
         {"select", [] { toolbar().nSelect = 5; }, KUL_LEFT, "focus2 button2 unfocus2 "},
     };
     // clang-format on
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         renew();
         kultoolbar_create(1, kRef);

@@ -34,7 +34,6 @@ void destroyChain(CHAIN* thisChain);
 // The chain after this one in a walk that starts at the primary; null at the end.
 CHAIN* nextChain(const CHAIN* thisChain);
 
-
 } // namespace kul
 
 #endif

@@ -119,7 +119,8 @@ void setHandler(int nSignal, void (*handler)(int))
     sigaction(nSignal, &action, nullptr);
 }
 
-// In the background the terminal belongs to somebody else; setting its modes would stop the process.
+// In the background the terminal belongs to somebody else; setting its modes would stop the
+// process.
 bool isInForeground()
 {
     const pid_t nGroup = tcgetpgrp(STDOUT_FILENO);

@@ -14,7 +14,7 @@ namespace {
 
 unsigned nWaits = 0;
 
-bool take(int nChain, bool Dialog::* request)
+bool take(int nChain, bool Dialog::*request)
 {
     Dialog* dialog = findDialog(nChain);
     return dialog && std::exchange(dialog->*request, false);
