@@ -8,6 +8,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include "gui/description.hpp"
 #include "gui/draw.hpp"
 #include "kulgui.h"
 
@@ -189,7 +190,7 @@ bool openTerminal(const char* szTerm)
     terminal = memfd_create("terminal", MFD_CLOEXEC);
     std::FILE* output = terminal < 0 ? nullptr : fdopen(terminal, "w");
     std::FILE* input = std::fopen("/dev/null", "r");
-    if (!output || !input || !newterm(szTerm, output, input))
+    if (!output || !input || !kul::openScreen(szTerm, output, input))
         return false;
     start_color();
     InitializeColorSets();

@@ -55,24 +55,32 @@ void expectSameScreen(const Emulator& one, const Emulator& other)
     }
 }
 
-TEST(Screen, MovesTheFocusAtTheCostOfOneCursesUpdate)
+TEST(Screen, MovesTheFocusAtTheCostOfOneCursesUpdateAtMost)
 {
+    struct Row {
+        std::vector<std::string> words;
+        const char* key;
+        std::size_t nSaved; // on the way between letters and lines
+    };
+    const Row rows[] = {{{}, "\t", 40}, {{"list"}, "\x1b[B", 0}};
     for (const char* term : {"linux", "vt100", "xterm-256color"}) {
-        SCOPED_TRACE(term);
-        Launch launch = program("dialogs");
-        Launch reference = program("plain");
-        launch.term = reference.term = term;
-        Terminal ours(launch);
-        Terminal plain(reference);
-        ASSERT_TRUE(ours.waitForText("Three") && plain.waitForText("Three"));
-        ASSERT_TRUE(ours.settle() && plain.settle());
-        ASSERT_NO_FATAL_FAILURE(expectSameScreen(ours, plain));
-        for (int step = 0; step < 3; ++step) {
-            ASSERT_NO_FATAL_FAILURE(press(ours, "\t"));
-            ASSERT_NO_FATAL_FAILURE(press(plain, "\t"));
+        for (const Row& row : rows) {
+            SCOPED_TRACE(std::string(term) + (row.words.empty() ? " buttons" : " list"));
+            Launch launch = program("dialogs", row.words);
+            Launch reference = program("plain", row.words);
+            launch.term = reference.term = term;
+            Terminal ours(launch);
+            Terminal plain(reference);
+            ASSERT_TRUE(ours.waitForText("Main") && plain.waitForText("Main"));
+            ASSERT_TRUE(ours.settle() && plain.settle());
             ASSERT_NO_FATAL_FAILURE(expectSameScreen(ours, plain));
-            EXPECT_LE(ours.received().size(), plain.received().size());
-            EXPECT_EQ(ours.paintedMost(), 1);
+            for (int step = 0; step < 3; ++step) {
+                ASSERT_NO_FATAL_FAILURE(press(ours, row.key));
+                ASSERT_NO_FATAL_FAILURE(press(plain, "\t"));
+                ASSERT_NO_FATAL_FAILURE(expectSameScreen(ours, plain));
+                EXPECT_LE(ours.received().size() + row.nSaved, plain.received().size());
+                EXPECT_EQ(ours.paintedMost(), 1);
+            }
         }
     }
 }

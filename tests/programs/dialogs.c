@@ -4,6 +4,7 @@
  *   desktop   the primary dialog is shown below
  *   behind    a second dialog is shown, which it overlaps
  *   third     and a third one, which overlaps the second
+ *   list      the dialog holds a check box list of ten in place of the buttons
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
@@ -42,13 +43,24 @@ static void count(void)
         addButton(MAIN, 3, "polled", NULL);
 }
 
+static void addList(int chain, int ref)
+{
+    kulcheckbox_create(chain, ref);
+    kulcheckbox_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, 2, 1, 30, 12, BORDER, NULL,
+                       NULL, NULL, NULL);
+    for (int i = 0; i < 10; ++i)
+        kulcheckbox_addElement(chain, ref, "Element", 0, 1, NULL, NULL);
+}
+
 int main(int argc, char** argv)
 {
+    int list = 0;
     int poll = 0;
     for (int i = 1; i < argc; ++i) {
         desktop |= strcmp(argv[i], "desktop") == 0;
         behind |= strcmp(argv[i], "behind") == 0;
         third |= strcmp(argv[i], "third") == 0;
+        list |= strcmp(argv[i], "list") == 0;
         poll |= strcmp(argv[i], "poll") == 0;
     }
     kulgui_create(DESKTOP);
@@ -64,9 +76,13 @@ int main(int argc, char** argv)
     kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14,
                   NULL, poll ? count : NULL, NULL, NULL, NULL);
     addButton(BEHIND, 1, "Lost", NULL);
-    addButton(MAIN, 1, "One", drawn);
-    addButton(MAIN, 2, "Two", drawn);
-    addButton(MAIN, 3, "Three", drawn);
+    if (list) {
+        addList(MAIN, 1);
+    } else {
+        addButton(MAIN, 1, "One", drawn);
+        addButton(MAIN, 2, "Two", drawn);
+        addButton(MAIN, 3, "Three", drawn);
+    }
     kulgui_setTabbing(MAIN, T);
     if (NCursesEnv(1) != 0)
         return 1;

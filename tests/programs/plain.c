@@ -1,7 +1,8 @@
 /* SPDX-License-Identifier: MIT
  *
- * The screen of the program "dialogs", and Tab from button to button, by curses and panels alone:
- * what one update of the changed cells costs.
+ * The screen of the program "dialogs" and the way of its focus from button to button, or with the
+ * word "list" from row to row, by curses and panels alone: what one update of the changed cells
+ * costs.
  */
 #include <curses.h>
 #include <panel.h>
@@ -9,7 +10,13 @@
 #include <string.h>
 
 enum { STANDARD = 1, FOCUS, REST, SHADOW };
-enum { BUTTONS = 3 };
+enum { BUTTONS = 3, ROWS = 10 };
+
+static void colour(WINDOW* win, int focused)
+{
+    const chtype mark = focused && !has_colors() ? A_REVERSE : A_NORMAL;
+    wattrset(win, (int)(COLOR_PAIR(focused ? FOCUS : REST) | mark));
+}
 
 static void fill(WINDOW* win)
 {
@@ -20,18 +27,35 @@ static void fill(WINDOW* win)
 static void drawButton(WINDOW* win, int number, int focused)
 {
     static const char* const texts[BUTTONS] = {"One", "Two", "Three"};
-    const chtype mark = focused && !has_colors() ? A_REVERSE : A_NORMAL;
     WINDOW* box = derwin(win, 3, 10, 5, 2 + 12 * number);
     const int length = (int)strlen(texts[number]);
-    wattrset(box, (int)(COLOR_PAIR(focused ? FOCUS : REST) | mark));
+    colour(box, focused);
     fill(box);
     wborder(box, 0, 0, 0, 0, 0, 0, 0, 0);
     mvwaddstr(box, 1, 5 - length / 2 - length % 2, texts[number]);
     delwin(box);
 }
 
-int main(void)
+static void drawListFrame(WINDOW* win)
 {
+    WINDOW* box = derwin(win, ROWS + 2, 30, 1, 2);
+    colour(box, 0);
+    wborder(box, 0, 0, 0, 0, 0, 0, 0, 0);
+    delwin(box);
+}
+
+static void drawRow(WINDOW* win, int number, int focused)
+{
+    colour(win, focused);
+    mvwaddstr(win, 2 + number, 3, "[ ]");
+    mvwaddstr(win, 2 + number, 7, "Element");
+}
+
+int main(int argc, char** argv)
+{
+    const int list = argc > 1 && strcmp(argv[1], "list") == 0;
+    const int parts = list ? ROWS : BUTTONS;
+    void (*draw)(WINDOW*, int, int) = list ? drawRow : drawButton;
     int focus = 0;
     initscr();
     noecho();
@@ -55,14 +79,16 @@ int main(void)
     fill(dialog);
     wborder(dialog, 0, 0, 0, 0, 0, 0, 0, 0);
     mvwaddstr(dialog, 0, 17, "Main");
-    for (int i = 0; i < BUTTONS; ++i)
-        drawButton(dialog, i, i == focus);
+    if (list)
+        drawListFrame(dialog);
+    for (int i = 0; i < parts; ++i)
+        draw(dialog, i, i == focus);
     update_panels();
     doupdate();
     while (getchar() != EOF) {
-        drawButton(dialog, focus, 0);
-        focus = (focus + 1) % BUTTONS;
-        drawButton(dialog, focus, 1);
+        draw(dialog, focus, 0);
+        focus = (focus + 1) % parts;
+        draw(dialog, focus, 1);
         update_panels();
         doupdate();
     }

@@ -20,6 +20,7 @@
 #include <unistd.h>
 
 #include "../kulgui.h"
+#include "description.hpp"
 #include "frame.hpp"
 
 namespace {
@@ -50,12 +51,6 @@ constexpr int kCaught[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGTSTP};
 constexpr int kCaughtCount = sizeof kCaught / sizeof *kCaught;
 bool ours[kCaughtCount];
 
-// What tigetstr gives for a string that the terminal has.
-bool isString(const char* szString)
-{
-    return szString && szString != reinterpret_cast<char*>(-1);
-}
-
 int captureByte(int c)
 {
     if (capture->size < sizeof capture->text)
@@ -65,7 +60,7 @@ int captureByte(int c)
 
 void captureString(const char* szString)
 {
-    if (isString(szString))
+    if (kul::isString(szString))
         tputs(szString, 1, captureByte);
 }
 
@@ -80,7 +75,7 @@ void captureAll(Bytes& bytes, std::initializer_list<const char*> names)
 // Without a second screen to leave, what was drawn is cleared away.
 void prepareBytes()
 {
-    ownScreen = isString(tigetstr("rmcup"));
+    ownScreen = kul::isString(tigetstr("rmcup"));
     captureAll(leaving, {"sgr0", "op", ownScreen ? "rmcup" : "clear", "cnorm"});
     if (!ownScreen)
         captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
@@ -206,17 +201,6 @@ void closeAtExit()
     nEnvSetting = F;
 }
 
-// curses would end the process for a terminal that it cannot use, so ask first.
-bool isUsable()
-{
-    int nResult = 0;
-    if (!isatty(STDOUT_FILENO) || setupterm(nullptr, STDOUT_FILENO, &nResult) != OK)
-        return false;
-    const bool usable = isString(tigetstr("cup"));
-    del_curterm(cur_term);
-    return usable;
-}
-
 // Makes curses' screen on first use, takes it again later.
 bool startScreen()
 {
@@ -227,7 +211,8 @@ bool startScreen()
         }
         return true;
     }
-    return isUsable() && newterm(nullptr, stdout, stdin) && def_prog_mode() == OK;
+    return isatty(STDOUT_FILENO) && kul::openScreen(nullptr, stdout, stdin) &&
+           def_prog_mode() == OK;
 }
 
 } // namespace

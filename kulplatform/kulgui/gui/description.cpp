@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: MIT
+//
+// Frames are letters between lines, and lines are letters of a second alphabet. Where a terminal
+// has one string for all attributes ("sgr"), curses sends it at each change of the alphabet; it
+// takes the colours with it, which follow anew:
+//
+//     with sgr      ESC[0;10m SO ESC[34m ESC[47m x ESC[0;10m SI ESC[34m ESC[47m text
+//     without it    SO x SI text
+//
+// That is a third of what a screen costs. So curses is given the description without this string,
+// compiled as term(5) says, in place of a file: it takes "hex:" and the digits for the name of a
+// database. An older curses finds nothing under that name and goes on to the real description.
+#include "description.hpp"
+
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+
+#include <term.h>
+
+#include "memory.hpp"
+
+namespace kul {
+
+namespace {
+
+constexpr char kVariable[] = "TERMINFO";
+constexpr char kPrefix[] = "TERMINFO=hex:";
+constexpr int kMagic = 01036; // numbers of 32 bits
+constexpr std::size_t kMostBytes = 8192;
+
+// A compiled description as hexadecimal digits, little end first. It remembers when it was full.
+class Digits {
+public:
+    Digits() { std::memcpy(text_, kPrefix, sizeof kPrefix); }
+
+    void put(int nValue, int nBytes)
+    {
+        for (; nBytes > 0; --nBytes, nValue >>= 8, ++nBytes_) {
+            if (nBytes_ >= kMostBytes)
+                continue;
+            char* at = text_ + sizeof kPrefix - 1 + 2 * nBytes_;
+            at[0] = "0123456789abcdef"[nValue >> 4 & 15];
+            at[1] = "0123456789abcdef"[nValue & 15];
+            at[2] = '\0';
+        }
+    }
+
+    void put(const char* szText)
+    {
+        for (; *szText; ++szText)
+            put(*szText, 1);
+        put(0, 1);
+    }
+
+    bool isFull() const { return nBytes_ > kMostBytes; }
+
+    // Numbers lie at even places.
+    void align() { put(0, static_cast<int>(nBytes_ % 2)); }
+
+    char* text() { return text_; }
+
+private:
+    char text_[sizeof kPrefix + 2 * kMostBytes];
+    std::size_t nBytes_ = 0;
+};
+
+template <typename Names>
+int count(const Names& names)
+{
+    int n = 0;
+    while (names[n])
+        ++n;
+    return n;
+}
+
+int size(const char* szText)
+{
+    return static_cast<int>(std::strlen(szText)) + 1;
+}
+
+const char* kept(const char* szName)
+{
+    const char* szString = tigetstr(szName);
+    return isString(szString) && std::strcmp(szName, "sgr") != 0 ? szString : nullptr;
+}
+
+// Whether curses can do without the string.
+bool isSimple()
+{
+    for (const char* szName : {"sgr", "sgr0", "rev", "smacs", "rmacs"}) {
+        if (!isString(tigetstr(szName)))
+            return false;
+    }
+    return tigetnum("xmc") < 0;
+}
+
+// The one number beyond the standard ones that curses asks for: whether a terminal in UTF-8 mode
+// lacks the second alphabet.
+void compileExtension(Digits& out)
+{
+    constexpr char kName[] = "U8";
+    const int nValue = tigetnum(kName);
+    if (nValue < 0)
+        return;
+    out.align();
+    for (const int nCount : {0, 1, 0, 1, size(kName)}) // booleans, numbers, strings; names, bytes
+        out.put(nCount, 2);
+    out.put(nValue, 4);
+    out.put(0, 2);
+    out.put(kName);
+}
+
+// Compiles the current description.
+void compile(const char* szTerm, Digits& out)
+{
+    const int nStrings = count(strnames);
+    int nTable = 0;
+    for (int i = 0; i < nStrings; ++i)
+        nTable += kept(strnames[i]) ? size(kept(strnames[i])) : 0;
+    out.put(kMagic, 2);
+    for (const int nSize : {size(szTerm), count(boolnames), count(numnames), nStrings, nTable})
+        out.put(nSize, 2);
+    out.put(szTerm);
+    for (int i = 0; boolnames[i]; ++i)
+        out.put(tigetflag(boolnames[i]) > 0 ? 1 : 0, 1);
+    out.align();
+    for (int i = 0; numnames[i]; ++i)
+        out.put(tigetnum(numnames[i]), 4);
+    int nOffset = 0;
+    for (int i = 0; i < nStrings; ++i) {
+        out.put(kept(strnames[i]) ? nOffset : -1, 2);
+        nOffset += kept(strnames[i]) ? size(kept(strnames[i])) : 0;
+    }
+    for (int i = 0; i < nStrings; ++i) {
+        if (kept(strnames[i]))
+            out.put(kept(strnames[i]));
+    }
+    compileExtension(out);
+}
+
+// The environment variable while curses begins; as it was before, then.
+class Variable {
+public:
+    explicit Variable(char* szSetting)
+    {
+        const char* szValue = std::getenv(kVariable);
+        before_ = szValue ? copyText(szValue) : nullptr;
+        changed_ = (!szValue || before_) && putenv(szSetting) == 0;
+    }
+
+    ~Variable()
+    {
+        // The setting must not stay in the environment, whatever happens.
+        if (changed_ && (!before_ || setenv(kVariable, before_, 1) != 0))
+            unsetenv(kVariable);
+        std::free(before_);
+    }
+
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    char* before_;
+    bool changed_;
+};
+
+} // namespace
+
+bool isString(const char* szString)
+{
+    return szString && szString != reinterpret_cast<char*>(-1);
+}
+
+SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
+{
+    int nResult = 0;
+    if (setupterm(szTerm, fileno(output), &nResult) != OK)
+        return nullptr;
+    const bool usable = isString(tigetstr("cup"));
+    const char* szName = szTerm ? szTerm : std::getenv("TERM");
+    Digits digits;
+    const bool lean = usable && szName && isSimple();
+    if (lean)
+        compile(szName, digits);
+    del_curterm(cur_term);
+    if (!usable)
+        return nullptr;
+    if (!lean || digits.isFull())
+        return newterm(szTerm, output, input);
+    const Variable variable(digits.text());
+    return newterm(szTerm, output, input);
+}
+
+} // namespace kul
