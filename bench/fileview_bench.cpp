@@ -60,8 +60,8 @@ struct Viewer {
 };
 
 struct Figures {
-    double first, end, pageUp, home, pageDown, down;
-    long nMemory; // KiB
+    double firstSmall, first, end, pageUp, home, pageDown, down;
+    double memory; // KiB
 };
 
 int topLine(const kultools::Terminal& terminal)
@@ -92,13 +92,13 @@ double timeOfMoves(kultools::Terminal& terminal, const char* szKey, int nLines)
     return sum / kPages;
 }
 
-long peakMemory(pid_t pid)
+double peakMemory(pid_t pid)
 {
     std::ifstream status("/proc/" + std::to_string(pid) + "/status");
     for (std::string word; status >> word;) {
-        long nKib = 0;
-        if (word == "VmHWM:" && status >> nKib)
-            return nKib;
+        double kib = 0;
+        if (word == "VmHWM:" && status >> kib)
+            return kib;
     }
     return -1;
 }
@@ -128,7 +128,7 @@ Figures look(const Viewer& viewer, const std::string& path, int nLines)
         figures.pageDown = timeOfMoves(*terminal, viewer.szPageDown, kRows - 1);
         figures.down = timeOfMoves(*terminal, viewer.szDown, 1);
     }
-    figures.nMemory = peakMemory(terminal->pid());
+    figures.memory = peakMemory(terminal->pid());
     return figures;
 }
 
@@ -157,31 +157,34 @@ void run(std::vector<const char*> argv)
     posix_spawn_file_actions_destroy(&quiet);
 }
 
-void compareScreens(const Viewer (&viewers)[2], const std::string& small, int nSmall,
+constexpr int kViewers = 3;
+
+void compareScreens(const Viewer (&viewers)[kViewers], const std::string& small, int nSmall,
                     const std::string& large, int nLarge)
 {
-    std::printf("%-40s %12s %12s\n", "Milliseconds to the screen, 80x24", viewers[0].szName,
-                viewers[1].szName);
-    Figures figures[2];
-    double smallFirst[2];
-    double largeFirst[2];
-    for (int i = 0; i < 2; ++i) {
-        smallFirst[i] = firstScreen(viewers[i], small, nSmall);
-        largeFirst[i] = firstScreen(viewers[i], large, kRows);
+    std::printf("%-40s %12s %12s %12s\n", "Milliseconds to the screen, 80x24", viewers[0].szName,
+                viewers[1].szName, viewers[2].szName);
+    Figures figures[kViewers];
+    for (int i = 0; i < kViewers; ++i) {
+        const double first = firstScreen(viewers[i], large, kRows);
         figures[i] = look(viewers[i], large, nLarge);
+        figures[i].firstSmall = firstScreen(viewers[i], small, nSmall);
+        figures[i].first = first;
     }
-    const auto row = [](const char* szText, double ours, double theirs) {
-        std::printf("%-40s %12.2f %12.2f\n", szText, ours, theirs);
+    const auto row = [&](const char* szText, double Figures::*figure, int nDecimals) {
+        std::printf("%-40s", szText);
+        for (const Figures& column : figures)
+            std::printf(" %12.*f", nDecimals, column.*figure);
+        std::printf("\n");
     };
-    row("start to first screen, 1 KiB", smallFirst[0], smallFirst[1]);
-    row("start to first screen, the log", largeFirst[0], largeFirst[1]);
-    row("End", figures[0].end, figures[1].end);
-    row("a page up from the end", figures[0].pageUp, figures[1].pageUp);
-    row("Home", figures[0].home, figures[1].home);
-    row("a page down from the start", figures[0].pageDown, figures[1].pageDown);
-    row("a row down", figures[0].down, figures[1].down);
-    std::printf("%-40s %12ld %12ld\n", "peak memory of the process, KiB", figures[0].nMemory,
-                figures[1].nMemory);
+    row("start to first screen, 1 KiB", &Figures::firstSmall, 2);
+    row("start to first screen, the log", &Figures::first, 2);
+    row("End", &Figures::end, 2);
+    row("a page up from the end", &Figures::pageUp, 2);
+    row("Home", &Figures::home, 2);
+    row("a page down from the start", &Figures::pageDown, 2);
+    row("a row down", &Figures::down, 2);
+    row("peak memory of the process, KiB", &Figures::memory, 0);
 }
 
 void compareReading(const std::string& path)
@@ -226,9 +229,12 @@ int main(int argc, char** argv)
     const int nSmall = writeLog(small, 1024);
     const int nLarge = writeLog(large, nMib << 20);
     run({"cat", large.c_str()}); // into the memory, for all alike
-    const Viewer viewers[2] = {
-        {"kulgui", {ours}, "\x1b[F", "\x1b[H", "\x1b[5~", "\x1b[6~", "\x1b[B"},
-        {"less", {"less"}, "G", "g", "b", " ", "j"}};
+    const auto kulgui = [&](const char* szName, const std::string& program) {
+        return Viewer{szName, {program}, "\x1b[F", "\x1b[H", "\x1b[5~", "\x1b[6~", "\x1b[B"};
+    };
+    const Viewer viewers[kViewers] = {kulgui("kulgui", ours),
+                                      kulgui("kulgui static", ours + "_static"),
+                                      {"less", {"less"}, "G", "g", "b", " ", "j"}};
     std::printf("A log of %lld MiB, %d lines\n", nMib, nLarge);
     compareScreens(viewers, small, nSmall, large, nLarge);
     compareReading(large);

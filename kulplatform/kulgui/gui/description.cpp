@@ -76,14 +76,26 @@ int count(const Names& names)
 
 int size(const char* szText)
 {
-    return static_cast<int>(std::strlen(szText)) + 1;
+    return szText ? static_cast<int>(std::strlen(szText)) + 1 : 0;
 }
 
-const char* kept(const char* szName)
-{
-    const char* szString = tigetstr(szName);
-    return isString(szString) && std::strcmp(szName, "sgr") != 0 ? szString : nullptr;
-}
+// The terminal's strings in their order, null for those that are not there or not wanted.
+struct Strings {
+    static constexpr int kMost = 1024;
+    const char* texts[kMost];
+    int nCount = 0;
+    int nBytes = 0; // that they take together
+
+    Strings()
+    {
+        for (; nCount < kMost && strnames[nCount]; ++nCount) {
+            const char* szName = strnames[nCount];
+            const char* szText = std::strcmp(szName, "sgr") != 0 ? tigetstr(szName) : nullptr;
+            texts[nCount] = isString(szText) ? szText : nullptr;
+            nBytes += size(texts[nCount]);
+        }
+    }
+};
 
 // Whether curses can do without the string.
 bool isSimple()
@@ -114,12 +126,10 @@ void compileExtension(Digits& out)
 // Compiles the current description.
 void compile(const char* szTerm, Digits& out)
 {
-    const int nStrings = count(strnames);
-    int nTable = 0;
-    for (int i = 0; i < nStrings; ++i)
-        nTable += kept(strnames[i]) ? size(kept(strnames[i])) : 0;
+    const Strings strings;
     out.put(kMagic, 2);
-    for (const int nSize : {size(szTerm), count(boolnames), count(numnames), nStrings, nTable})
+    for (const int nSize :
+         {size(szTerm), count(boolnames), count(numnames), strings.nCount, strings.nBytes})
         out.put(nSize, 2);
     out.put(szTerm);
     for (int i = 0; boolnames[i]; ++i)
@@ -128,13 +138,13 @@ void compile(const char* szTerm, Digits& out)
     for (int i = 0; numnames[i]; ++i)
         out.put(tigetnum(numnames[i]), 4);
     int nOffset = 0;
-    for (int i = 0; i < nStrings; ++i) {
-        out.put(kept(strnames[i]) ? nOffset : -1, 2);
-        nOffset += kept(strnames[i]) ? size(kept(strnames[i])) : 0;
+    for (int i = 0; i < strings.nCount; ++i) {
+        out.put(strings.texts[i] ? nOffset : -1, 2);
+        nOffset += size(strings.texts[i]);
     }
-    for (int i = 0; i < nStrings; ++i) {
-        if (kept(strnames[i]))
-            out.put(kept(strnames[i]));
+    for (int i = 0; i < strings.nCount; ++i) {
+        if (strings.texts[i])
+            out.put(strings.texts[i]);
     }
     compileExtension(out);
 }

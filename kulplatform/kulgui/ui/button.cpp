@@ -99,9 +99,9 @@ void ShowButtonComponent(GUI* thisGUI, KULBUTTON* thisButton, int nFocus)
 void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, const char* szName)
 {
     const char* szText = szName ? szName : "";
-    Fill(win, nY, nX, kButtonHeight, nWidth, nColorSet);
     DrawBorder(win, nY, nX, kButtonHeight, nWidth, nColorSet);
     const kul::Attribute color(win, nColorSet);
+    kul::hRun(win, kul::shifted(nY, 1), kul::shifted(nX, 1), nWidth - 2LL, ' ');
     mvwaddstr(win, kul::shifted(nY, 1), kul::shifted(nX, Offset(nWidth, kul::length(szText))),
               szText);
 }

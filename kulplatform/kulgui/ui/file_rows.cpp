@@ -20,6 +20,16 @@ FileRows::FileRows(FileText& text, int nColumns)
 {
 }
 
+std::string_view FileRows::plainFrom(FilePlace place, FilePlace end)
+{
+    const std::string_view bytes = text_.at(place);
+    const std::size_t nMost = std::min(bytes.size(), static_cast<std::size_t>(end - place));
+    std::size_t n = 0;
+    while (n < nMost && bytes[n] >= ' ' && bytes[n] < 0x7f)
+        ++n;
+    return {bytes.data(), n};
+}
+
 FileRows::Glyph FileRows::glyph(FilePlace place, FilePlace end, int nColumn)
 {
     const int nByte = text_.byteAt(place);
@@ -76,8 +86,18 @@ int FileRows::shownCells(int nCells) const
 
 FileRows::Row FileRows::row(FilePlace start)
 {
-    const int nWanted = 2 * nColumns_ + 1;
+    const std::string_view plain = plainFrom(start, start + nColumns_);
+    const FilePlace newline = start + static_cast<FilePlace>(plain.size());
     const FilePlace edge = (start / FileText::kPiece + 1) * FileText::kPiece;
+    if (newline + kLongest < edge && text_.byteAt(newline) == '\n')
+        return {start, newline, newline + 1};
+    return wrappedRow(start, edge);
+}
+
+// A row of a line that is longer or holds more than plain characters. Cuts are at or behind edge.
+FileRows::Row FileRows::wrappedRow(FilePlace start, FilePlace edge)
+{
+    const int nWanted = 2 * nColumns_ + 1;
     FilePlace cut = -1; // not known: it matters near the edge only
     FilePlace place = start;
     int nCells = 0;

@@ -43,6 +43,10 @@ public:
     // The character at a place before end, in that column of a row.
     Glyph glyph(FilePlace place, FilePlace end, int nColumn);
 
+    // The bytes from a place to an end that are a character and a cell each, as far as they lie
+    // together; they stay until the next call.
+    std::string_view plainFrom(FilePlace place, FilePlace end);
+
     // Start of the row that holds a place; the last one for places behind the end.
     FilePlace rowOf(FilePlace place);
 
@@ -54,6 +58,7 @@ private:
     // A row and what lineStart looks at behind it, and what a last tab is too long.
     static constexpr int kCells = 2 * kMaxColumns + 1 + 8;
 
+    Row wrappedRow(FilePlace start, FilePlace edge);
     FilePlace placeOf(int nCell, int nCells, FilePlace start, FilePlace end) const;
     int shownCells(int nCells) const;
     Glyph wideGlyph(FilePlace place, FilePlace end);

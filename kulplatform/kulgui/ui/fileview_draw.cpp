@@ -2,6 +2,7 @@
 //
 // What a file viewer looks like.
 #include <algorithm>
+#include <string_view>
 
 #include "../gui/draw.hpp"
 #include "file_rows.hpp"
@@ -35,34 +36,48 @@ using kul::kMaxFileRows;
 
 constexpr int kScrollStyle = 1;
 
+// Draws plain characters as finished cells: curses need not look at each of them.
+void drawPlain(WINDOW* win, int nY, int nX, std::string_view text)
+{
+    chtype cells[FileRows::kMaxColumns];
+    const chtype attributes = static_cast<chtype>(getattrs(win));
+    const std::size_t nBefore =
+        static_cast<std::size_t>(std::max(-static_cast<long long>(nX), 0LL));
+    int nCells = 0;
+    for (std::size_t i = nBefore; i < text.size(); ++i)
+        cells[nCells++] = static_cast<unsigned char>(text[i]) | attributes;
+    if (nCells > 0)
+        mvwaddchnstr(win, nY, std::max(nX, 0), cells, nCells);
+}
+
 // A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
 void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
 {
-    wchar_t run[FileRows::kMaxColumns];
     const int nRight =
         static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
                                              static_cast<long long>(getmaxx(win)) - box.nX));
-    int nRun = 0;
-    int nFirst = 0; // column of the run's first character
     int nColumn = 0;
     for (FilePlace place = row.start; place < row.end && nColumn < nRight;) {
+        const int nX = kul::shifted(box.nX, nColumn);
+        const FilePlace room = place + nRight - nColumn;
+        const std::string_view plain = rows.plainFrom(place, std::min(row.end, room));
+        if (!plain.empty()) {
+            drawPlain(win, nY, nX, plain);
+            place += static_cast<FilePlace>(plain.size());
+            nColumn += static_cast<int>(plain.size());
+            continue;
+        }
         const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
         place += now.nBytes;
-        const bool blanks = now.character == L' ';
-        if (!blanks && nColumn + now.nCells > nRight)
+        if (now.character == L' ')
+            kul::hRun(win, nY, nX, std::min(now.nCells, nRight - nColumn), ' ');
+        else if (nColumn + now.nCells > nRight)
             break;
-        for (int i = 0; i < (blanks ? now.nCells : 1) && nColumn + i < nRight; ++i) {
-            if (kul::shifted(box.nX, nColumn + i) < 0)
-                continue;
-            if (nRun == 0)
-                nFirst = nColumn + i;
-            run[nRun++] = now.character;
-        }
+        else if (nX >= 0)
+            mvwaddnwstr(win, nY, nX, &now.character, 1);
         nColumn += now.nCells;
     }
     nColumn = std::min(nColumn, std::max(nRight, 0));
-    if (nRun > 0)
-        mvwaddnwstr(win, nY, kul::shifted(box.nX, nFirst), run, nRun);
     kul::hRun(win, nY, kul::shifted(box.nX, nColumn), static_cast<long long>(box.nWidth) - nColumn,
               ' ');
 }
