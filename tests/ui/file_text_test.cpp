@@ -66,6 +66,7 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         int nColumns;
         Rows rows;
     } const cases[] = {
+        // clang-format off
         {"empty", "", 10, {}},
         {"no newline at the end", "one\ntwo", 10, {"one", "two"}},
         {"only newlines", "\n\n\n", 10, {"", "", ""}},
@@ -73,11 +74,7 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         {"control bytes", std::string("a\0b\x1b[1m\x7f", 8), 10, {"a?b?[1m?"}},
         {"invalid bytes", "\xff\xc3(\xe2\x82", 10, {"?\?(??"}},
         {"characters of many bytes", "gr\xc3\xbc\xc3\x9f \xe2\x82\xac", 10, {"gr## #"}},
-        {"control and joining characters",
-         "a\xc2\x85"
-         "b\xcc\x81",
-         10,
-         {"a?b?"}},
+        {"control and joining characters", "a\xc2\x85" "b\xcc\x81", 10, {"a?b?"}},
         {"as wide as the row", "abc defgh\nx", 9, {"abc defgh", "x"}},
         {"at blanks", "abc defgh ij", 9, {"abc defgh", "ij"}},
         {"inside of a word", "abc defghi", 9, {"abc ", "defghi"}},
@@ -94,11 +91,8 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         {"tabs", "\ta\tb\n1234567\tc", 20, {"        a       b", "1234567 c"}},
         {"a tab wider than the row", "\tab", 4, {"        ", "ab"}},
         {"wide characters", "\xe4\xb8\xad\xe4\xb8\xad\xe4\xb8\xad", 5, {"##", "#"}},
-        {"too wide a character",
-         "\xe4\xb8\xad"
-         "a",
-         1,
-         {"?", "a"}},
+        {"too wide a character", "\xe4\xb8\xad" "a", 1, {"?", "a"}},
+        // clang-format on
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.szName);
@@ -113,14 +107,6 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         }
         EXPECT_EQ(got, test.rows);
     }
-}
-
-TEST(FileRowsTest, ShowsBytesOfOtherLocalesByStandIns)
-{
-    const TemporaryFile file("gr\xc3\xbc");
-    const Text text = open(file);
-    FileRows rows(*text, 10);
-    EXPECT_EQ(shown(rows, rows.row(0)), "gr??");
 }
 
 // Words, blanks, characters of several bytes, and lines of all lengths around the sizes that count.
@@ -344,17 +330,23 @@ TEST(FileRowsTest, EndsWhereTheFileWasCutOff)
     EXPECT_EQ(text->lineOf(end), 2);
 }
 
-// A file that was cut off and then written anew is not one that has been added to.
+// A file that was cut off and then written anew is not one that has been added to, whether or not
+// anybody read it in between.
 TEST(FileTextTest, ForgetsTheLinesOfAFileThatWasCutOff)
 {
-    const TemporaryFile file(std::string(400000, '\n'));
-    const Text text = open(file);
-    EXPECT_EQ(text->lineOf(400000), 400000);
-    file.write("short");
-    EXPECT_EQ(text->at(390000), "");
-    file.write(std::string(500000, 'x'));
-    EXPECT_EQ(text->refresh(), FileText::Change::Shorter);
-    EXPECT_EQ(text->lineOf(400000), 0);
+    for (const bool isRead : {false, true}) {
+        const std::string before(400000, '\n');
+        const TemporaryFile file(before);
+        const Text text = open(file);
+        EXPECT_EQ(text->lineOf(400000), 400000);
+        file.write("");
+        if (isRead) {
+            EXPECT_EQ(text->at(390000), "");
+        }
+        file.write((isRead ? before.substr(0, 100) : "") + std::string(500000, 'x'));
+        EXPECT_EQ(text->refresh(), FileText::Change::Shorter);
+        EXPECT_EQ(text->lineOf(400000), isRead ? 100 : 0);
+    }
 }
 
 } // namespace

@@ -59,8 +59,10 @@ FileText* FileText::open(const char* szName)
     text->forgetLines();
     char byte;
     if (text->nDescriptor_ >= 0 && fstat(text->nDescriptor_, &status) == 0 && isRegular(status) &&
-        readAt(text->nDescriptor_, &byte, 1, 0) >= 0 && text->look())
+        readAt(text->nDescriptor_, &byte, 1, 0) >= 0 && text->look()) {
+        text->beginsAsBefore();
         return text;
+    }
     close(text);
     return nullptr;
 }
@@ -93,6 +95,18 @@ bool FileText::look()
     return true;
 }
 
+// Whether the file begins as it did at the last look; takes note of how it begins now.
+bool FileText::beginsAsBefore()
+{
+    char head[kHead];
+    const auto nHead =
+        static_cast<std::size_t>(std::max<ssize_t>(readAt(nDescriptor_, head, kHead, 0), 0));
+    const bool same = nHead >= nHead_ && std::memcmp(head, head_, nHead_) == 0;
+    std::memcpy(head_, head, nHead);
+    nHead_ = nHead;
+    return same;
+}
+
 void FileText::forgetLines()
 {
     stride_ = kChunk;
@@ -102,13 +116,15 @@ void FileText::forgetLines()
 FileText::Change FileText::refresh()
 {
     const FilePlace before = size_;
-    const bool cut = size_ < std::min(seen_.size, kLargest); // reading has met an earlier end
+    const bool metEnd = size_ < std::min(seen_.size, kLargest); // reading has met an earlier one
     if (!look())
         return Change::None;
+    // A log that was emptied may be longer than before by now.
+    const bool cut = !beginsAsBefore() || metEnd;
     for (Page& page : pages_)
         page.nUsed = 0;
     lastSize_ = 0;
-    if (cut || size_ <= before) // a longer one has been added to
+    if (cut || size_ <= before) // else it has been added to
         forgetLines();
     return cut || size_ < before ? Change::Shorter : Change::Some;
 }

@@ -8,6 +8,7 @@
 #ifndef KUL_UI_FILE_TEXT_HPP
 #define KUL_UI_FILE_TEXT_HPP
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -83,6 +84,7 @@ private:
     static constexpr int kChunk = 1 << 17;
     static constexpr int kOverlap = 1 << 12;
     static constexpr int kMarks = 1 << 12;
+    static constexpr int kHead = 64;
 
     // While reading through the file: how many newlines come before a place.
     struct Counted {
@@ -111,10 +113,13 @@ private:
     bool continuesWith(FilePlace place, std::string_view text);
     void forgetLines();
     bool look();
+    bool beginsAsBefore();
 
     int nDescriptor_;
     FilePlace size_;
     Seen seen_;
+    char head_[kHead]; // how the file begins
+    std::size_t nHead_;
     const char* last_; // the page that was used last, as far as the file goes
     FilePlace lastPlace_;
     std::uint64_t lastSize_;
