@@ -713,9 +713,10 @@ KULGUI_API int kulfileview_create(int nChain, int nRef);
 
 /** Sets a file viewer up. The three colour sets: KUL_KEEP takes the dialog's. nX, nY: top left
  * corner; nWidth, nHeight: the size with the frame. nBorder: BORDER draws a frame, NOBORDER, the
- * default, none; other values count as the default. szFileName is shown as by kulfileview_load.
- * onFocus and onUnfocus run when the viewer gets and loses the focus. Returns 0, -1 for an unknown
- * component, -10028 when the file cannot be loaded: the viewer is set up then, and empty. */
+ * default, none; other values count as the default. szFileName is shown as by kulfileview_load;
+ * following is off. onFocus and onUnfocus run when the viewer gets and loses the focus, onSelect
+ * after a move, onClick for Enter. Returns 0, -1 for an unknown component, -10028 when the file
+ * cannot be loaded: the viewer is set up then, and empty. */
 KULGUI_API int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                   int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                   int nBorder, const char* szFileName, KULCALLBACK onFocus,
@@ -844,14 +845,15 @@ KULGUI_API int kulcheckbox_getFocus(int nChain, int nRef);
 KULGUI_API int kulcheckbox_show(int nChain, int nRef);
 KULGUI_API int kulcheckbox_hide(int nChain, int nRef);
 
-/** Gives a list the keys until it loses the focus. Returns 10 after Tab and -10 after Escape, 10
- * at once when it is hidden, 0 when a callback hides it or after kulgui_setFocus, KUL_LEFT after
- * kulgui_leave, -10000 when it is gone or no check box list, or the line was hung up. */
+/** Gives a list the keys until it loses the focus; one that a callback hides goes on unseen. Space
+ * and Enter check any element, also those that setSelect cannot name. Returns 10 after Tab and -10
+ * after Escape, 10 at once when it is hidden, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
+ * -10000 when it is gone or no check box list, or the line was hung up. */
 KULGUI_API int kulcheckbox_execKeys(int nChain, int nRef);
 
 /** The steps of scrolling, by the record alone; a list without rows has an empty view.
- * SetFirst... begins the view with the element at nFirstShowed, SetFirst...FromEnd so that the
- * last element is the last in view, SetLast... ends it where the box is full. Check... gives T when
+ * SetFirst... begins the view with the element at nFirstShowed, SetFirst...FromEnd where the last
+ * elements fill the box, SetLast... ends it where the box is full. Check... gives T when
  * the last element in view is cut, else F. GetTotal... gives the rows of all elements. */
 KULGUI_API void SetFirstCheckElement(KULCHECKBOX* thisCheckbox);
 KULGUI_API void SetFirstCheckElementFromEnd(KULCHECKBOX* thisCheckbox);
@@ -941,7 +943,8 @@ KULGUI_API int kuloptions_getSelected(int nChain, int nRef);
 KULGUI_API int kuloptions_show(int nChain, int nRef);
 KULGUI_API int kuloptions_hide(int nChain, int nRef);
 
-/** As kulcheckbox_execKeys, but -1 at once when the list is hidden, unknown or no option list. */
+/** As kulcheckbox_execKeys, but Space and Enter choose an element. Returns -1 at once when the list
+ * is hidden, unknown or no option list, and 0 when a callback hides it. */
 KULGUI_API int kuloptions_execKeys(int nChain, int nRef);
 
 /** As their like of the check box lists. */
@@ -957,8 +960,9 @@ KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
  *     │gateway     │      Arrows, Home, End: move the cursor
  *     └────────────┘      Tab, Enter: next component; Escape: previous one
  *
- * onKey runs after each of these keys. A text is bytes, one a cell, row by row; blanks at the start
- * of a row are not shown.
+ * onKey runs after every key, whether the box has a use for it or not. A text is bytes, one a cell,
+ * row by row; blanks at the start of a row after the first are skipped, unless they fill all but
+ * its last cell.
  */
 
 typedef enum masking { NOMASK = -1, MASK = 0 } MASKING;
@@ -972,12 +976,12 @@ typedef struct kultextbox {
     int nY;
     int nWidth; /* with the border */
     int nHeight;
-    int nBorder;    /* BORDERS */
-    int nCursor;    /* CURSOR; for DrawTextBox */
-    int nCursorPos; /* index into the text */
-    int nLength;    /* of the text */
-    int nMaxLength; /* cells inside the border */
-    char* szText;
+    int nBorder;           /* BORDERS */
+    int nCursor;           /* CURSOR; for DrawTextBox */
+    int nCursorPos;        /* index into the text */
+    int nLength;           /* of the text */
+    int nMaxLength;        /* cells inside the border */
+    char* szText;          /* nMaxLength + 1 bytes; NULL before kultextbox_config */
     const char* szCharSet; /* the program's */
     int nMask;             /* MASKING */
     int nVisible;
@@ -996,19 +1000,20 @@ KULGUI_API int kultextbox_create(int nChain, int nRef);
  * room for text. nBorder: BORDERS, anything else is NOBORDER. nMask: MASK shows asterisks, anything
  * else is NOMASK. szCharSet: the characters that can be typed, NULL for all that print; it is not
  * copied and must outlive the box. onFocus runs when the box gets the focus, onUnfocus when it
- * loses it. Returns 0, -1 for an unknown component, without memory or for more than 16 million
- * cells. */
+ * loses it, onKey after each key. Returns 0; -1 for an unknown component, and without memory, for a
+ * negative number of cells or more than 16 million: then the box has no text and takes none. */
 KULGUI_API int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                  int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                  int nBorder, int nMask, const char* szCharSet, KULCALLBACK onFocus,
                                  KULCALLBACK onUnfocus, KULCALLBACK onKey);
 
-/** Copies a text into the box; the cursor stays where it is, or moves to its end if that comes
- * first. Returns 0, -1 for an unknown component or NULL, and for a text that has nMaxLength
- * characters or more: then the box is empty. */
+/** Copies a text into the box. The cursor stays at its index, or goes to the end of a text that is
+ * shorter. Returns 0, -1 for an unknown component, one that was not set up or NULL, and for a text
+ * that has nMaxLength characters or more: then the box is empty. */
 KULGUI_API int kultextbox_setText(int nChain, int nRef, const char* szText);
 
-/** The text, the library's own; NULL for an unknown component or one that was not set up. */
+/** The text, the library's own, until the box is set up again or destroyed; NULL for an unknown
+ * component or one that was not set up. */
 KULGUI_API char* kultextbox_getText(int nChain, int nRef);
 
 /** Show or hide the box from the next drawing on. Always -1, also when all is well. */
@@ -1020,8 +1025,8 @@ KULGUI_API int kultextbox_hide(int nChain, int nRef);
  * kulgui_leave, -10000 when it is gone or no text box, or the line was hung up. */
 KULGUI_API int kultextbox_execKeys(int nChain, int nRef);
 
-/** The steps of editing. They change the record and draw nothing. Delete at the end of the text
- * takes off its last character. */
+/** The steps of editing. They change the record and draw nothing. Up and Down move by a row where
+ * the box has more than one, Delete at the end of the text takes off its last character. */
 KULGUI_API void TextBoxGoHome(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxGoEnd(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxGoRight(KULTEXTBOX* thisBox);
@@ -1032,11 +1037,12 @@ KULGUI_API void TextBoxBackspace(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxDelete(KULTEXTBOX* thisBox);
 
 /** Writes the character of a key over the one at the cursor, if it is allowed and there is room.
- * With a character set the low byte of the key counts. */
+ * With a character set the low byte of the key counts; without one 32 to 255 are allowed. */
 KULGUI_API void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke);
 
 /** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. With a border
- * its rows go over the right side of it. */
+ * its rows go over the right side of it; with MASK the end of the text shows as one more asterisk.
+ * The boxes of dialogs are not drawn by it. */
 KULGUI_API void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor);
 
 /** Index of the first such character in a text; -1 for none or NULL. */

@@ -30,8 +30,13 @@ public:
     std::string path() const { return directory_ + "/file"; }
     const std::string& directory() const { return directory_; }
 
-    void write(const std::string& text) const { put(text, std::ios::trunc); }
-    void append(const std::string& text) const { put(text, std::ios::app); }
+    void append(const std::string& text) const { write(text, std::ios::app); }
+    void write(const std::string& text, std::ios::openmode how = std::ios::trunc) const
+    {
+        std::ofstream file(path(), std::ios::binary | how);
+        file << text;
+        ASSERT_TRUE(file.flush());
+    }
 
     // Another file of the same name.
     void replace(const std::string& text) const
@@ -41,13 +46,6 @@ public:
     }
 
 private:
-    void put(const std::string& text, std::ios::openmode how) const
-    {
-        std::ofstream file(path(), std::ios::binary | how);
-        file << text;
-        ASSERT_TRUE(file.flush());
-    }
-
     std::string directory_;
 };
 

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "window_test.hpp"
 
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <ctime>
 #include <deque>
 #include <string_view>
+#include <utility>
+
+#include "ui/component.hpp"
 
 namespace {
 
@@ -13,6 +17,7 @@ std::deque<int> script;
 std::vector<KULCALLBACK> scriptActions;
 std::time_t clockNow = 1000000;
 int goodAllocations = INT_MAX;
+int nUpdates = INT_MIN; // since a key was given; far below while none was
 
 bool allocationFails()
 {
@@ -44,6 +49,26 @@ std::string lineGlyph(char letter)
     return place == kLetters.npos ? "?" : std::string(kGlyphs.substr(3 * place, 3));
 }
 
+template <typename Look>
+kultest::Rows rowsOf(WINDOW* win, int y, int x, int height, int width, Look look)
+{
+    kultest::Rows rows(static_cast<std::size_t>(height));
+    for (std::string& row : rows) {
+        for (int column = x; column < x + width; ++column)
+            row += look(kultest::cellOf(win, y, column));
+        ++y;
+    }
+    return rows;
+}
+
+std::string joined(const kultest::Rows& rows)
+{
+    std::string text;
+    for (const std::string& row : rows)
+        text += row + '|';
+    return text;
+}
+
 } // namespace
 
 // The linker sends the library's calls of these here.
@@ -52,20 +77,17 @@ extern "C" {
 void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 char* __real_strdup(const char* text);
+int __real_doupdate();
 
-void* __wrap_malloc(std::size_t size)
-{
-    return allocationFails() ? nullptr : __real_malloc(size);
-}
+// clang-format off
+void* __wrap_malloc(std::size_t size) { return allocationFails() ? nullptr : __real_malloc(size); }
+char* __wrap_strdup(const char* text) { return allocationFails() ? nullptr : __real_strdup(text); }
+int __wrap_NCursesEnv(int) { return 0; }
+// clang-format on
 
 void* __wrap_calloc(std::size_t count, std::size_t size)
 {
     return allocationFails() ? nullptr : __real_calloc(count, size);
-}
-
-char* __wrap_strdup(const char* text)
-{
-    return allocationFails() ? nullptr : __real_strdup(text);
 }
 
 std::time_t __wrap_time(std::time_t* result)
@@ -75,13 +97,15 @@ std::time_t __wrap_time(std::time_t* result)
     return clockNow;
 }
 
-int __wrap_NCursesEnv(int)
+int __wrap_doupdate()
 {
-    return 0;
+    ++nUpdates;
+    return __real_doupdate();
 }
 
 int __wrap_Inkeys()
 {
+    EXPECT_LE(std::exchange(nUpdates, INT_MIN), 1) << "updates of the terminal for one key";
     if (script.empty()) {
         kulgui_leave(GetCurrentSelection()->nChain);
         kulgui_leave(GetActiveChain()); // a loop in which no component could take the focus
@@ -93,6 +117,7 @@ int __wrap_Inkeys()
         scriptActions[static_cast<std::size_t>(-2 - key)]();
         return 0;
     }
+    nUpdates = key > 0 ? 0 : INT_MIN;
     return key;
 }
 }
@@ -110,42 +135,22 @@ Cell cellOf(WINDOW* win, int y, int x)
 
 Rows picture(WINDOW* win, int y, int x, int height, int width)
 {
-    Rows rows;
-    for (int row = y; row < y + height; ++row) {
-        std::string text;
-        for (int column = x; column < x + width; ++column)
-            text += cellOf(win, row, column).glyph;
-        rows.push_back(text);
-    }
-    return rows;
+    return rowsOf(win, y, x, height, width, [](const Cell& cell) { return cell.glyph; });
 }
 
 Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend)
 {
-    Rows rows;
-    for (int row = y; row < y + height; ++row) {
-        std::string text;
-        for (int column = x; column < x + width; ++column) {
-            const Cell cell = cellOf(win, row, column);
-            char letter = '?';
-            for (const Legend& entry : legend) {
-                if (entry.pair == cell.pair)
-                    letter = entry.letter;
-            }
-            text += cell.attributes & A_REVERSE ? static_cast<char>(std::toupper(letter)) : letter;
-        }
-        rows.push_back(text);
-    }
-    return rows;
-}
-
-void typeKeys(const std::vector<int>& keys)
-{
-    typeKeys(keys, {});
+    return rowsOf(win, y, x, height, width, [&](const Cell& cell) {
+        const auto entry = std::find_if(legend.begin(), legend.end(),
+                                        [&](const Legend& one) { return one.pair == cell.pair; });
+        const char letter = entry == legend.end() ? '?' : entry->letter;
+        return cell.attributes & A_REVERSE ? static_cast<char>(std::toupper(letter)) : letter;
+    });
 }
 
 void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions)
 {
+    nUpdates = INT_MIN;
     script.assign(keys.begin(), keys.end());
     scriptActions = actions;
 }
@@ -198,6 +203,33 @@ WINDOW* WindowTest::window(int nChain)
     return GetChain(nChain)->Pointer->winMain;
 }
 
+void CanvasTest::SetUp()
+{
+    WindowTest::SetUp();
+    gui_ = makeDialog(1, nWidth_, nHeight_);
+    kulgui_show(1);
+    win_ = window(1);
+    clear();
+}
+
+void CanvasTest::clear()
+{
+    for (int row = 0; row < nHeight_; ++row)
+        mvwaddstr(win_, row, 0, std::string(static_cast<std::size_t>(nWidth_), '.').c_str());
+}
+
+std::string CanvasTest::drawn(int nY, int nX, int nHeight, int nWidth)
+{
+    ShowDisplayComponents(gui_);
+    return joined(picture(win_, nY, nX, nHeight ? nHeight : nHeight_, nWidth ? nWidth : nWidth_));
+}
+
+std::string CanvasTest::shades(int nY, int nX, int nHeight, int nWidth) const
+{
+    return joined(colors(win_, nY, nX, nHeight, nWidth,
+                         {{'b', RED_BLUE}, {'w', RED_WHITE}, {'c', RED_CYAN}, {'-', 0}}));
+}
+
 void ComponentTest::SetUp()
 {
     WindowTest::SetUp();
@@ -210,6 +242,12 @@ void ComponentTest::renew()
     makeDialog(1);
     kulgui_show(1);
     events.clear();
+}
+
+int ComponentTest::press(const std::vector<int>& keys)
+{
+    typeKeys(keys);
+    return kul::uiKind(GetUIComponentByRef(1, kRef)->nType)->execKeys(1, kRef);
 }
 
 Rows ComponentTest::shown(int y, int x, int height, int width)

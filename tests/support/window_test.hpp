@@ -39,12 +39,10 @@ struct Legend {
 // The colours of a rectangle; a pair that is not in the legend shows as '?'.
 Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend);
 
-// Keys that the next handlers get, one a wait; 0 is a wait without a key. After the last one the
-// dialog in focus is asked to end.
-void typeKeys(const std::vector<int>& keys);
-
-// Something to do in place of a key: -2 counts down into these, -2 being the first.
-void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions);
+// Keys that the next handlers get, one a wait; 0 is a wait without a key, and something to do in
+// place of one is counted down from -2 on. After the last one the dialog in focus is asked to end.
+// Each key may cost one update of the terminal; more is a failure.
+void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions = {});
 
 // Moves the clock that the library reads.
 void advanceClock(int seconds);
@@ -67,6 +65,29 @@ protected:
 
     // The window of a dialog.
     static WINDOW* window(int nChain);
+};
+
+// Dialog 1 with its window full of dots, so that what is drawn shows, blanks too.
+class CanvasTest : public WindowTest {
+protected:
+    CanvasTest(int nWidth, int nHeight) : nWidth_(nWidth), nHeight_(nHeight) {}
+    void SetUp() override;
+
+    // The dots again, over all that was drawn.
+    void clear();
+
+    // Draws the dialog's items, and gives a rectangle (or all) as one text, a bar after each row.
+    std::string drawn(int nY = 0, int nX = 0, int nHeight = 0, int nWidth = 0);
+
+    // Its colours: 'b' RED_BLUE, 'w' RED_WHITE, 'c' RED_CYAN, '-' none, upper case for reverse.
+    std::string shades(int nY, int nX, int nHeight, int nWidth) const;
+
+    GUI* gui_ = nullptr;
+    WINDOW* win_ = nullptr;
+
+private:
+    int nWidth_;
+    int nHeight_;
 };
 
 // The component that a ComponentTest is about, in dialog 1.
@@ -93,6 +114,9 @@ protected:
 
     // The dialog anew, and no events.
     void renew();
+
+    // Gives the component these keys; what its handler returns.
+    static int press(const std::vector<int>& keys);
 
     static Rows shown(int y, int x, int height, int width);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What a dynamic menu shows; its keys are tested with those of the other menus.
+// How a dynamic menu scrolls and cuts texts; the rest is tested with the other menus.
 #include "support/window_test.hpp"
 
 #include <climits>
@@ -27,45 +27,15 @@ protected:
         for (const char* szText : texts)
             EXPECT_EQ(kuldynmenu_addElement(1, kRef, szText, nullptr, nullptr, 1), 0);
     }
-
-    static void press(const std::vector<int>& keys)
-    {
-        typeKeys(keys);
-        EXPECT_EQ(kuldynmenu_execKeys(1, kRef), KUL_LEFT);
-    }
 };
-
-TEST_F(DynmenuTest, ShowsItsElementsInAFrame)
-{
-    fill(2, 1, 6, 4, {"one", "seventeen", "no"});
-    kuldynmenu_getElement(1, kRef, 2)->nEnable = 0;
-    EXPECT_EQ(menu().nMaxLength, 9);
-    press({});
-    // clang-format off
-    EXPECT_EQ(shown(1, 1, 6, 10), (Rows{" ┌──────┐ ", " │one   │ ", " │sevent│ ", " │no    │ ", " │      │ ", " └──────┘ "}));
-    EXPECT_EQ(shades(1, 1, 6, 10), (Rows{".ffffffff.", ".ffffffff.", ".fuuuuuuf.", ".fddddddf.", ".ffffffff.", ".ffffffff."}));
-    // clang-format on
-    press({KS_UP}); // none is selected
-    EXPECT_EQ(shades(2, 2, 3, 8), (Rows{"fuuuuuuf", "fuuuuuuf", "fddddddf"}));
-    kulgui_show(1);
-    EXPECT_EQ(shades(2, 2, 3, 8), (Rows{"uuuuuuuu", "uuuuuuuu", "uuuuuuuu"}));
-    kuldynmenu_hide(1, kRef);
-    kulgui_show(1);
-    EXPECT_EQ(shades(2, 2, 1, 8), (Rows{"........"}));
-}
 
 TEST_F(DynmenuTest, ScrollsWithTheSelection)
 {
     // clang-format off
     const struct { std::vector<int> keys; Rows shown; int nSelect; } rows[] = {
-        {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2},
-        {{KS_DOWN}, {"b", "c", "d"}, 3},
-        {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
-        {{KS_UP}, {"a", "b", "c"}, 0},
-        {{KS_UP}, {"c", "d", "e"}, 5}, // the place after the last one
-        {{KS_DOWN}, {"a", "b", "c"}, 0},
-        {{KS_UP, KS_UP}, {"c", "d", "e"}, 4},
-        {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
+        {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2}, {{KS_DOWN}, {"b", "c", "d"}, 3}, {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
+        {{KS_UP}, {"a", "b", "c"}, 0}, {{KS_UP}, {"c", "d", "e"}, 5}, // the place after the last one
+        {{KS_DOWN}, {"a", "b", "c"}, 0}, {{KS_UP, KS_UP}, {"c", "d", "e"}, 4}, {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
     };
     // clang-format on
     fill(2, 1, 1, 3, {"a", "b", "c", "d", "e"});
@@ -86,7 +56,8 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
 
 TEST_F(DynmenuTest, ScrollBarAppearsWhenTheListIsLonger)
 {
-    fill(0, 0, 3, 5, {"1", "2", "3", "4", "5"});
+    fill(0, 0, 3, 5, {"1", "longest", "3", "4", "5"});
+    EXPECT_EQ(menu().nMaxLength, 7);
     press({});
     EXPECT_EQ(shown(0, 4, 7, 1), (Rows{"┐", "│", "│", "│", "│", "│", "┘"}));
     fill(0, 0, 3, 5, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "a", "b", "c", "d", "e"});
@@ -95,62 +66,41 @@ TEST_F(DynmenuTest, ScrollBarAppearsWhenTheListIsLonger)
     EXPECT_EQ(shades(0, 4, 7, 1), (Rows{"F", "F", "F", "f", "f", "f", "f"}));
 }
 
-TEST_F(DynmenuTest, KeepsInsideOfItsFrame)
+TEST_F(DynmenuTest, CutsTextsByTheColumnsOfTheLocale)
 {
     // clang-format off
-    const struct { const char *szText, *shown; } rows[] = {
-        {"a\nb\tc\001d", "a b c d   "},
-        {nullptr, "          "},
-        {"\177del", " del      "},
-        {"123456789\x01", "123456789 "},
-        {"123456789\x80!", "123456789?"},
-        {"much longer than it", "much longe"},
+    const struct { const char *locale, *szText; std::wstring shown; } rows[] = { // with the frame: x
+        {"C", "a\nb\tc\001d", L"xa b cx"}, {"C", nullptr, L"x     x"}, {"C", "\177del", L"x del x"},
+        {"C", "1234\x01", L"x1234 x"}, {"C", "1234\x80!", L"x1234?x"}, {"C", "much longer", L"xmuch x"},
+        {"C.UTF-8", "\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9", L"x\u00e9\u00e9\u00e9\u00e9\u00e9x"},
+        {"C.UTF-8", "abc\u4e2d\u4e2d", L"xabc\u4e2d\u4e2dx"},
+        {"C.UTF-8", "abcd\u4e2d", L"xabcd x"},
+        {"C.UTF-8", "\u0301a", L"xa    x"}, // the accent is not the frame's
+        {"C.UTF-8", "\xc2\u4e2d\xe4", L"x?\u4e2d\u4e2d? x"},
+        {"C.UTF-8", "abcd\xc2", L"xabcd?x"},
     };
     // clang-format on
     for (const auto& row : rows) {
-        fill(5, 1, 10, 1, {row.szText});
+        ASSERT_NE(std::setlocale(LC_CTYPE, row.locale), nullptr);
+        fill(5, 1, 5, 1, {row.szText});
         press({});
-        EXPECT_EQ(shown(2, 4, 1, 14), (Rows{" │" + std::string(row.shown) + "│ "}));
-    }
-    fill(35, 1, 20, 2, {"abcdefgh", "ijklmnop"}); // the window ends first
-    press({});
-    EXPECT_EQ(shown(2, 34, 2, 6), (Rows{" │abcd", " │ijkl"}));
-    EXPECT_EQ(shown(2, 0, 3, 6), (Rows{"│     ", "│     ", "│     "}));
-}
-
-TEST_F(DynmenuTest, CutsByColumnsWhereTheLocaleHasWideCharacters)
-{
-    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
-    // clang-format off
-    const struct { const char* szText; std::wstring shown; } rows[] = { // with the frame: x
-        {"\u00e9\u00e9\u00e9\u00e9", L"x\u00e9\u00e9\u00e9x"},
-        {"a\u4e2d\u4e2d", L"xa\u4e2d\u4e2dx"},
-        {"ab\u4e2d", L"xab x"},
-        {"\u0301a", L"xa  x"}, // the accent is not the frame's
-        {"\xc2\u4e2d\xe4", L"x?\u4e2d\u4e2dx"},
-        {"ab\xc2", L"xab?x"},
-    };
-    // clang-format on
-    std::vector<const char*> texts;
-    for (const auto& row : rows)
-        texts.push_back(row.szText);
-    fill(5, 1, 3, 6, texts);
-    press({});
-    std::setlocale(LC_CTYPE, "C");
-    for (int y = 2; const auto& row : rows) {
         std::wstring cells;
-        for (int x = 5; x < 10; ++x) {
+        for (int x = 5; x < 12; ++x) {
             cchar_t cell;
             wchar_t text[CCHARW_MAX + 1] = L"";
             attr_t attributes;
             short nPair;
-            mvwin_wch(window(1), y, x, &cell);
+            mvwin_wch(window(1), 2, x, &cell);
             getcchar(&cell, text, &attributes, &nPair, nullptr);
             cells += text;
         }
         EXPECT_EQ(cells, row.shown) << row.szText;
-        ++y;
     }
+    std::setlocale(LC_CTYPE, "C");
+    fill(35, 1, 20, 2, {"abcdefgh", "ijklmnop"}); // the window ends first
+    press({});
+    EXPECT_EQ(shown(2, 34, 2, 6), (Rows{" │abcd", " │ijkl"}));
+    EXPECT_EQ(shown(2, 0, 3, 6), (Rows{"│     ", "│     ", "│     "}));
 }
 
 TEST_F(DynmenuTest, AnySizeAndPlace)

@@ -1,302 +1,248 @@
 // SPDX-License-Identifier: MIT
-#include <climits>
-#include <string>
-
 #include "support/window_test.hpp"
+
+#include <climits>
+#include <cstring>
 
 namespace {
 
-using kultest::Rows;
+using namespace kultest;
 
-std::string events;
+constexpr int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, kHome = KS_HOME, kEnd = KS_END;
+constexpr int kBack = KS_BACKSPACE, kDelete = KS_DELETE, kTab = KS_TAB;
 
-class TextboxTest : public kultest::WindowTest {
+struct Box {
+    int nWidth, nHeight, nBorder = NOBORDER, nMask = NOMASK;
+    const char* szCharSet = nullptr;
+};
+
+class TextboxTest : public ComponentTest {
 protected:
     void SetUp() override
     {
-        WindowTest::SetUp();
-        events.clear();
-        makeDialog(1);
-        kulgui_show(1);
-        ASSERT_EQ(kultextbox_create(1, 1), 0);
+        ComponentTest::SetUp();
+        ASSERT_EQ(kultextbox_create(1, kRef), 0);
     }
 
-    static int config(int nWidth, int nHeight, int nBorder = NOBORDER, int nMask = KUL_KEEP,
-                      const char* szCharSet = nullptr)
+    static KULTEXTBOX& box() { return record<KULTEXTBOX>(); }
+
+    static int config(
+        const Box& box, KULCALLBACK onKey = [] { note(GetCurrentTextboxData()); }, int nRef = kRef)
     {
         return kultextbox_config(
-            1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nWidth, nHeight, nBorder, nMask, szCharSet,
-            [] { events += "focus "; }, [] { events += "unfocus "; },
-            [] { events += std::string("key:") + GetCurrentTextboxData() + " "; });
+            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, box.nWidth, box.nHeight, box.nBorder,
+            box.nMask, box.szCharSet, [] { note("focus"); }, [] { note("unfocus"); }, onKey);
     }
 
-    static KULTEXTBOX& record()
+    static void fill(const Box& size, const char* szText, int nCursorPos)
     {
-        return *static_cast<KULTEXTBOX*>(GetUIComponentByRef(1, 1)->Pointer);
+        EXPECT_EQ(config(size), 0);
+        EXPECT_EQ(kultextbox_setText(1, kRef, szText), 0);
+        box().nCursorPos = nCursorPos;
     }
-
-    static void run(std::vector<int> keys)
-    {
-        keys.push_back(KS_TAB);
-        kultest::typeKeys(keys);
-        EXPECT_EQ(kultextbox_execKeys(1, 1), 10);
-    }
-};
-
-struct Script {
-    const char* szText;
-    int nCursorPos;
-    std::vector<int> keys;
-    const char* szAfter;
-    int nCursorAfter;
-};
-
-// In a box of 3 rows of 4 columns.
-const Script kScripts[] = {
-    {"abc", 1, {'x'}, "axc", 2},
-    {"abc", 3, {'d', 'e'}, "abcde", 5},
-    {"", 0, {'a', ' ', '~', 255}, "a ~\xff", 4},
-    {"abc", 1, {KS_BACKSPACE}, "bc", 0},
-    {"abc", 0, {KS_BACKSPACE}, "abc", 0},
-    {"abc", 3, {KS_BACKSPACE, KS_BACKSPACE, KS_BACKSPACE, KS_BACKSPACE}, "", 0},
-    {"abc", 1, {KS_DELETE}, "ac", 1},
-    {"abc", 2, {KS_DELETE, KS_DELETE}, "a", 1},
-    {"", 0, {KS_DELETE}, "", 0},
-    {"abcdef", 2, {KS_HOME, 'x'}, "xbcdef", 1},
-    {"abcdef", 2, {KS_END, 'x'}, "abcdefx", 7},
-    {"abc", 0, {KS_LEFT, KS_RIGHT, KS_RIGHT, KS_RIGHT, KS_RIGHT, KS_LEFT}, "abc", 2},
-    {"abcdef", 1, {KS_DOWN}, "abcdef", 5},
-    {"abcdef", 3, {KS_DOWN}, "abcdef", 3},
-    {"abcdef", 5, {KS_UP}, "abcdef", 1},
-    {"abcdef", 3, {KS_UP}, "abcdef", 3},
-    {"abcdefghijk", 11, {'l', 'm'}, "abcdefghijkl", 12},
-    {"abc", 1, {KS_F1, KS_F2, KS_F12, KS_INSERT, KS_PAGEUP, 1, 256, -23, 0}, "abc", 1},
 };
 
 TEST_F(TextboxTest, Edits)
 {
-    for (const Script& script : kScripts) {
+    const Box rows{4, 3}, two{4, 2}, framed{6, 5, BORDER}, line{6, 1};
+    const Box digits{9, 1, NOBORDER, NOMASK, "0123456789.\xe8"}, none{9, 1, NOBORDER, NOMASK, ""};
+    // clang-format off
+    const struct { Box box; const char* szText; int nCursorPos; std::vector<int> keys; const char* szAfter; int nAfter; } scripts[] = {
+        {rows, "abc", 1, {'x'}, "axc", 2}, {rows, "abc", 3, {'d', 'e'}, "abcde", 5}, {rows, "", 0, {'a', ' ', '~', 255}, "a ~\xff", 4},
+        {rows, "abc", 1, {kBack}, "bc", 0}, {rows, "abc", 0, {kBack}, "abc", 0}, {rows, "abc", 3, {kBack, kBack, kBack, kBack}, "", 0},
+        {rows, "abc", 1, {kDelete}, "ac", 1}, {rows, "abc", 2, {kDelete, kDelete}, "a", 1}, {rows, "", 0, {kDelete}, "", 0},
+        {rows, "abcdef", 2, {kHome, 'x'}, "xbcdef", 1}, {rows, "abcdef", 2, {kEnd, 'x'}, "abcdefx", 7}, {rows, "abc", 0, {L, R, R, R, R, L}, "abc", 2},
+        {two, "abcdef", 1, {D}, "abcdef", 5}, {rows, "abcdef", 3, {D}, "abcdef", 3}, {rows, "abcdef", 2, {D}, "abcdef", 6},
+        {two, "abcdef", 4, {U}, "abcdef", 0}, {rows, "abcdef", 3, {U}, "abcdef", 3}, {framed, "abcdef", 0, {R, D}, "abcdef", 5},
+        {line, "abcde", 5, {'f', U}, "abcdef", 6}, {line, "abcde", 5, {'f', kHome, D}, "abcdef", 0}, {rows, "abcdefghijk", 11, {'l', 'm'}, "abcdefghijkl", 12},
+        {rows, "abc", 1, {KS_F1, KS_F2, KS_F12, KS_INSERT, KS_PAGEUP, 1, 31, 256, -23, 0}, "abc", 1},
+        {rows, "abc", INT_MAX, {'d'}, "abcd", 4}, {rows, "abc", INT_MIN, {kDelete}, "bc", 0},
+        {digits, "", 0, {'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256}, "19.\xe8" "0", 5}, {none, "", 0, {'1', 256}, "", 0},
+    };
+    // clang-format on
+    for (const auto& script : scripts) {
         SCOPED_TRACE(std::string(script.szText) + "->" + script.szAfter);
-        ASSERT_EQ(config(4, 3), 0);
-        EXPECT_EQ(record().nMaxLength, 12);
-        ASSERT_EQ(kultextbox_setText(1, 1, script.szText), 0);
-        record().nCursorPos = script.nCursorPos;
-        run(script.keys);
-        EXPECT_STREQ(kultextbox_getText(1, 1), script.szAfter);
-        EXPECT_EQ(record().nCursorPos, script.nCursorAfter);
-        EXPECT_EQ(record().nLength, static_cast<int>(std::string(script.szAfter).size()));
-    }
-}
-
-TEST_F(TextboxTest, RowsAreThoseInsideTheBorder)
-{
-    config(6, 5, BORDER);
-    EXPECT_EQ(record().nMaxLength, 12);
-    kultextbox_setText(1, 1, "abcdef");
-    run({KS_RIGHT, KS_DOWN});
-    EXPECT_EQ(record().nCursorPos, 5);
-    config(6, 1);
-    kultextbox_setText(1, 1, "abcde");
-    run({KS_END, KS_UP, KS_LEFT, KS_DOWN});
-    EXPECT_EQ(record().nCursorPos, 4);
-}
-
-TEST_F(TextboxTest, TakesOnlyItsCharacters)
-{
-    config(20, 1, NOBORDER, NOMASK, "0123456789.\xe8");
-    run({'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256});
-    EXPECT_STREQ(kultextbox_getText(1, 1), "19.\xe8"
-                                           "0");
-    config(20, 1, NOBORDER, NOMASK, "");
-    run({'1', 256});
-    EXPECT_STREQ(kultextbox_getText(1, 1), "");
-}
-
-TEST_F(TextboxTest, RunsCallbacksInOrder)
-{
-    struct {
-        int nKey;
-        int nResult;
-    } const rows[] = {{KS_TAB, 10}, {KS_ENTER, 10}, {KS_ESC, -10}};
-    for (const auto& row : rows) {
-        config(9, 1);
-        events.clear();
-        kultest::typeKeys({'a', KS_F1, row.nKey});
-        EXPECT_EQ(kultextbox_execKeys(1, 1), row.nResult);
-        EXPECT_EQ(events, "focus key:a key:a key:a unfocus ");
-        EXPECT_EQ(GetCurrentComponentType(), TEXTBOX);
+        fill(script.box, script.szText, script.nCursorPos);
+        EXPECT_EQ(press(script.keys), KUL_LEFT);
+        EXPECT_STREQ(kultextbox_getText(1, kRef), script.szAfter);
+        EXPECT_EQ(box().nCursorPos, script.nAfter);
+        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(script.szAfter)));
     }
 }
 
 TEST_F(TextboxTest, Draws)
 {
-    struct {
-        const char* name;
-        const char* szText;
-        int nBorder;
-        int nMask;
-        int nCursorPos;
-        Rows rows;
-        Rows colors; // of the first two text rows
-    } const boxes[] = {
-        {"rows", "abcdef", NOBORDER, NOMASK, 6, {"abcd", "ef  ", "    "}, {"ffff", "ffFf"}},
-        {"a full row", "abcd", NOBORDER, NOMASK, 4, {"abcd", "    ", "    "}, {"ffff", "Ffff"}},
-        {"blanks before a row",
-         "abcd  ef",
-         NOBORDER,
-         NOMASK,
-         1,
-         {"abcd", "ef  ", "    "},
-         {"fFff", "ffff"}},
-        {"mask", "a b", NOBORDER, MASK, 1, {"*** ", "    ", "    "}, {"fFff", "ffff"}},
-        {"no text", "", NOBORDER, MASK, 0, {"    ", "    ", "    "}, {"Ffff", "ffff"}},
-        {"controls", "a\nb\tc", NOBORDER, NOMASK, 0, {"a b ", "c   ", "    "}, {"Ffff", "ffff"}},
-        {"border", "x", BORDER, NOMASK, 0, {"┌──┐", "│x │", "└──┘"}, {"ffff", "fFff"}},
+    // clang-format off
+    const struct { Box box; const char* szText; int nCursorPos; Rows rows, shades; } boxes[] = {
+        {{4, 2}, "abcdef", 6, {"abcd", "ef  "}, {"ffff", "ffFf"}},
+        {{4, 2}, "abcd", 4, {"abcd", "    "}, {"ffff", "Ffff"}},
+        {{4, 3}, "abcd  ef", 1, {"abcd", "ef  ", "    "}, {"fFff", "ffff", "ffff"}},
+        {{4, 3}, "abcd   ef", 4, {"abcd", "   e", "f   "}, {"ffff", "Ffff", "ffff"}}, // too many to be skipped
+        {{4, 1, NOBORDER, MASK}, "a b", 1, {"*** "}, {"fFff"}},
+        {{4, 1, NOBORDER, MASK}, "", 0, {"    "}, {"Ffff"}},
+        {{4, 2}, "a\nb\tc", 0, {"a b ", "c   "}, {"Ffff", "ffff"}},
+        {{4, 3, BORDER}, "x", 0, {"┌──┐", "│x │", "└──┘"}, {"ffff", "fFff", "ffff"}},
     };
-    const std::vector<kultest::Legend> legend = {{'f', RED_MAGENTA}, {'u', RED_WHITE}};
-    for (const auto& box : boxes) {
-        SCOPED_TRACE(box.name);
-        config(4, 3, box.nBorder, box.nMask);
-        // Room for any of the texts.
-        if (box.nBorder == NOBORDER)
-            EXPECT_EQ(kultextbox_setText(1, 1, box.szText), 0);
-        else
-            record().szText[record().nLength++] = *box.szText;
-        record().nCursorPos = box.nCursorPos;
-        kultest::typeKeys({});
-        kultextbox_execKeys(1, 1);
-        EXPECT_EQ(kultest::picture(window(1), 2, 2, 3, 4), box.rows);
-        EXPECT_EQ(kultest::colors(window(1), 2, 2, 2, 4, legend), box.colors);
+    // clang-format on
+    for (const auto& row : boxes) {
+        SCOPED_TRACE(row.szText);
+        fill(row.box, row.szText, row.nCursorPos);
+        press({});
+        EXPECT_EQ(shown(2, 2, row.box.nHeight, 4), row.rows);
+        EXPECT_EQ(shades(2, 2, row.box.nHeight, 4), row.shades);
     }
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 3, 2, 1, 4, legend), (Rows{"uuuu"}));
-    DrawTextBox(GetChain(1)->Pointer, &record(), RED_MAGENTA);
-    EXPECT_EQ(kultest::colors(window(1), 3, 2, 1, 4, legend), (Rows{"uFfu"}));
-    DrawTextBox(nullptr, nullptr, 0);
-    ShowTextboxComponent(nullptr, nullptr, 0);
+    EXPECT_EQ(shades(3, 2, 1, 4), (Rows{"uuuu"}));
+    box().nEnable = 0;
+    kulgui_show(1);
+    EXPECT_EQ(shades(3, 2, 1, 4), (Rows{"dddd"}));
+}
+
+TEST_F(TextboxTest, DrawsItsInsideInAnyColour)
+{
+    // clang-format off
+    const struct { Box box; std::vector<int> keys; int nCursor; Rows rows, shades; } boxes[] = {
+        {{4, 3, BORDER}, {'a', 'b'}, SHOWCURSOR, {"┌──┐", "│ab ", "└──┘"}, {"ffff", "fuuU", "ffff"}},
+        {{4, 3, BORDER, MASK}, {'a', 'b'}, HIDECURSOR, {"┌──┐", "│***", "└──┘"}, {"ffff", "fuuu", "ffff"}},
+        {{3, 3}, {'a', 'b', 'c', ' ', 'd'}, SHOWCURSOR, {"abc", " d ", "   "}, {"uuu", "uuU", "fff"}},
+    };
+    // clang-format on
+    for (const auto& row : boxes) {
+        config(row.box);
+        box().nCursor = row.nCursor;
+        press(row.keys);
+        DrawTextBox(GetChain(1)->Pointer, &box(), RED_WHITE);
+        EXPECT_EQ(shown(2, 2, 3, row.box.nWidth), row.rows);
+        EXPECT_EQ(shades(2, 2, 3, row.box.nWidth), row.shades);
+    }
+}
+
+TEST_F(TextboxTest, RunsCallbacksInOrder)
+{
+    for (const auto& [nKey, nResult] : {std::pair(kTab, 10), {KS_ENTER, 10}, {KS_ESC, -10}}) {
+        config({9, 1});
+        events.clear();
+        EXPECT_EQ(press({'a', KS_F1, nKey, 'b'}), nResult);
+        EXPECT_EQ(events, "focus0 a0 a0 a0 unfocus0 ");
+        EXPECT_EQ(GetCurrentComponentType(), TEXTBOX);
+    }
 }
 
 TEST_F(TextboxTest, HasBoxesOfAnySize)
 {
-    struct {
-        int nWidth, nHeight, nBorder, nResult, nMaxLength;
-    } const boxes[] = {
-        {0, 0, NOBORDER, 0, 0},
-        {-3, -4, NOBORDER, 0, 0},
-        {2, 2, BORDER, 0, 0},
-        {1, 1, BORDER, 0, 0},
-        {0, 5, BORDER, 0, 0},
-        {INT_MIN, INT_MIN, BORDER, 0, 0},
-        {3, 3, BORDER, 0, 1},
-        {65536, 65536, NOBORDER, -1, 0},
-        {INT_MAX, INT_MAX, NOBORDER, -1, 0},
-        {INT_MAX, 3, BORDER, -1, 0},
+    // clang-format off
+    const struct { int nWidth, nHeight, nBorder, nResult, nMaxLength; } boxes[] = {
+        {0, 0, NOBORDER, 0, 0}, {2, 2, BORDER, 0, 0}, {3, 3, BORDER, 0, 1}, {6, 5, BORDER, 0, 12},
+        {1, 1, BORDER, 0, 1}, {-3, -4, NOBORDER, 0, 12}, {-3, -4, 7, 0, 12}, // the product, unseen
+        {0, 5, BORDER, -1, 0}, {INT_MIN, INT_MIN, BORDER, -1, 0}, {65536, 65536, NOBORDER, -1, 0},
+        {INT_MAX, INT_MAX, NOBORDER, -1, 0}, {INT_MAX, 3, BORDER, -1, 0},
     };
-    for (const auto& box : boxes) {
-        SCOPED_TRACE(std::to_string(box.nWidth) + " x " + std::to_string(box.nHeight));
-        EXPECT_EQ(config(box.nWidth, box.nHeight, box.nBorder), box.nResult);
-        EXPECT_EQ(record().nMaxLength, box.nMaxLength);
-        kultest::typeKeys({'a', 'b', KS_UP, KS_DOWN, KS_LEFT, KS_DELETE, KS_BACKSPACE});
-        EXPECT_EQ(kultextbox_execKeys(1, 1), KUL_LEFT);
-        EXPECT_EQ(record().nLength, 0);
+    // clang-format on
+    for (const auto& row : boxes) {
+        SCOPED_TRACE(std::to_string(row.nWidth) + " x " + std::to_string(row.nHeight));
+        EXPECT_EQ(config({row.nWidth, row.nHeight, row.nBorder}), row.nResult);
+        EXPECT_EQ(box().nMaxLength, row.nMaxLength);
+        EXPECT_EQ(box().nBorder, row.nBorder == BORDER ? BORDER : NOBORDER);
+        EXPECT_EQ(press({'a', 'b', U, D, L, kDelete, kBack}), KUL_LEFT);
+        EXPECT_EQ(box().nLength, 0);
     }
 }
 
 TEST_F(TextboxTest, SetsItsText)
 {
-    config(5, 1);
-    EXPECT_EQ(kultextbox_setText(1, 1, "abcd"), 0);
-    record().nCursorPos = 4;
-    EXPECT_EQ(kultextbox_setText(1, 1, "xy"), 0);
-    EXPECT_EQ(record().nLength, 2);
-    EXPECT_EQ(record().nCursorPos, 2);
-    EXPECT_EQ(kultextbox_setText(1, 1, kultextbox_getText(1, 1) + 1), 0);
-    EXPECT_STREQ(kultextbox_getText(1, 1), "y");
-    EXPECT_EQ(kultextbox_setText(1, 1, nullptr), -1);
-    EXPECT_STREQ(kultextbox_getText(1, 1), "y");
-    EXPECT_EQ(kultextbox_setText(1, 1, "12345"), -1);
-    EXPECT_STREQ(kultextbox_getText(1, 1), "");
-    EXPECT_EQ(record().nLength, 0);
-    EXPECT_EQ(record().nCursorPos, 0);
-    config(5, 1);
-    EXPECT_STREQ(kultextbox_getText(1, 1), "");
+    // clang-format off
+    const struct { const char* szText; int nCursorPos, nResult; const char* szAfter; int nAfter; } rows[] = {
+        {"abcd", 4, 0, "abcd", 4}, {"xyz", 1, 0, "xyz", 1}, {"xy", 3, 0, "xy", 2}, {nullptr, 1, -1, "xy", 1}, {"12345", 1, -1, "", 0},
+    };
+    // clang-format on
+    config({5, 1});
+    for (const auto& row : rows) {
+        box().nCursorPos = row.nCursorPos;
+        EXPECT_EQ(kultextbox_setText(1, kRef, row.szText), row.nResult);
+        EXPECT_STREQ(kultextbox_getText(1, kRef), row.szAfter);
+        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(row.szAfter)));
+        EXPECT_EQ(box().nCursorPos, row.nAfter);
+    }
+    kultextbox_setText(1, kRef, "abcd");
+    EXPECT_EQ(kultextbox_setText(1, kRef, kultextbox_getText(1, kRef) + 1), 0) << "its own";
+    EXPECT_STREQ(kultextbox_getText(1, kRef), "bcd");
+    config({5, 1});
+    EXPECT_STREQ(kultextbox_getText(1, kRef), "");
+    EXPECT_EQ(box().nLength, 0);
+    kultextbox_setText(1, kRef, "abcd");
+    {
+        const FailingMemory failing(0);
+        EXPECT_LT(kultextbox_create(1, 7), 0);
+        EXPECT_EQ(config({5, 1}), -1);
+    }
+    EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
+    EXPECT_EQ(kultextbox_setText(1, kRef, "x"), -1);
 }
 
 TEST_F(TextboxTest, AnswersUnknownAndOther)
 {
     kulbutton_create(1, 2);
     EXPECT_EQ(kultextbox_create(1, 2), -10026);
-    EXPECT_EQ(kultextbox_getText(1, 1), nullptr);
-    EXPECT_EQ(kultextbox_setText(1, 1, "not set up"), -1);
-    kultest::typeKeys({'a', KS_DELETE, KS_BACKSPACE, KS_END});
-    EXPECT_EQ(kultextbox_execKeys(1, 1), KUL_LEFT);
+    EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
+    EXPECT_EQ(kultextbox_setText(1, kRef, "not set up"), -1);
+    EXPECT_EQ(press({'a', kDelete, kBack, kEnd}), KUL_LEFT);
     for (const int nRef : {2, 99, INT_MIN}) {
-        EXPECT_EQ(kultextbox_config(1, nRef, 0, 0, 0, 0, 0, 9, 9, BORDER, MASK, "", nullptr,
-                                    nullptr, nullptr),
-                  -1);
+        EXPECT_EQ(config({9, 9}, nullptr, nRef), -1);
         EXPECT_EQ(kultextbox_setText(1, nRef, "x"), -1);
         EXPECT_EQ(kultextbox_getText(1, nRef), nullptr);
         EXPECT_EQ(kultextbox_execKeys(1, nRef), -10000);
     }
-    EXPECT_EQ(GetCurrentTextboxData(), nullptr);
-    kultextbox_hide(1, 1);
-    EXPECT_EQ(kultextbox_execKeys(1, 1), 10);
-    TextBoxDelete(nullptr);
+    kultextbox_hide(1, kRef);
+    EXPECT_EQ(kultextbox_execKeys(1, kRef), 10);
+    KULTEXTBOX own{};
+    own.nLength = 3; // the cursor moves without a text as well
+    for (const auto step : {TextBoxGoEnd, TextBoxGoLeft, TextBoxDelete, TextBoxBackspace}) {
+        step(&own);
+        step(nullptr);
+    }
+    TextBoxCharacter(&own, 'x');
+    EXPECT_EQ(own.nCursorPos, 2);
     TextBoxGoUp(nullptr);
     TextBoxCharacter(nullptr, 'x');
+    DrawTextBox(nullptr, nullptr, 0);
+    ShowTextboxComponent(nullptr, nullptr, 0);
     EXPECT_EQ(WipeTextboxComponent(nullptr), -1);
     EXPECT_EQ(WipeTextboxComponent(static_cast<KULTEXTBOX*>(calloc(1, sizeof(KULTEXTBOX)))), -1);
 }
 
 TEST_F(TextboxTest, NoticesWhatCallbacksDo)
 {
-    struct {
-        KULCALLBACK action;
-        int nResult;
-    } const rows[] = {
-        {[] { kulgui_destroy(1); }, -10000},
-        {[] { kultextbox_hide(1, 1); }, 0},
-        {[] { kulgui_leave(1); }, KUL_LEFT},
-        {[] { config(3, 1); }, 10},
+    // clang-format off
+    const std::pair<KULCALLBACK, int> rows[] = {
+        {[] { kulgui_destroy(1); }, -10000}, {[] { kultextbox_hide(1, kRef); }, 0},
+        {[] { kulgui_leave(1); }, KUL_LEFT}, {[] { config({3, 1}, nullptr); }, 10},
     };
-    for (const auto& row : rows) {
-        kulgui_destroy(1);
-        makeDialog(1);
-        kultextbox_create(1, 1);
-        kultextbox_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 9, 1, NOBORDER, NOMASK, nullptr,
-                          nullptr, nullptr, row.action);
-        kultest::typeKeys({'a', 'b', KS_TAB});
-        EXPECT_EQ(kultextbox_execKeys(1, 1), row.nResult);
+    // clang-format on
+    for (const auto& [action, nResult] : rows) {
+        renew();
+        kultextbox_create(1, kRef);
+        config({9, 1}, action);
+        EXPECT_EQ(press({'a', 'b', kTab}), nResult);
+        EXPECT_EQ(events, nResult == -10000 ? "focus0 " : "focus0 unfocus0 ");
     }
-    EXPECT_STREQ(kultextbox_getText(1, 1), "b");
+    EXPECT_STREQ(kultextbox_getText(1, kRef), "b");
 }
 
 TEST_F(TextboxTest, Searches)
 {
     EXPECT_EQ(FindChar('b', "abcb"), 1);
-    EXPECT_EQ(FindChar('x', "abc"), -1);
     EXPECT_EQ(FindChar('\0', "abc"), -1);
     EXPECT_EQ(FindChar('a', nullptr), -1);
-    EXPECT_EQ(FindString("cd", "abcd"), 2);
-    EXPECT_EQ(FindString("abcd", "abc"), -1);
-    EXPECT_EQ(FindString("ab", "aab"), -1); // the second a breaks the match
-    EXPECT_EQ(FindString("ab", "aaab"), 2);
-    EXPECT_EQ(FindString(nullptr, "abc"), -1);
-    EXPECT_EQ(FindString("abc", nullptr), -1);
-}
-
-TEST_F(TextboxTest, LivesWithoutMemory)
-{
-    config(9, 1);
-    kultextbox_setText(1, 1, "old");
-    {
-        const kultest::FailingMemory failing(0);
-        EXPECT_LT(kultextbox_create(1, 7), 0);
-        EXPECT_EQ(config(9, 1), -1);
-    }
-    EXPECT_EQ(kultextbox_getText(1, 1), nullptr);
-    EXPECT_EQ(kultextbox_setText(1, 1, "x"), -1);
+    // clang-format off
+    const struct { const char *szStr, *szIn; int nPlace; } rows[] = {
+        {"cd", "abcd", 2}, {"abcd", "abc", -1}, {"aab", "aab", 0}, {"ab", "aaab", 2},
+        {"ab", "aab", -1}, // the second a breaks the match
+        {nullptr, "abc", -1}, {"abc", nullptr, -1},
+    };
+    // clang-format on
+    for (const auto& row : rows)
+        EXPECT_EQ(FindString(row.szStr, row.szIn), row.nPlace);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What a toolbar shows, and its keys; its list of buttons is tested with those of the menus.
+// A toolbar's keys and places; its looks and its list of buttons are tested with those of the
+// menus.
 #include "support/window_test.hpp"
 
 #include <climits>
@@ -9,94 +10,74 @@ namespace {
 
 using namespace kultest;
 
-const KULCALLBACK onButton = [] { note("button"); };
-const KULCALLBACK onClick = [] { note("click"); };
+const KULCALLBACK never = [] { note("never"); };
 
 class ToolbarTest : public ComponentTest {
 protected:
-    void SetUp() override
+    // A toolbar in a dialog of its own, with a button for each character, '1' for an enabled one.
+    void fill(int nOrient, const std::string& enabled)
     {
-        ComponentTest::SetUp();
+        renew();
         kultoolbar_create(1, kRef);
-    }
-
-    static void config(int nOrient, KULCALLBACK click = onClick)
-    {
         kultoolbar_config(
             1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nOrient, [] { note("focus"); },
-            [] { note("unfocus"); }, [] { note("select"); }, click);
+            [] { note("unfocus"); }, [] { note("select"); }, [] { note("click"); });
+        for (const char one : enabled)
+            add("b", one == '1' ? 1 : 0);
     }
 
     static void add(const char* szText, int nEnable = 1)
     {
-        EXPECT_EQ(kultoolbar_addButton(1, kRef, szText, 3, nEnable, onButton, onButton), 0);
+        EXPECT_EQ(kultoolbar_addButton(1, kRef, szText, 3, nEnable, never, [] { note("button"); }),
+                  0);
     }
 
     static KULTOOLBAR& toolbar() { return record<KULTOOLBAR>(); }
 };
 
-TEST_F(ToolbarTest, DrawsButtonsOfOneSize)
+TEST_F(ToolbarTest, HasOneKindOfButtonsAndTwoDirections)
 {
-    config(5);
+    fill(5, "");
     EXPECT_EQ(toolbar().nOrient, LATERAL);
-    EXPECT_EQ(kultoolbar_addOKButton(1, kRef, "OK", 0, 1, nullptr, nullptr), 0);
-    EXPECT_EQ(kultoolbar_addCancelButton(1, kRef, "Cancel", 0, 1, nullptr, nullptr), 0);
-    EXPECT_EQ(kultoolbar_addExitButton(1, kRef, "Exit", 0, 1, nullptr, nullptr), 0);
+    for (const auto addNone :
+         {kultoolbar_addOKButton, kultoolbar_addCancelButton, kultoolbar_addExitButton})
+        EXPECT_EQ(addNone(1, kRef, "OK", 0, 1, nullptr, nullptr), 0);
     EXPECT_EQ(toolbar().nButtons, 0);
-    add("OK");
-    add("Cancel");
-    add("No", 0);
-    kultoolbar_execKeys(1, kRef);
-    EXPECT_EQ(shown(2, 0, 3, 31),
-              (Rows{"│ ┌──────┐ ┌──────┐ ┌──────┐   ", "│ │  OK  │ │Cancel│ │  No  │   ",
-                    "│ └──────┘ └──────┘ └──────┘   "}));
-    EXPECT_EQ(shades(3, 0, 1, 31), (Rows{"..ffffffff.uuuuuuuu.dddddddd..."}));
-    kulgui_show(1);
-    EXPECT_EQ(shades(3, 0, 1, 31), (Rows{"..uuuuuuuu.uuuuuuuu.dddddddd..."}));
+    add("long");
+    EXPECT_EQ(ConfigUIComponent(1, kRef), 0);
+    EXPECT_EQ(toolbar().nMaxLength, 0);
     kultoolbar_hide(1, kRef);
-    kulgui_show(1);
-    EXPECT_EQ(shades(3, 0, 1, 31), (Rows{std::string(31, '.')}));
-    events.clear();
-    EXPECT_EQ(kultoolbar_execKeys(1, kRef), 10);
+    EXPECT_EQ(press({}), 10);
     EXPECT_EQ(events, "");
 }
 
 TEST_F(ToolbarTest, GivesAllButtonsTheirPlaces)
 {
-    const auto place = [](int nButton) {
-        kulgui_show(1);
-        const auto* button = kultoolbar_getButton(1, kRef, nButton);
-        return std::pair(button->nX, button->nY);
+    fill(VERTICAL, "1111");
+    // The ones outside of the window follow what changes.
+    // clang-format off
+    const struct { int nOrient, nX, nY; const char* added; int nButton, nXAt, nYAt; } rows[] = {
+        {VERTICAL, 2, 2, "a", 1, 2, 6}, {VERTICAL, 2, 2, "a", 4, 2, 18}, {VERTICAL, 2, 3, "a", 5, 2, 23},
+        {VERTICAL, 4, 3, "longer", 5, 4, 23}, {VERTICAL, 4, 3, "a", 7, 4, 31}, {LATERAL, 4, 3, "a", 7, 67, 3},
     };
-    config(VERTICAL);
-    for (const char* szText : {"a", "b", "c", "d", "e"})
-        add(szText);
-    EXPECT_EQ(place(1), std::pair(2, 6));
-    EXPECT_EQ(place(4), std::pair(2, 18));
-    EXPECT_EQ(shown(2, 2, 7, 3), (Rows{"┌─┐", "│a│", "└─┘", "   ", "┌─┐", "│b│", "└─┘"}));
-    toolbar().nY = 3; // the ones outside of the window follow
-    toolbar().nX = 4;
-    EXPECT_EQ(place(4), std::pair(4, 19));
-    add("longer");
-    EXPECT_EQ(place(5), std::pair(4, 23));
-    toolbar().nOrient = LATERAL;
-    EXPECT_EQ(place(5), std::pair(4 + 5 * 9, 3));
+    // clang-format on
+    for (const auto& row : rows) {
+        add(row.added);
+        toolbar().nOrient = row.nOrient;
+        toolbar().nX = row.nX;
+        toolbar().nY = row.nY;
+        kulgui_show(1);
+        EXPECT_EQ(kultoolbar_getButton(1, kRef, row.nButton)->nX, row.nXAt);
+        EXPECT_EQ(kultoolbar_getButton(1, kRef, row.nButton)->nY, row.nYAt);
+    }
 }
 
 TEST_F(ToolbarTest, Keys)
 {
-    struct Row {
-        int nOrient;
-        std::string enabled; // a character for each button, '1' or not
-        int nStart;
-        std::vector<int> keys;
-        int nResult, nSelect, nCurrent;
-        const char* events;
-    };
     const int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, E = KS_ENTER;
     const std::string farOne = std::string(30, '0') + "1" + std::string(9, '0');
     // clang-format off
-    const Row rows[] = {
+    const struct { int nOrient; std::string enabled; int nStart; std::vector<int> keys; int nResult, nSelect, nCurrent; const char* events; } rows[] = {
         {LATERAL, "101", 0, {R, 0}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
         {LATERAL, "101", 0, {R, R}, KUL_LEFT, 0, 0, "focus0 unfocus0 "},
         {LATERAL, "1011", 0, {L, L, 'x'}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
@@ -116,50 +97,15 @@ TEST_F(ToolbarTest, Keys)
         {LATERAL, std::string(40, '1'), 35, {R, E}, KUL_LEFT, 36, 36, "focus35 click36 button36 unfocus36 "},
     };
     // clang-format on
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.enabled + ' ' + row.events);
-        config(LATERAL);
-        for (const char enabled : row.enabled)
-            add("b", enabled == '1' ? 1 : 0);
+        fill(LATERAL, row.enabled);
         toolbar().nOrient = row.nOrient;
         toolbar().nSelect = row.nStart;
-        events.clear();
-        typeKeys(row.keys);
-        EXPECT_EQ(kultoolbar_execKeys(1, kRef), row.nResult);
+        EXPECT_EQ(press(row.keys), row.nResult);
         EXPECT_EQ(toolbar().nSelect, row.nSelect);
         EXPECT_EQ(GetCurrentSelectedToolbarButton(), row.nCurrent);
         EXPECT_EQ(GetCurrentComponentType(), TOOLBAR);
-        EXPECT_EQ(events, row.events);
-    }
-}
-
-TEST_F(ToolbarTest, CallbacksMayTakeAwayWhatRuns)
-{
-    // clang-format off
-    const struct { const char* name; KULCALLBACK act; int nResult; const char* events; } rows[] = {
-        {"hide", [] { kultoolbar_hide(1, kRef); }, 0, "focus2 button2 unfocus2 "},
-        {"hide dialog", [] { kulgui_hide(1); }, -10000, "focus2 button2 unfocus2 "},
-        {"hide and leave", [] { kulgui_hide(1); kulgui_leave(1); }, KUL_LEFT, "focus2 unfocus2 "},
-        // The selection is behind the list then, and the second Enter removes another one.
-        {"remove it", [] { kultoolbar_remButton(1, kRef, 0); }, KUL_LEFT, "focus2 unfocus2 "},
-        {"remove all", [] { while (kultoolbar_remButton(1, kRef, 0) == 0) {} }, KUL_LEFT, "focus2 unfocus2 "},
-        {"configure", [] { config(LATERAL); }, KUL_LEFT, "focus2 click2 unfocus2 "},
-        {"focus", [] { kulgui_setFocus(1, kRef); }, 0, "focus2 unfocus2 "},
-        {"destroy", [] { kulgui_destroy(1); }, -10000, "focus2 "},
-        // The button is the one that was selected when Enter was pressed.
-        {"select", [] { toolbar().nSelect = 5; }, KUL_LEFT, "focus2 button2 unfocus2 "},
-    };
-    // clang-format on
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        renew();
-        kultoolbar_create(1, kRef);
-        config(LATERAL, row.act);
-        for (const char* szText : {"a", "b", "c"})
-            add(szText);
-        toolbar().nSelect = 2;
-        typeKeys({KS_ENTER, KS_ENTER});
-        EXPECT_EQ(kultoolbar_execKeys(1, kRef), row.nResult);
         EXPECT_EQ(events, row.events);
     }
 }

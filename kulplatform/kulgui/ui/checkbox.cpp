@@ -191,5 +191,5 @@ int kulcheckbox_execKeys(int nChain, int nRef)
         return -10000;
     if (list->nVisible != T)
         return 10;
-    return kul::runList<KULCHECKBOX>(nChain, nRef, CHECKBOX, click, moved);
+    return kul::runList<KULCHECKBOX>(nChain, nRef, {CHECKBOX, false, click, moved});
 }

@@ -178,5 +178,5 @@ int kuloptions_execKeys(int nChain, int nRef)
     const auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
     if (!list || list->nVisible != T)
         return -1;
-    return kul::runList<KULOPTIONS>(nChain, nRef, OPTIONS, click, moved);
+    return kul::runList<KULOPTIONS>(nChain, nRef, {OPTIONS, true, click, moved});
 }

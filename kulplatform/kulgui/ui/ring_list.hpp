@@ -79,7 +79,7 @@ void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
     const int nSeen = std::min(nRows, shifted(getmaxy(win), -static_cast<long long>(nY)));
     auto* element = list.FirstShowed;
     int nUsed = 0;
-    for (int i = list.nFirstShowed; element && i <= list.nLastShowed && nUsed < nSeen; ++i) {
+    for (long long i = list.nFirstShowed; element && i <= list.nLastShowed && nUsed < nSeen; ++i) {
         int nColor = list.nColorUnfocus;
         if (nFocus == 1 && i == cursorOf(list))
             nColor = list.nColorFocus;
@@ -91,7 +91,7 @@ void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
         const int nCut = std::min(nHeight, nRows - nUsed);
         {
             const Attribute color(win, nColor);
-            drawText(win, nTop, nX, marker(*element, i));
+            drawText(win, nTop, nX, marker(*element, static_cast<int>(i)));
         }
         NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT,
                     element->szText);
@@ -111,6 +111,16 @@ void showList(GUI* gui, Record* list, int nFocus, Marker marker)
     if (list->bScrollbar == T)
         drawScrollbar(gui, *list, list->nColorUnfocus);
     drawElements(gui->winMain, *list, nFocus, marker);
+}
+
+// Draws the list of a component. The public calls draw records of the program's own, too, and those
+// as they are.
+template <typename Record, void Show(GUI*, Record*, int)>
+void showRing(GUI* gui, RingList<Record>* list, int nFocus)
+{
+    if (list)
+        keepView(*list);
+    Show(gui, list, nFocus);
 }
 
 // Keys.
@@ -135,23 +145,32 @@ void callElement(Handler<RingList<Record>>& handler, KULCALLBACK ElementOf<Recor
         handler.run(element->*callback);
 }
 
-// Gives a list the keys. click and moved run the callbacks after Space or Enter and after a move.
+// What the lists' keys differ in.
 template <typename Record>
-int runList(int nChain, int nRef, UI_TYPE type, void (*click)(Handler<RingList<Record>>&),
-            void (*moved)(Handler<RingList<Record>>&))
+struct ListKeys {
+    UI_TYPE type;
+    bool endsHidden;                           // when it gets hidden; else it goes on unseen
+    void (*click)(Handler<RingList<Record>>&); // runs what Space and Enter do
+    void (*moved)(Handler<RingList<Record>>&); // runs the callbacks after a move
+};
+
+// Gives a list the keys until it loses the focus.
+template <typename Record>
+int runList(int nChain, int nRef, const ListKeys<Record>& keys)
 {
-    auto& start = *findUI<RingList<Record>>(nChain, nRef, type);
+    auto& start = *findUI<RingList<Record>>(nChain, nRef, keys.type);
+    keepView(start);
     bringIntoView(start);
-    Handler<RingList<Record>> handler({nChain, nRef, type, cursorOf(start), start.nSelect, 0});
+    Handler<RingList<Record>> handler({nChain, nRef, keys.type, cursorOf(start), start.nSelect, 0});
     handler.call(&Record::onFocus);
-    while (const int nKey = handler.key(isShown<RingList<Record>>)) {
+    while (const int nKey = handler.key(keys.endsHidden ? isShown<RingList<Record>> : nullptr)) {
         if (nKey == KS_SPACE || nKey == KS_ENTER) {
-            click(handler);
+            keys.click(handler);
         } else if (nKey == KS_UP || nKey == KS_DOWN) {
             if (RingList<Record>* list = handler.record())
                 moveCursor(*list, nKey);
             noteSelection(handler);
-            moved(handler);
+            keys.moved(handler);
         }
         noteSelection(handler);
         handler.show();

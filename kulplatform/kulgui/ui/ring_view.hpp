@@ -116,19 +116,39 @@ int wipeRing(Element* head)
     return 0;
 }
 
+// Rows of the first nElements elements.
+template <typename Record>
+long long rowsOfAll(const Record& list)
+{
+    long long rows = 0;
+    const auto* element = list.Element;
+    for (int i = 0; element && i < list.nElements; ++i, element = element->Next)
+        rows += element->nHeight;
+    return rows;
+}
+
+// Forgets what was found in a ring that is another one now, or that may have lost elements. Whether
+// it did; FirstShowed and LastShowed may then be gone.
+template <typename Record>
+bool noticeLoss(RingList<Record>& list)
+{
+    if (list.head == list.Element && list.nRemovals == nElementRemovals)
+        return false;
+    list.head = list.found = list.Element;
+    list.nFound = 0;
+    list.nRemovals = nElementRemovals;
+    list.nRows = rowsOfAll(list);
+    return true;
+}
+
 // The element at an index, null when there is none, reached from the nearest one of the head, the
-// last one and the one found before.
+// last one and the one found before. Losses were noticed before.
 template <typename Record>
 ElementOf<Record>* elementAt(RingList<Record>& list, int nIndex)
 {
     auto* head = list.Element;
     if (!head || nIndex < 0 || nIndex >= list.nElements)
         return nullptr;
-    if (head != list.head || list.nRemovals != nElementRemovals) {
-        list.head = list.found = head;
-        list.nFound = 0;
-        list.nRemovals = nElementRemovals;
-    }
     auto* found = list.found;
     int nFound = list.nFound;
     if (nIndex < std::abs(nIndex - nFound)) {
@@ -149,17 +169,6 @@ ElementOf<Record>* elementAt(RingList<Record>& list, int nIndex)
         list.nFound = nFound;
     }
     return found;
-}
-
-// Rows of the first nElements elements.
-template <typename Record>
-long long rowsOfAll(const Record& list)
-{
-    long long rows = 0;
-    const auto* element = list.Element;
-    for (int i = 0; element && i < list.nElements; ++i, element = element->Next)
-        rows += element->nHeight;
-    return rows;
 }
 
 // The view. These need the public record only.
@@ -210,9 +219,11 @@ template <typename Record>
 bool spills(const Record& list)
 {
     const int nRows = viewRows(list);
+    const long long nShowed = std::min(1LL + list.nLastShowed - list.nFirstShowed,
+                                       static_cast<long long>(list.nElements));
     long long used = 0;
     const auto* element = list.FirstShowed;
-    for (int i = list.nFirstShowed; element && i <= list.nLastShowed && used <= nRows; ++i) {
+    for (int i = 0; element && i < nShowed && used <= nRows; ++i) {
         used += element->nHeight;
         element = element->Next;
     }
@@ -253,6 +264,16 @@ void setView(RingList<Record>& list)
         setLast(list);
     else
         emptyView(list);
+}
+
+// Takes the view anew where its elements may be gone.
+template <typename Record>
+void keepView(RingList<Record>& list)
+{
+    if (!noticeLoss(list))
+        return;
+    list.nFirstShowed = std::min(list.nFirstShowed, list.nElements - 1);
+    setView(list);
 }
 
 // Moves a view that does not show the cursor's element: one that the program chose, or one behind
@@ -309,6 +330,7 @@ void moveDown(RingList<Record>& list)
 template <typename Record>
 void moveCursor(RingList<Record>& list, int nKey)
 {
+    keepView(list);
     if (nKey == KS_UP)
         moveUp(list);
     else
@@ -327,6 +349,7 @@ void takeElement(RingList<Record>& list, ElementOf<Record>& added)
         list.nFirstShowed = 0;
     if (!list.Element)
         list.Element = &added;
+    noticeLoss(list);
     list.nElements = shifted(list.nElements, 1);
     added.nHeight = GetWrapTextHeight(textWidth(list), added.szText);
     list.nRows += added.nHeight;

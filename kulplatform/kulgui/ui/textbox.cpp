@@ -12,12 +12,13 @@ namespace {
 // More cells than any screen has; a box beyond is a mistake.
 constexpr long long kMaxCells = 1 << 24;
 
-// Gives the box an empty text with room for the inner cells. False without memory.
-bool makeBuffer(KULTEXTBOX& box, int nWidth, int nHeight, int nBorder)
+// Gives the box an empty text with room for the inner cells, counted as the product of the sides:
+// two that are negative give room that is not seen. False without memory.
+bool makeBuffer(KULTEXTBOX& box, int nWidth, int nHeight)
 {
-    const long long width = std::max(kul::innerSize(nWidth, nBorder), 0);
-    const long long cells = width * std::max(kul::innerSize(nHeight, nBorder), 0);
-    if (cells > kMaxCells)
+    const long long width = kul::innerSize(nWidth, box.nBorder);
+    const long long cells = width * kul::innerSize(nHeight, box.nBorder);
+    if (cells < 0 || cells > kMaxCells)
         return false;
     box.szText = static_cast<char*>(std::calloc(static_cast<std::size_t>(cells) + 1, 1));
     box.nMaxLength = box.szText ? static_cast<int>(cells) : 0;
@@ -30,8 +31,6 @@ bool makeBuffer(KULTEXTBOX& box, int nWidth, int nHeight, int nBorder)
 chtype shownAs(char character, bool masked)
 {
     const auto byte = static_cast<unsigned char>(character);
-    if (byte == '\0')
-        return ' ';
     if (masked)
         return '*';
     if (byte < ' ' || byte == KS_BACKSPACE)
@@ -54,12 +53,14 @@ void drawCursor(WINDOW* win, int nY, int nX, chtype cell)
     (reversed ? wattr_on : wattr_off)(win, A_REVERSE, nullptr);
 }
 
-// The places of a text that a row of the box holds, and the cursor's, -1 for none.
+// The places of a text that a row of the box holds, the cursor's, -1 for none, and what stands at
+// the end of the text.
 struct Row {
     int nFirst;
     int nCount;
     int nCursor;
     bool masked;
+    chtype end;
 };
 
 // Draws a row up to and with the end of the text. False when that was reached.
@@ -69,9 +70,10 @@ bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
     const int nLength = box.szText ? box.nLength : 0;
     for (int i = 0; i < row.nCount && row.nFirst + i <= nLength; ++i) {
         const int nPlace = row.nFirst + i;
-        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, kul::shifted(nX, i),
-                                                        shownAs(szText[nPlace], row.masked));
-        if (szText[nPlace] == '\0')
+        const bool atEnd = szText[nPlace] == '\0';
+        const chtype cell = atEnd ? row.end : shownAs(szText[nPlace], row.masked);
+        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, kul::shifted(nX, i), cell);
+        if (atEnd)
             return false;
     }
     return row.nFirst + static_cast<long long>(row.nCount) <= nLength;
@@ -162,7 +164,10 @@ int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       KULCALLBACK onKey)
 {
     auto* box = kul::resetUI<KULTEXTBOX>(nChain, nRef, TEXTBOX);
-    if (!box || !makeBuffer(*box, nWidth, nHeight, nBorder))
+    if (!box)
+        return -1;
+    box->nBorder = nBorder == BORDER ? BORDER : NOBORDER;
+    if (!makeBuffer(*box, nWidth, nHeight))
         return -1;
     kul::setBox(*box, nX, nY, nWidth, nHeight, nBorder);
     kul::setColors(*box, nColorFocus, nColorUnfocus, nColorDisable);
@@ -221,7 +226,7 @@ void ShowTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB, int nFocus)
     const bool masked = box.nMask != NOMASK && box.nMask != KUL_KEEP;
     const std::string_view text = kul::viewOf(box.szText);
     const kul::Attribute color(win, nColor);
-    Row row = {0, nWidth, nFocus == 1 ? box.nCursorPos : -1, masked};
+    Row row = {0, nWidth, nFocus == 1 ? box.nCursorPos : -1, masked, ' '};
     for (int i = 0; nWidth > 0 && i < kul::innerSize(box.nHeight, box.nBorder); ++i) {
         if (!drawRow(win, kul::shifted(box.nY, nEdge + i), kul::shifted(box.nX, nEdge), box, row))
             break;
@@ -229,8 +234,8 @@ void ShowTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB, int nFocus)
     }
 }
 
-// Its rows hold one character more than those of ShowTextboxComponent where there is a border, and
-// no blanks are skipped between them.
+// Its rows hold one character more than those of ShowTextboxComponent where there is a border, no
+// blanks are skipped between them, and the mask covers the end of the text too.
 void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor)
 {
     if (!thisGUI || !thisBox)
@@ -239,7 +244,8 @@ void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor)
     const int nWidth = kul::shifted(thisBox->nWidth, -nEdge);
     const int nCursor = thisBox->nCursor == SHOWCURSOR ? thisBox->nCursorPos : -1;
     const kul::Attribute color(thisGUI->winMain, nColor);
-    Row row = {0, nWidth, nCursor, thisBox->nMask == MASK};
+    const bool masked = thisBox->nMask == MASK;
+    Row row = {0, nWidth, nCursor, masked, static_cast<chtype>(masked ? '*' : ' ')};
     for (int i = 0; nWidth > 0 && i < kul::innerSize(thisBox->nHeight, thisBox->nBorder); ++i) {
         if (!drawRow(thisGUI->winMain, kul::shifted(thisBox->nY, nEdge + i),
                      kul::shifted(thisBox->nX, nEdge), *thisBox, row))

@@ -8,18 +8,23 @@
 
 namespace {
 
-// Whether there is a text to edit. Brings a cursor that the program moved back into it.
-bool isEditable(KULTEXTBOX* box)
+// Whether the cursor can move. Brings one that the program moved back into the text.
+bool hasCursor(KULTEXTBOX* box)
 {
-    if (!box || !box->szText || box->nLength < 0)
+    if (!box || box->nLength < 0)
         return false;
     box->nCursorPos = std::clamp(box->nCursorPos, 0, box->nLength);
     return true;
 }
 
+bool isEditable(KULTEXTBOX* box)
+{
+    return hasCursor(box) && box->szText;
+}
+
 void moveRows(KULTEXTBOX* box, int nRows)
 {
-    if (!isEditable(box) || box->nHeight <= 1)
+    if (!hasCursor(box) || box->nHeight <= 1)
         return;
     const long long width = std::max(kul::innerSize(box->nWidth, box->nBorder), 0);
     const long long place = box->nCursorPos + nRows * width;
@@ -39,25 +44,25 @@ void removeAt(KULTEXTBOX& box, int nPlace)
 
 void TextBoxGoHome(KULTEXTBOX* thisBox)
 {
-    if (isEditable(thisBox))
+    if (hasCursor(thisBox))
         thisBox->nCursorPos = 0;
 }
 
 void TextBoxGoEnd(KULTEXTBOX* thisBox)
 {
-    if (isEditable(thisBox))
+    if (hasCursor(thisBox))
         thisBox->nCursorPos = thisBox->nLength;
 }
 
 void TextBoxGoRight(KULTEXTBOX* thisBox)
 {
-    if (isEditable(thisBox) && thisBox->nCursorPos < thisBox->nLength)
+    if (hasCursor(thisBox) && thisBox->nCursorPos < thisBox->nLength)
         ++thisBox->nCursorPos;
 }
 
 void TextBoxGoLeft(KULTEXTBOX* thisBox)
 {
-    if (isEditable(thisBox) && thisBox->nCursorPos > 0)
+    if (hasCursor(thisBox) && thisBox->nCursorPos > 0)
         --thisBox->nCursorPos;
 }
 
