@@ -4,50 +4,58 @@
 #include "support/window_test.hpp"
 
 #include <climits>
+#include <cstring>
 #include <string>
 
 namespace {
 
-using kultest::Rows;
 using kultest::typeKeys;
 
-constexpr int kPoll = 0; // a wait without a key
+constexpr int kPoll = 0;    // a wait without a key
+constexpr int kSecond = -2; // a second passes
 
 std::string events;
-int nExecResult;
 
 void note(const std::string& event)
 {
     events += event + ' ';
 }
 
+// Configures a dialog in colours that are not the default ones; it has no components then.
+void configure(int nChain, int nX = 0, int nWidth = 40)
+{
+    kulgui_config(nChain, 0, 0, 0, 0, "", 0, nX, 0, nWidth, 9, nullptr, nullptr, nullptr, nullptr,
+                  nullptr);
+}
+
+// Dialog 1, and buttons that note when they take and lose the focus.
 class DialogTest : public kultest::WindowTest {
 protected:
     void SetUp() override
     {
         WindowTest::SetUp();
         events.clear();
-        nExecResult = 0;
         makeDialog(1);
     }
 
-    static void addButton(int nRef, KULCALLBACK onClick = nullptr, KULCALLBACK onFocus = nullptr,
-                          int nChain = 1)
+    static void addButton(int nRef, KULCALLBACK onClick = nullptr, int nChain = 1)
     {
         ASSERT_EQ(kulbutton_create(nChain, nRef), 0);
         kulbutton_config(
             nChain, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nRef * 10, 2, 8, 1, "B",
-            onFocus ? onFocus
-                    : [] { note("+" + std::to_string(GetCurrentSelection()->nUserInterface)); },
+            [] { note("+" + std::to_string(GetCurrentSelection()->nUserInterface)); },
             [] { note("-" + std::to_string(GetCurrentSelection()->nUserInterface)); }, nullptr,
             onClick);
     }
+    static KULBUTTON& button(int nRef)
+    {
+        return *static_cast<KULBUTTON*>(GetUIComponentByRef(1, nRef)->Pointer);
+    }
 
-    static std::string run(const std::vector<int>& keys, int nExpected,
-                           const std::vector<KULCALLBACK>& actions = {})
+    static std::string run(const std::vector<int>& keys, int nExpected)
     {
         events.clear();
-        typeKeys(keys, actions);
+        typeKeys(keys, {[] { kultest::advanceClock(1); }});
         EXPECT_EQ(kulgui_exec(1), nExpected);
         return events;
     }
@@ -82,39 +90,38 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
          [] {
              kulgui_destroy(1);
              kulgui_create(1);
-             kulgui_config(1, 0, 0, 0, 0, "", 0, 0, 0, 40, 9, nullptr, nullptr, nullptr, nullptr,
-                           nullptr);
+             configure(1);
              addButton(1);
              addButton(2);
              kulgui_setFocus(1, 2);
          },
          KUL_LEFT, "+1 -1 +2 -2 "},
         {"moves the focus", [] { EXPECT_EQ(kulgui_setFocus(1, 2), 0); }, KUL_LEFT, "+1 -1 +2 -2 "},
-        {"cannot move it to nothing", [] { EXPECT_EQ(kulgui_setFocus(1, 9), -1); }, KUL_LEFT,
-         "+1 -1 "},
+        {"cannot move it to nothing", [] { EXPECT_EQ(kulgui_setFocus(1, 9), -1); },
+         KUL_LEFT, "+1 -1 "},
         {"destroys the dialog", [] { kulgui_destroy(1); }, -10000, "+1 "},
         {"destroys everything", [] { kulgui_destroy(0); kulgui_create(0); }, -10000, "+1 "},
-        {"configures the dialog anew",
-         [] {
-             kulgui_config(1, 0, 0, 0, 0, "", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr,
-                           nullptr);
-         },
-         -10000, "+1 "},
+        {"configures the dialog anew", [] { configure(1); }, -10000, "+1 "},
         {"resets the button",
          [] { kulexitbutton_config(1, 1, 0, 0, 0, 0, 0, 0, 0, 0, "", nullptr, nullptr, nullptr,
                                    nullptr); },
          KUL_LEFT, "+1 "},
         {"hides the dialog", [] { kulgui_hide(1); }, KUL_LEFT, "+1 -1 "},
         {"hides the button", [] { kulbutton_hide(1, 1); }, KUL_LEFT, "+1 -1 "},
+        {"draws the dialog as it is", [] { ShowUIColors(); }, KUL_LEFT, "+1 -1 "},
         {"opens another one on top",
          [] {
              kulgui_create(2);
-             kulgui_config(2, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", 0, 3, 3, 30, 8, nullptr,
-                           nullptr, nullptr, nullptr, nullptr);
-             addButton(7, nullptr, nullptr, 2);
+             configure(2, 3, 30);
+             addButton(7, [] {
+                 EXPECT_EQ(GetActiveChain(), 2);
+                 EXPECT_EQ(kultest::cellOf(window(1), 3, 12).pair, RED_WHITE) << "unfocused";
+             }, 2);
              typeKeys({KS_ENTER});
-             nExecResult = kulgui_exec(2);
+             EXPECT_EQ(kulgui_exec(2), KUL_LEFT);
              EXPECT_EQ(GetCurrentSelection()->nChain, 2);
+             EXPECT_EQ(GetActiveChain(), 1);
+             typeKeys({kPoll});
          },
          KUL_LEFT, "+1 +7 -7 -1 "},
     };
@@ -124,20 +131,45 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
         addButton(1, row.onClick);
         addButton(2);
         EXPECT_EQ(run({KS_ENTER}, row.nResult), row.events);
+        if (GetChain(2)) {
+            EXPECT_EQ(panel_above(GetChain(2)->Pointer->pnlMain), GetChain(1)->Pointer->pnlShadow)
+                << "the one in focus is on top again";
+        }
         TearDown();
         SetUp();
     }
 }
 
-TEST_F(DialogTest, RequestsWithoutALoopAreForgotten)
+TEST_F(DialogTest, RequestsOfOtherCallbacks)
 {
-    addButton(1);
-    addButton(2);
+    for (int nRef : {1, 2, 3})
+        addButton(nRef);
     EXPECT_EQ(kulgui_leave(1), 0);
     EXPECT_EQ(kulgui_leave(9), -1);
-    EXPECT_EQ(run({KS_ENTER, 'x'}, KUL_LEFT), "+1 -1 ");
+    EXPECT_EQ(run({KS_ENTER, 'x'}, KUL_LEFT), "+1 -1 ") << "forgotten: no loop was there to leave";
     EXPECT_EQ(kulgui_setFocus(1, 2), 0);
     EXPECT_EQ(run({'x'}, KUL_LEFT), "+2 -2 ");
+
+    // From a poll while no component can wait, and from onFocus and onUnfocus.
+    for (int nRef : {1, 2, 3})
+        kulbutton_hide(1, nRef);
+    GetChain(1)->Pointer->onPoll = [] {
+        for (int nRef : {1, 2, 3})
+            kulbutton_show(1, nRef);
+        kulgui_setFocus(1, 2);
+    };
+    EXPECT_EQ(run({kPoll, kSecond, KS_ENTER}, KUL_LEFT), "+2 -2 ");
+    GetChain(1)->Pointer->onPoll = nullptr;
+    button(3).onFocus = [] { kulgui_leave(1); };
+    kulgui_setFocus(1, 3);
+    EXPECT_EQ(run({'x'}, KUL_LEFT), "-3 ");
+    button(1).onUnfocus = [] { kulgui_setFocus(1, 2); };
+    kulgui_setTabbing(1, T);
+    kulgui_setFocus(1, 1);
+    EXPECT_EQ(run({KS_ESC}, KUL_LEFT), "+1 +2 -2 ") << "not to the last one";
+    button(1).onUnfocus = [] { kulgui_destroy(1); };
+    typeKeys({KS_TAB});
+    EXPECT_EQ(kulbutton_execKeys(1, 1), -10000);
 }
 
 TEST_F(DialogTest, WithoutAFocusThatCanWait)
@@ -154,15 +186,24 @@ TEST_F(DialogTest, WithoutAFocusThatCanWait)
 
 TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
 {
-    static int nPolls;
-    nPolls = 0;
     makeDialog(2);
-    GetChain(1)->Pointer->onPoll = [] { ++nPolls; };
-    GetChain(2)->Pointer->onPoll = [] { note("hidden"); };
+    GetChain(1)->Pointer->onPoll = [] { note("poll"); };
+    GetChain(2)->Pointer->onPoll = [] { note("not shown"); };
+    for (int nChain : {3, 4}) {
+        makeDialog(nChain);
+        kulgui_show(nChain);
+    }
+    GetChain(3)->Pointer->onPoll = [] { kulgui_hide(3); };
+    GetChain(4)->Pointer->onPoll = [] {
+        kulbox_create(4, 1);
+        kulbox_config(4, 1, RED_CYAN, 1, 1, 3, 3, BORDER);
+    };
     addButton(1);
-    const auto second = [] { kultest::advanceClock(1); };
-    EXPECT_EQ(run({kPoll, kPoll, -2, kPoll, -2, -2, kPoll}, KUL_LEFT, {second}), "+1 -1 ");
-    EXPECT_EQ(nPolls, 2) << "the wait after a pass starts the next second";
+    EXPECT_EQ(run({kPoll, kPoll, kSecond, kPoll, kSecond, kSecond, kPoll}, KUL_LEFT),
+              "+1 poll poll -1 ")
+        << "the wait after a pass starts the next second";
+    EXPECT_EQ(GetChain(3)->Pointer->nVisible, F) << "stays hidden";
+    EXPECT_EQ(kultest::cellOf(window(4), 1, 1).pair, RED_CYAN) << "drawn by the same pass";
     EXPECT_EQ(Poll(0), 1);
     EXPECT_EQ(Poll(1), 0);
     kultest::advanceClock(-100);
@@ -171,49 +212,20 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
     EXPECT_EQ(Poll(1), 1) << "a clock that was set back does not stop the polling";
 }
 
-TEST_F(DialogTest, RequestsOfOtherCallbacks)
-{
-    // From a poll while no component can wait, and from onFocus and onUnfocus.
-    addButton(1);
-    addButton(2);
-    addButton(3, nullptr, [] { kulgui_leave(1); });
-    for (int nRef : {1, 2, 3})
-        kulbutton_hide(1, nRef);
-    GetChain(1)->Pointer->onPoll = [] {
-        for (int nRef : {1, 2, 3})
-            kulbutton_show(1, nRef);
-        kulgui_setFocus(1, 2);
-    };
-    EXPECT_EQ(run({kPoll, -2, KS_ENTER}, KUL_LEFT, {[] { kultest::advanceClock(1); }}), "+2 -2 ");
-    GetChain(1)->Pointer->onPoll = nullptr;
-    GetChain(1)->Pointer->nCurrentUI = 3;
-    EXPECT_EQ(run({'x'}, KUL_LEFT), "-3 ") << "left by its onFocus";
-    auto& button = *static_cast<KULBUTTON*>(GetUIComponentByRef(1, 1)->Pointer);
-    button.onUnfocus = [] { kulgui_setFocus(1, 2); };
-    kulgui_setTabbing(1, T);
-    kulgui_setFocus(1, 1);
-    EXPECT_EQ(run({KS_ESC}, KUL_LEFT), "+1 +2 -2 ") << "not to the last one";
-    button.onUnfocus = [] { kulgui_destroy(1); };
-    typeKeys({KS_TAB});
-    EXPECT_EQ(kulbutton_execKeys(1, 1), -10000);
-}
-
 TEST_F(DialogTest, PollsMayDestroyAnything)
 {
-    const auto second = [] { kultest::advanceClock(1); };
-    for (const int nVictim : {0, 1, 2, 3}) {
+    static int nVictim;
+    for (nVictim = 0; nVictim < 4; ++nVictim) {
         SCOPED_TRACE(nVictim);
-        static int nDestroyed;
-        nDestroyed = nVictim;
         for (int nChain : {2, 3}) {
             makeDialog(nChain);
             kulgui_show(nChain);
             GetChain(nChain)->Pointer->onPoll = [] { note("poll"); };
         }
-        GetChain(2)->Pointer->onPoll = [] { kulgui_destroy(nDestroyed); };
+        GetChain(2)->Pointer->onPoll = [] { kulgui_destroy(nVictim); };
         addButton(1);
         const bool survives = nVictim >= 2;
-        EXPECT_EQ(run({kPoll, -2, kPoll}, survives ? KUL_LEFT : -10000, {second}),
+        EXPECT_EQ(run({kPoll, kSecond, kPoll}, survives ? KUL_LEFT : -10000),
                   std::string("+1 ") + (nVictim == 1 || nVictim == 2 ? "poll " : "") +
                       (survives ? "-1 " : ""));
         if (!GetPrimaryChain())
@@ -227,72 +239,49 @@ TEST_F(DialogTest, SelectionIsPutBackAfterACallback)
 {
     const CURRENT before{1, 2, BUTTON, 3, 4, 5};
     SetCurrentSelection(&before);
-    ExecOnFunction(nullptr);
     ExecOnFunction([] {
         const CURRENT other{9, 9, 9, 9, 9, 9};
         SetCurrentSelection(&other);
     });
-    const CURRENT& after = *GetCurrentSelection();
-    EXPECT_EQ(after.nChain, 1);
-    EXPECT_EQ(after.nUserInterface, 2);
-    EXPECT_EQ(after.nPosition, 3);
-    EXPECT_EQ(GetCurrentOptionSelection(), 4);
-    EXPECT_EQ(after.nSubSelect, 5);
+    ExecOnFunction(nullptr);
     SetCurrentSelection(nullptr);
+    EXPECT_EQ(std::memcmp(GetCurrentSelection(), &before, sizeof before), 0);
     EXPECT_EQ(GetCurrentComponentType(), BUTTON);
-}
-
-TEST_F(DialogTest, ExitFlags)
-{
-    EXPECT_EQ(GetControls()->bMoveToNextUI, F);
-    const struct {
-        int bExitGUI, bExitProgram, nResult;
-    } rows[] = {{F, F, -1}, {T, F, 0}, {F, T, 0}, {T, T, 0}};
-    for (const auto& row : rows) {
-        const CONTROL controls{F, F, row.bExitGUI, row.bExitProgram};
+    EXPECT_EQ(GetCurrentOptionSelection(), 4);
+    for (const CONTROL& controls :
+         {CONTROL{F, F, F, F}, CONTROL{F, F, T, F}, CONTROL{F, F, F, T}}) {
         SetControls(&controls);
-        SetExitGUI();
-        EXPECT_EQ(ExitUIorGUIorChains(), row.nResult);
+        EXPECT_EQ(ExitUIorGUIorChains(), controls.bExitGUI == controls.bExitProgram ? -1 : 0);
     }
 }
 
 TEST_F(DialogTest, FrameTitleAndShadow)
 {
-    const std::vector<kultest::Legend> legend = {{'.', RED_BLUE}, {'w', WHITE_RED}};
-    GUI& gui = *GetChain(1)->Pointer;
-    const auto top = [&](int nWidth, const char* szTitle) {
-        makeDialog(2, nWidth, 3);
-        GetChain(2)->Pointer->szTitle = szTitle;
+    const struct {
+        int nWidth;
+        const char* szTitle;
+        const char* top;
+    } rows[] = {{12, "Title", "┌──Title───┐"}, // half of the width, half of the text, and one
+                {12, "Titles", "┌─Titles───┐"},
+                {7, "Title", "Title─┐"}, // over the corner
+                {5, "Title", "┌───┐"},   // no room: not shown
+                {5, nullptr, "┌───┐"}};
+    for (const auto& row : rows) {
+        makeDialog(2, row.nWidth, 3)->szTitle = row.szTitle;
         kulgui_show(2);
-        const Rows rows = kultest::picture(window(2), 0, 0, 1, nWidth);
+        EXPECT_EQ(kultest::picture(window(2), 0, 0, 1, row.nWidth)[0], row.top);
         kulgui_destroy(2);
-        return rows[0];
-    };
-    EXPECT_EQ(top(12, "Title"), "┌──Title───┐") << "half of the width, half of the text, and one";
-    EXPECT_EQ(top(12, "Titles"), "┌─Titles───┐");
-    EXPECT_EQ(top(7, "Title"), "Title─┐") << "over the corner";
-    EXPECT_EQ(top(6, "Title"), "Title┐");
-    EXPECT_EQ(top(5, "Title"), "┌───┐") << "no room: not shown";
-    EXPECT_EQ(top(5, nullptr), "┌───┐");
+    }
+    GUI& gui = *GetChain(1)->Pointer;
     gui.nColorStandard = WHITE_RED;
     gui.nBorder = NOBORDER;
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 0, 0, 1, 3, {{'w', WHITE_RED}}), (Rows{"www"}));
-    EXPECT_EQ(kultest::picture(window(1), 1, 0, 1, 3), (Rows{"│  "})) << "a frame in any case";
-    EXPECT_EQ(kultest::cellOf(gui.winShadow, 5, 5).pair, GREEN_YELLOW);
-    short nForeground = -1;
-    short nBackground = -1;
-    pair_content(GREEN_YELLOW, &nForeground, &nBackground);
-    EXPECT_EQ(nForeground, COLOR_BLACK);
-    EXPECT_EQ(nBackground, COLOR_BLACK);
-    EXPECT_EQ(panel_below(gui.pnlMain), gui.pnlShadow);
-    int nY = 0;
-    int nX = 0;
-    getbegyx(gui.winShadow, nY, nX);
-    EXPECT_EQ(nY, 1);
-    EXPECT_EQ(nX, 1);
+    EXPECT_EQ(kultest::cellOf(window(1), 1, 0).glyph, "│") << "a frame in any case";
+    EXPECT_EQ(kultest::cellOf(window(1), 1, 0).pair, WHITE_RED);
     kulgui_hide(1);
     EXPECT_TRUE(panel_hidden(gui.pnlMain) && panel_hidden(gui.pnlShadow));
+    kulgui_show(1);
+    EXPECT_FALSE(panel_hidden(gui.pnlMain) || panel_hidden(gui.pnlShadow));
     EXPECT_EQ(kulgui_show(9), 0);
     EXPECT_EQ(kulgui_hide(9), 0);
 }
@@ -301,32 +290,28 @@ TEST_F(DialogTest, SizesAndPlacesOfEveryKind)
 {
     const struct {
         int nX, nY, nWidth, nHeight;
-    } rows[] = {{-5, -5, 10, 5},
-                {0, 0, 0, 0},
-                {0, 0, -3, -3},
-                {79, 23, 80, 24},
-                {1000, 1000, 10, 10},
-                {0, 0, 100000, 100000},
-                {INT_MAX, INT_MIN, INT_MAX, INT_MIN}};
+        int nWindowWidth, nWindowHeight; // of the window
+    } rows[] = {{-5, -5, 10, 5, 10, 5},           {0, 0, 0, 0, 1, 1},
+                {79, 23, 80, 24, 80, 24},         {1000, 1000, 10, 10, 10, 10},
+                {0, 0, 100000, 100000, 512, 512}, {INT_MAX, INT_MIN, INT_MAX, INT_MIN, 512, 1}};
     for (const auto& row : rows) {
         kulgui_create(2);
         kulgui_config(2, INT_MAX, INT_MIN, -1, 99, "far", 0, row.nX, row.nY, row.nWidth,
                       row.nHeight, nullptr, nullptr, nullptr, nullptr, nullptr);
-        addButton(1, nullptr, nullptr, 2);
-        kulbutton_config(2, 1, INT_MAX, INT_MIN, 77, 0, row.nX, row.nY, row.nWidth, 1, "text",
-                         nullptr, nullptr, nullptr, nullptr);
         kulgui_show(2);
-        EXPECT_NE(window(2), nullptr);
+        EXPECT_EQ(GetWindowWidth(window(2)), row.nWindowWidth);
+        EXPECT_EQ(GetWindowHeight(window(2)), row.nWindowHeight);
         kulgui_destroy(2);
     }
 }
 
 TEST_F(DialogTest, PrimaryBackground)
 {
-    GetChain(0)->Pointer->onPoll = nullptr;
+    GetChain(0)->Pointer->szTitle = "alone";
     kulgui_show(0);
+    EXPECT_EQ(kultest::picture(newscr, 0, 0, 1, 7)[0], "alone  ") << "without any panel";
     EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10),
-              (Rows{"primary   ", "──────────", "          "}));
+              (kultest::Rows{"alone     ", "──────────", "          "}));
     // The line has attributes made of the colour set's number, twice shifted, and no colour.
     const kultest::Cell line = kultest::cellOf(stdscr, 1, 79);
     EXPECT_EQ(line.glyph, "─");
@@ -335,7 +320,6 @@ TEST_F(DialogTest, PrimaryBackground)
     EXPECT_EQ(kultest::cellOf(stdscr, 23, 79).pair, BLACK_WHITE);
     EXPECT_EQ(GetChain(0)->Pointer->nWidth, 80);
     EXPECT_EQ(GetWindowWidth(nullptr), -1);
-    EXPECT_EQ(GetWindowHeight(stdscr), 24);
 }
 
 } // namespace

@@ -1,66 +1,63 @@
 // SPDX-License-Identifier: MIT
 #include <climits>
 #include <clocale>
-#include <utility>
 
 #include "support/window_test.hpp"
 
 namespace {
 
-using kultest::Rows;
-
-class DescrfieldTest : public kultest::WindowTest {
+class DescrfieldTest : public kultest::CanvasTest {
 protected:
+    DescrfieldTest() : CanvasTest(30, 10) {}
     void SetUp() override
     {
-        WindowTest::SetUp();
-        gui_ = makeDialog(1, 30, 10);
+        CanvasTest::SetUp();
         ASSERT_EQ(kuldescrfield_create(1, 1), 0);
-        ASSERT_EQ(config(12, 5), 0);
-        kulgui_show(1);
+        ASSERT_EQ(config(12, 4), 0);
     }
 
     static int config(int nRefWidth, int nRefHeight)
     {
         return kuldescrfield_config(1, 1, RED_WHITE, RED_CYAN, 2, 1, 20, nRefWidth, nRefHeight);
     }
-
-    Rows drawn(int nHeight = 7)
+    static int add(const char* szText, const char* szBoxText)
     {
-        ShowDisplayComponents(gui_);
-        return kultest::picture(gui_->winMain, 1, 1, nHeight, 28);
+        return kuldescrfield_addElement(1, 1, szText, szBoxText);
     }
-
-    KULDESCRFIELD& field() const
+    static int set(int nElement, const char* szText, const char* szBoxText)
     {
-        return *static_cast<KULDESCRFIELD*>(GetDIComponentByRef(1, 1)->Pointer);
+        return kuldescrfield_setElement(1, 1, nElement, szText, szBoxText);
     }
-
-    GUI* gui_ = nullptr;
+    static KULDESCRFIELD& field(int nChain = 1)
+    {
+        return *static_cast<KULDESCRFIELD*>(GetDIComponentByRef(nChain, 1)->Pointer);
+    }
 };
 
 TEST_F(DescrfieldTest, ExplainsTheSelectedElement)
 {
-    EXPECT_EQ(kuldescrfield_addElement(1, 1, "A", "What the first one is for"), 0);
-    EXPECT_EQ(kuldescrfield_addElement(1, 1, "Be", "short"), 0);
-    EXPECT_EQ(kuldescrfield_addElement(1, 1, "And a text too long", nullptr), 0);
-    EXPECT_EQ(drawn(), (Rows{" A   Be   And a text too lon", " ┌──────────┐               ",
-                             " │What the  │               ", " │first one │               ",
-                             " │is for    │               ", " │          │               ",
-                             " └──────────┘               "}));
-    const std::vector<kultest::Legend> legend = {
-        {'.', RED_BLUE}, {'s', RED_WHITE}, {'b', RED_CYAN}};
-    EXPECT_EQ(kultest::colors(gui_->winMain, 1, 1, 3, 28, legend),
-              (Rows{".s...bb...bbbbbbbbbbbbbbbbbb", ".ssssssssssssssssssss.......",
-                    ".ssssssssssss..............."}));
-    EXPECT_EQ(kuldescrfield_selElement(1, 1, 1), 0);
-    EXPECT_EQ(drawn()[2], " │short     │               ");
-    EXPECT_EQ(kultest::colors(gui_->winMain, 1, 1, 1, 8, legend), (Rows{".b...ss."}));
-    EXPECT_EQ(kuldescrfield_selElement(1, 1, 5), -1);
-    EXPECT_EQ(field().nSelect, 0);
-    EXPECT_EQ(kuldescrfield_selElement(1, 1, 2), 0);
-    EXPECT_EQ(kuldescrfield_selElement(1, 1, -7), 0);
-    EXPECT_EQ(field().nSelect, 0);
+    EXPECT_EQ(add("A", "What the first one is for"), 0);
+    EXPECT_EQ(add("Be", "short"), 0);
+    EXPECT_EQ(add("And a text too long", nullptr), 0);
+    EXPECT_EQ(drawn(1, 1, 6, 29), ".A...Be...And a text too long|"
+                                  ".┌──────────┐        ........|"
+                                  ".│What the  │................|"
+                                  ".│first one │................|"
+                                  ".│          │................|"
+                                  ".└──────────┘................|");
+    EXPECT_EQ(shades(1, 1, 3, 29), "-w---cc---ccccccccccccccccccc|"
+                                   "-wwwwwwwwwwwwwwwwwwww--------|"
+                                   "-wwwwwwwwwwww----------------|");
+    EXPECT_EQ(kuldescrfield_selElement(1, 1, 1) + add("far right", nullptr), 0);
+    EXPECT_EQ(drawn(3, 1, 1, 13), ".│short     │|");
+    EXPECT_EQ(shades(1, 1, 1, 8), "-c---ww-|");
+    const struct {
+        int nSelect, nResult, nSelected;
+    } rows[] = {{5, -1, 0}, {2, 0, 2}, {-7, 0, 0}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(kuldescrfield_selElement(1, 1, row.nSelect), row.nResult);
+        EXPECT_EQ(field().nSelect, row.nSelected);
+    }
 }
 
 TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
@@ -69,42 +66,50 @@ TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
     std::string text;
     for (int nLength = 0; nLength < 20; ++nLength)
         text += "\303\251";
-    kuldescrfield_addElement(1, 1, (text + "and a long tail").c_str(), "");
-    EXPECT_EQ(drawn()[0], " " + std::string(20, '\351') + "and a l");
-    EXPECT_EQ(drawn()[1], " ┌──────────┐               ");
+    add((text + "and a long tail").c_str(), "");
+    EXPECT_EQ(drawn(1, 1, 2, 29),
+              "." + std::string(20, '\351') + "and a lo|.┌──────────┐        ........|");
     std::setlocale(LC_ALL, "C");
 }
 
 TEST_F(DescrfieldTest, ChangesTextsThatFit)
 {
-    kuldescrfield_addElement(1, 1, "one", "box");
-    KULDESCRFLDELEMENT* element = field().Element;
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, "two", nullptr), 0);
-    EXPECT_STREQ(element->szText, "one") << "as long as before";
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, -4, "three", nullptr), 0);
-    EXPECT_STREQ(element->szText, "three");
-    EXPECT_STREQ(element->szBoxText, "box");
-
-    const std::string fits(10 * 3, 'x');
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, fits.c_str()), 0);
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, "other", (fits + "x").c_str()), -1);
-    EXPECT_STREQ(element->szText, "three") << "an error changes nothing";
-    EXPECT_EQ(element->szBoxText, fits);
-    {
-        kultest::FailingMemory failing(0);
-        EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, "longer than before", "new"), -1);
+    const std::string fits(10 * 2, 'x');
+    const std::string more = fits + 'x';
+    add("one", "box");
+    // clang-format off
+    const struct {
+        const char* name;
+        int nElement;
+        const char* szText;
+        const char* szBoxText;
+        int nResult;
+        std::string text, boxText; // afterwards
+    } rows[] = {
+        {"as long as before: not taken", 0, "two", nullptr, 0, "one", "box"},
+        {"below the first one", -4, "three", nullptr, 0, "three", "box"},
+        {"as much as fits", 0, nullptr, fits.c_str(), 0, "three", fits},
+        {"an error changes nothing", 0, "other", more.c_str(), -1, "three", fits},
+        {"no such element", INT_MAX, "none", "none", 0, "three", fits},
+    };
+    // clang-format on
+    const KULDESCRFLDELEMENT& element = *field().Element;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(set(row.nElement, row.szText, row.szBoxText), row.nResult);
+        EXPECT_EQ(element.szText, row.text);
+        EXPECT_EQ(element.szBoxText, row.boxText);
     }
-    EXPECT_STREQ(element->szText, "three");
-    EXPECT_EQ(element->szBoxText, fits);
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, "heading", element->szText), 0) << "its own text";
-    EXPECT_STREQ(element->szText, "heading");
-    EXPECT_STREQ(element->szBoxText, "three");
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, fits.c_str()), 0);
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 1, "none", "none"), 0) << "no such element";
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, INT_MAX, "none", "none"), 0);
-
-    kuldescrfield_addElement(1, 1, "two", (fits + "more").c_str());
-    EXPECT_EQ(element->Next->szBoxText, fits) << "cut to the box";
+    {
+        const kultest::FailingMemory failing(0);
+        EXPECT_EQ(set(0, "longer than before", "new"), -1);
+    }
+    EXPECT_EQ(element.szText + std::string(element.szBoxText), "three" + fits);
+    EXPECT_EQ(set(0, "heading", element.szText), 0) << "its own text";
+    EXPECT_STREQ(element.szText, "heading");
+    EXPECT_STREQ(element.szBoxText, "three");
+    add("two", more.c_str());
+    EXPECT_EQ(element.Next->szBoxText, fits) << "cut to the box";
 }
 
 TEST_F(DescrfieldTest, RemovesElements)
@@ -113,13 +118,9 @@ TEST_F(DescrfieldTest, RemovesElements)
     EXPECT_EQ(kuldescrfield_selElement(1, 1, 2), -1);
     EXPECT_EQ(field().nSelect, 0);
     EXPECT_EQ(kuldescrfield_remElement(1, 1), -1);
-    kuldescrfield_addElement(1, 1, "one", "box");
-    kuldescrfield_addElement(1, 1, "two", "box");
-    EXPECT_EQ(kuldescrfield_remElement(1, 1), 0);
+    EXPECT_EQ(add("one", "box") + add("two", "box") + kuldescrfield_remElement(1, 1), 0);
     EXPECT_EQ(field().Element->Next, nullptr);
-    EXPECT_EQ(kuldescrfield_remElement(1, 1), 0);
-    EXPECT_EQ(field().Element, nullptr);
-    EXPECT_EQ(kuldescrfield_addElement(1, 1, "new", "box"), 0);
+    EXPECT_EQ(kuldescrfield_remElement(1, 1) + add("new", "box"), 0);
     EXPECT_STREQ(field().Element->szText, "new");
     EXPECT_EQ(config(12, 5), 0);
     EXPECT_EQ(field().Element, nullptr);
@@ -128,24 +129,25 @@ TEST_F(DescrfieldTest, RemovesElements)
 
 TEST_F(DescrfieldTest, TakesSmallBoxesAndMissingMemory)
 {
-    for (const auto& [nWidth, nHeight] : std::initializer_list<std::pair<int, int>>{
-             {2, 5}, {12, 2}, {0, 0}, {-1, -1}, {INT_MIN, INT_MIN}}) {
-        EXPECT_EQ(config(nWidth, nHeight), 0);
-        EXPECT_EQ(kuldescrfield_addElement(1, 1, "one", "text"), 0);
-        EXPECT_STREQ(field().Element->szBoxText, "") << nWidth;
-        EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, "x"), -1);
-        EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, ""), 0);
-        EXPECT_EQ(drawn()[0], " one                        ") << nWidth;
+    const struct {
+        int nWidth, nHeight;
+    } rows[] = {{2, 5}, {12, 2}, {-1, -1}, {INT_MIN, INT_MIN}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(config(row.nWidth, row.nHeight), 0);
+        EXPECT_EQ(add("one", "text"), 0);
+        EXPECT_STREQ(field().Element->szBoxText, "") << row.nWidth;
+        EXPECT_EQ(set(0, nullptr, "x"), -1);
+        EXPECT_EQ(set(0, nullptr, ""), 0);
+        EXPECT_EQ(drawn(1, 1, 1, 5), ".one.|") << row.nWidth;
     }
-    werase(gui_->winMain);
     EXPECT_EQ(config(INT_MAX, INT_MAX), 0);
-    EXPECT_EQ(kuldescrfield_addElement(1, 1, "one", "text"), -1) << "no such amount of memory";
-    EXPECT_EQ(kuldescrfield_setElement(1, 1, 0, nullptr, "text"), -1);
-    EXPECT_EQ(drawn()[1], " ┌──────────────────────────");
+    EXPECT_EQ(add("one", "text"), -1) << "no such amount of memory";
+    EXPECT_EQ(set(0, nullptr, "text"), -1);
+    EXPECT_EQ(drawn(2, 1, 1, 5), ".┌───|");
     for (int nGood = 0; nGood < 3; ++nGood) {
         config(12, 5);
-        kultest::FailingMemory failing(nGood);
-        EXPECT_EQ(kuldescrfield_addElement(1, 1, "one", "text"), -1) << nGood;
+        const kultest::FailingMemory failing(nGood);
+        EXPECT_EQ(add("one", "text"), -1) << nGood;
         drawn();
     }
 }
@@ -158,14 +160,11 @@ TEST_F(DescrfieldTest, StartsWithTheSizeOfItsDialog)
         EXPECT_EQ(kuldescrfield_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP,
                                        KUL_KEEP, KUL_KEEP),
                   0);
-        const auto& field = *static_cast<KULDESCRFIELD*>(GetDIComponentByRef(2, 1)->Pointer);
-        EXPECT_EQ(field.nColorSelect, RED_WHITE);
-        EXPECT_EQ(field.nColorBack, RED_BLUE);
-        EXPECT_EQ(field.nX, 2);
-        EXPECT_EQ(field.nY, 3);
-        EXPECT_EQ(field.nBarLength, 46) << when;
-        EXPECT_EQ(field.nRefWidth, 20);
-        EXPECT_EQ(field.nRefHeight, 7) << when;
+        const KULDESCRFIELD& now = field(2);
+        EXPECT_EQ((std::vector<int>{now.nColorSelect, now.nColorBack, now.nX, now.nY,
+                                    now.nBarLength, now.nRefWidth, now.nRefHeight}),
+                  (std::vector<int>{RED_WHITE, RED_BLUE, 2, 3, 46, 20, 7}))
+            << when;
         kulgui_show(2);
     }
 }

@@ -2,13 +2,10 @@
 //
 // What all items have in common, and boxes and lines, which have little else.
 #include <climits>
-#include <cstdlib>
 
 #include "support/window_test.hpp"
 
 namespace {
-
-using kultest::Rows;
 
 using Call = int (*)(int nChain, int nRef);
 
@@ -25,153 +22,130 @@ struct Kind {
     Call update;
 };
 
+// clang-format off
 const Kind kKinds[] = {
     {"status bar", STATBAR, -10012, kulstatbar_create,
-     [](int c, int r) { return kulstatbar_config(c, r, RED_CYAN, nullptr); }, 1, kulstatbar_show,
-     kulstatbar_hide, nullptr},
+     [](int c, int r) { return kulstatbar_config(c, r, RED_CYAN, nullptr); },
+     1, kulstatbar_show, kulstatbar_hide, nullptr},
     {"scroll bar", SCROLLBAR, -10016, kulscrollbar_create,
-     [](int c, int r) { return kulscrollbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0,
-     kulscrollbar_show, kulscrollbar_hide, nullptr},
+     [](int c, int r) { return kulscrollbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); },
+     0, kulscrollbar_show, kulscrollbar_hide, nullptr},
     {"progress bar", PROGBAR, -10017, kulprogbar_create,
-     [](int c, int r) { return kulprogbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0,
-     kulprogbar_show, kulprogbar_hide, nullptr},
+     [](int c, int r) { return kulprogbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); },
+     0, kulprogbar_show, kulprogbar_hide, nullptr},
     {"description field", DESCRFIELD, -10012, kuldescrfield_create,
-     [](int c, int r) { return kuldescrfield_config(c, r, 1, 2, 3, 4, 5, 6, 7); }, 1, nullptr,
-     nullptr, kuldescrfield_update},
+     [](int c, int r) { return kuldescrfield_config(c, r, 1, 2, 3, 4, 5, 6, 7); },
+     1, nullptr, nullptr, kuldescrfield_update},
     {"box", BOX, -10013, kulbox_create,
-     [](int c, int r) { return kulbox_config(c, r, RED_CYAN, 1, 1, 5, 3, BORDER); }, 0, kulbox_show,
-     kulbox_hide, kulbox_update},
+     [](int c, int r) { return kulbox_config(c, r, RED_CYAN, 1, 1, 5, 3, BORDER); },
+     0, kulbox_show, kulbox_hide, kulbox_update},
     {"line", LINE, -10014, kulline_create,
-     [](int c, int r) { return kulline_config(c, r, RED_CYAN, 1, 1, 5, ENDS, LATERAL); }, 0,
-     kulline_show, kulline_hide, kulline_update},
+     [](int c, int r) { return kulline_config(c, r, RED_CYAN, 1, 1, 5, ENDS, LATERAL); },
+     0, kulline_show, kulline_hide, kulline_update},
     {"label", LABEL, -10015, kullabel_create,
-     [](int c, int r) { return kullabel_config(c, r, 1, 2, 1, 1, 8, 3, LEFT, BORDER, "a"); }, 0,
-     kullabel_show, kullabel_hide, kullabel_update},
+     [](int c, int r) { return kullabel_config(c, r, 1, 2, 1, 1, 8, 3, LEFT, BORDER, "a"); },
+     0, kullabel_show, kullabel_hide, kullabel_update},
 };
+// clang-format on
 
-class ItemTest : public kultest::WindowTest {
+class ItemTest : public kultest::CanvasTest {
 protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        gui_ = makeDialog(1, 12, 6);
-        kulgui_show(1);
-    }
+    ItemTest() : CanvasTest(12, 6) {}
 
-    void clear()
+    // One of each kind, its number one more than the kind's.
+    static void makeAll()
     {
-        for (int row = 0; row < 6; ++row)
-            mvwaddstr(gui_->winMain, row, 0, "............");
+        for (const Kind& kind : kKinds) {
+            ASSERT_EQ(kind.create(1, kind.nType + 1), 0) << kind.name;
+            ASSERT_EQ(kind.config(1, kind.nType + 1), 0) << kind.name;
+        }
     }
-    Rows drawn() { return kultest::picture(gui_->winMain, 0, 0, 6, 12); }
-
-    GUI* gui_ = nullptr;
 };
+
+const std::string kNothing = "............|............|............|"
+                             "............|............|............|";
 
 TEST_F(ItemTest, EveryKindIsMadeSetShownAndHidden)
 {
+    makeAll();
     int nRef = 0;
     for (const Kind& kind : kKinds) {
         SCOPED_TRACE(kind.name);
-        ++nRef;
-        ASSERT_EQ(kind.create(1, nRef), 0);
-        DI* di = GetDIComponentByRef(1, nRef);
+        DI* di = GetDIComponentByRef(1, ++nRef);
         ASSERT_TRUE(di && di->Pointer);
         EXPECT_EQ(di->nType, kind.nType);
+        EXPECT_EQ(di->nUpdate, kind.nConfigured);
         EXPECT_EQ(kind.create(1, nRef), kind.nTaken);
         EXPECT_EQ(kind.create(9, nRef), -10009);
-        EXPECT_EQ(kind.config(1, nRef), 0);
-        EXPECT_EQ(di->nUpdate, kind.nConfigured);
         for (const Call call : {kind.show, kind.hide}) {
-            if (!call)
-                continue;
             di->nUpdate = 1;
-            EXPECT_EQ(call(1, nRef), -1) << "as documented";
-            EXPECT_EQ(di->nUpdate, 0);
-            EXPECT_EQ(call(1, 99), -1);
+            EXPECT_EQ(call ? call(1, nRef) : -1, -1) << "as documented";
+            EXPECT_EQ(di->nUpdate, call ? 0 : 1);
+            EXPECT_EQ(call ? call(1, 99) : -1, -1);
         }
-        EXPECT_EQ(UpdateDIComponent(1, nRef), 0);
+        di->nUpdate = -1;
+        EXPECT_EQ((kind.update ? kind.update : UpdateDIComponent)(1, nRef), 0);
         EXPECT_EQ(di->nUpdate, 1);
-        if (kind.update) {
-            di->nUpdate = -1;
-            EXPECT_EQ(kind.update(1, nRef), 0);
-            EXPECT_EQ(di->nUpdate, 1);
-            EXPECT_EQ(kind.update(1, 99), -1);
-        }
+        EXPECT_EQ((kind.update ? kind.update : UpdateDIComponent)(1, 99), -1);
     }
 }
 
 // Another kind's record must not be written to, and nothing may change.
 TEST_F(ItemTest, EveryKindRefusesUnknownItemsAndOtherKinds)
 {
-    const bool gauge[] = {false, true, true, false, false, false, false};
-    for (const Kind& kind : kKinds)
-        ASSERT_EQ(kind.create(1, kind.nType + 1), 0);
+    const auto isGauge = [](int nType) { return nType == SCROLLBAR || nType == PROGBAR; };
+    makeAll();
     for (const Kind& kind : kKinds) {
         EXPECT_EQ(kind.config(1, 99), -1) << kind.name;
         EXPECT_EQ(kind.config(9, 1), -1) << kind.name;
         for (const Kind& other : kKinds) {
-            const bool related = gauge[kind.nType] && gauge[other.nType];
+            if (other.nType == kind.nType || (isGauge(kind.nType) && isGauge(other.nType)))
+                continue;
             DI* di = GetDIComponentByRef(1, other.nType + 1);
             di->nUpdate = -1;
-            if (other.nType != kind.nType && !related) {
-                EXPECT_EQ(kind.config(1, other.nType + 1), -1) << kind.name << ", " << other.name;
-                EXPECT_EQ(di->nUpdate, -1);
-            }
+            EXPECT_EQ(kind.config(1, other.nType + 1), -1) << kind.name << ", " << other.name;
+            EXPECT_EQ(di->nUpdate, -1);
         }
     }
-    for (int nRef = 0; nRef <= LABEL + 2; ++nRef) {
-        if (nRef != STATBAR + 1) {
-            EXPECT_EQ(kulstatbar_addElement(1, nRef, 0, 5, "text", LEFT, nullptr), -1);
-            EXPECT_EQ(kulstatbar_setElement(1, nRef, 0, "text"), -1);
-            EXPECT_EQ(kulstatbar_remElement(1, nRef), -1);
-            EXPECT_EQ(kulstatbar_getElement(1, nRef, 0), nullptr);
-        }
-        if (nRef != DESCRFIELD + 1) {
-            EXPECT_EQ(kuldescrfield_addElement(1, nRef, "text", "text"), -1);
-            EXPECT_EQ(kuldescrfield_setElement(1, nRef, 0, "text", "text"), -1);
-            EXPECT_EQ(kuldescrfield_remElement(1, nRef), -1);
-            EXPECT_EQ(kuldescrfield_selElement(1, nRef, 0), -1);
-        }
-        if (nRef != SCROLLBAR + 1 && nRef != PROGBAR + 1) {
-            EXPECT_EQ(kulscrollbar_setPosition(1, nRef, 1), -1);
-            EXPECT_EQ(kulprogbar_setByPercent(1, nRef, 1), -1);
-        }
-        if (nRef != LABEL + 1) {
-            EXPECT_EQ(kullabel_setText(1, nRef, "text"), -1);
+    // clang-format off
+    const struct {
+        Call call;
+        int nType;
+    } calls[] = {
+        {[](int c, int r) { return kulstatbar_addElement(c, r, 0, 5, "t", LEFT, nullptr); }, STATBAR},
+        {[](int c, int r) { return kulstatbar_setElement(c, r, 0, "text"); }, STATBAR},
+        {kulstatbar_remElement, STATBAR},
+        {[](int c, int r) { return kuldescrfield_addElement(c, r, "t", "t"); }, DESCRFIELD},
+        {[](int c, int r) { return kuldescrfield_setElement(c, r, 0, "t", "t"); }, DESCRFIELD},
+        {[](int c, int r) { return kuldescrfield_selElement(c, r, 0); }, DESCRFIELD},
+        {kuldescrfield_remElement, DESCRFIELD},
+        {[](int c, int r) { return kulscrollbar_setPosition(c, r, 1); }, SCROLLBAR},
+        {[](int c, int r) { return kullabel_setText(c, r, "text"); }, LABEL},
+    };
+    // clang-format on
+    for (const auto& row : calls) {
+        for (int nType = -1; nType <= LABEL + 1; ++nType) {
+            if (nType != row.nType && !(isGauge(row.nType) && isGauge(nType))) {
+                EXPECT_EQ(row.call(1, nType + 1), -1) << &row - calls << ' ' << nType;
+            }
         }
     }
     EXPECT_EQ(ConfigDIComponent(1, 99), -1);
     EXPECT_EQ(SetDIVisibility(1, 99, T), -1);
 }
 
-TEST_F(ItemTest, IsAttachedByKind)
+TEST_F(ItemTest, WithoutMemoryIsNotMadeOrHasNoRecord)
 {
-    using Attach = int (*)(DI*);
-    const Attach attach[] = {AttachStatbarComponentToDI, AttachScrollbarComponentToDI,
-                             AttachProgbarComponentToDI, AttachDescrfieldComponentToDI,
-                             AttachBoxComponentToDI,     AttachLineComponentToDI,
-                             AttachLabelComponentToDI};
-    for (int nType = 0; nType <= LABEL; ++nType) {
-        DI di{nType, 1, nullptr, nullptr, 0};
-        EXPECT_EQ(attach[nType](&di), 0);
-        EXPECT_NE(di.Pointer, nullptr);
-        EXPECT_EQ(WipeAllDIComponents(&di), 0) << nType << " without elements is freed as well";
-        EXPECT_EQ(attach[nType](nullptr), -1);
-        kultest::FailingMemory failing(0);
-        EXPECT_EQ(attach[nType](&di), -1);
-        EXPECT_EQ(kKinds[nType].create(1, 1), -10011);
+    for (const Kind& kind : kKinds) {
+        SCOPED_TRACE(kind.name);
+        for (const int nGood : {0, 1}) {
+            const kultest::FailingMemory failing(nGood);
+            EXPECT_EQ(kind.create(1, kind.nType + 1), nGood == 0 ? -10011 : -1);
+        }
+        EXPECT_EQ(kind.config(1, kind.nType + 1), -1) << "it stays in the list";
+        EXPECT_EQ(UpdateDIComponent(1, kind.nType + 1), -1);
     }
-    for (const int nType : {-1, LABEL + 1, INT_MIN, INT_MAX}) {
-        DI di{nType, 1, nullptr, nullptr, 0};
-        EXPECT_EQ(AttachComponentToDI(&di, nType), -1);
-        EXPECT_EQ(WipeAllDIComponents(&di), -1);
-    }
-    kultest::FailingMemory failing(1); // an item without record stays in the list
-    EXPECT_EQ(kulbox_create(1, 1), -1);
-    EXPECT_EQ(kulbox_config(1, 1, 1, 1, 1, 5, 3, BORDER), -1);
-    EXPECT_EQ(UpdateDIComponent(1, 1), -1);
-    ShowDisplayComponents(gui_);
+    EXPECT_EQ(drawn(), kNothing);
 }
 
 TEST_F(ItemTest, IsWipedUpToTheFirstWithoutRecord)
@@ -179,58 +153,53 @@ TEST_F(ItemTest, IsWipedUpToTheFirstWithoutRecord)
     DI list[3] = {{LABEL, 1, &list[1], nullptr, 0},
                   {BOX, 2, &list[2], nullptr, 0},
                   {LINE, 3, nullptr, nullptr, 0}};
-    AttachComponentToDI(&list[0], LABEL);
-    AttachComponentToDI(&list[2], LINE);
+    EXPECT_EQ(AttachLabelComponentToDI(&list[0]) + AttachLineComponentToDI(&list[2]), 0);
     EXPECT_EQ(WipeAllDIComponents(list), -1);
     EXPECT_EQ(list[0].Pointer, nullptr);
     EXPECT_NE(list[2].Pointer, nullptr);
     EXPECT_EQ(WipeAllDIComponents(&list[2]), 0);
-    EXPECT_EQ(WipeAllDIComponents(nullptr), -1);
-    EXPECT_EQ(WipeStatbarComponent(nullptr), 0);
-    EXPECT_EQ(WipeDescrfieldComponent(nullptr), 0);
-    EXPECT_EQ(WipeScrollbarComponent(nullptr), -1);
-    EXPECT_EQ(WipeProgbarComponent(nullptr), -1);
-    EXPECT_EQ(WipeBoxComponent(nullptr), -1);
-    EXPECT_EQ(WipeLineComponent(nullptr), -1);
+    for (const int nType : {-1, LABEL + 1, INT_MIN, INT_MAX}) {
+        list[2].nType = nType;
+        EXPECT_EQ(AttachComponentToDI(&list[2], nType), -1);
+        EXPECT_EQ(WipeAllDIComponents(&list[2]), -1);
+    }
+    EXPECT_EQ(WipeStatbarComponent(nullptr) + WipeDescrfieldComponent(nullptr), 0);
     EXPECT_EQ(WipeLabelComponent(nullptr), -1);
-    EXPECT_EQ(WipeStatbarElements(nullptr), -1);
-    EXPECT_EQ(WipeDescrfieldElements(nullptr), -1);
 }
 
 TEST_F(ItemTest, UpdatesOnlyWhatChanged)
 {
-    for (const Kind& kind : kKinds)
-        ASSERT_EQ(kind.create(1, kind.nType + 1) + kind.config(1, kind.nType + 1), 0);
+    makeAll();
     UpdateDisplayComponents(gui_);
     for (const Kind& kind : kKinds)
         EXPECT_EQ(GetDIComponentByRef(1, kind.nType + 1)->nUpdate, kind.nConfigured == 1 ? 1 : -1);
     clear();
     UpdateDisplayComponents(gui_);
-    EXPECT_EQ(drawn(), Rows(6, "............"));
+    EXPECT_EQ(shades(0, 0, 6, 1), "-|-|-|-|-|-|");
+    EXPECT_EQ(shades(1, 1, 1, 11), "-----------|");
     kulbox_show(1, BOX + 1);
     UpdateDisplayComponents(gui_);
-    EXPECT_EQ(drawn(), (Rows{"............", ".┌───┐......", ".│   │......", ".└───┘......",
-                             "............", "............"}));
+    EXPECT_EQ(shades(1, 0, 3, 7), "-ccccc-|-ccccc-|-ccccc-|");
     ShowDisplayComponents(nullptr);
     UpdateDisplayComponents(nullptr);
 }
 
 TEST_F(ItemTest, DrawsBoxesAndLines)
 {
-    struct Row {
-        int nType;
-        int nStyle; // border or ends
-        int nOrient;
-        Rows rows; // from row 1 on
+    // clang-format off
+    const struct {
+        int nType, nStyle, nOrient; // the style is the border or the ends
+        const char* cells;
+    } rows[] = {
+        {BOX, BORDER, 0, ".┌──┐..|.│  │..|.└──┘..|.......|"},
+        {BOX, NOBORDER, 0, ".    ..|.    ..|.    ..|.......|"},
+        {LINE, NOENDS, LATERAL, ".─────.|.......|.......|.......|"},
+        {LINE, ENDS, 5, ".├──┤..|.......|.......|.......|"},
+        {LINE, 7, VERTICAL, ".│.....|.│.....|.│.....|.│.....|"},
+        {LINE, ENDS, VERTICAL, ".┬.....|.│.....|.│.....|.┴.....|"},
     };
-    for (const Row& row : std::initializer_list<Row>{
-             {BOX, BORDER, 0, {".┌──┐.......", ".│  │.......", ".└──┘......."}},
-             {BOX, NOBORDER, 0, {".    .......", ".    .......", ".    ......."}},
-             {LINE, NOENDS, LATERAL, {".─────......", "............", "............"}},
-             {LINE, ENDS, 5, {".├──┤.......", "............", "............"}},
-             {LINE, 7, VERTICAL, {".│..........", ".│..........", ".│.........."}},
-             {LINE, ENDS, VERTICAL, {".┬..........", ".│..........", ".│.........."}},
-         }) {
+    // clang-format on
+    for (const auto& row : rows) {
         const Kind& kind = kKinds[row.nType];
         kind.create(1, kind.nType);
         EXPECT_EQ(row.nType == BOX
@@ -238,25 +207,20 @@ TEST_F(ItemTest, DrawsBoxesAndLines)
                       : kulline_config(1, LINE, RED_CYAN, 1, 1, 4, row.nStyle, row.nOrient),
                   0);
         clear();
-        ShowDisplayComponents(gui_);
-        EXPECT_EQ(kultest::picture(gui_->winMain, 1, 0, 3, 12), row.rows);
-        EXPECT_EQ(kultest::cellOf(gui_->winMain, 1, 1).pair, RED_CYAN);
+        EXPECT_EQ(drawn(1, 0, 4, 7), row.cells);
+        EXPECT_EQ(shades(1, 1, 1, 1), "c|");
         kind.hide(1, kind.nType);
         clear();
-        ShowDisplayComponents(gui_);
-        EXPECT_EQ(drawn(), Rows(6, "............"));
+        EXPECT_EQ(drawn(), kNothing);
     }
     kulbox_config(1, BOX, KUL_KEEP, -5, -5, INT_MAX, INT_MAX, KUL_KEEP);
     kulline_config(1, LINE, KUL_KEEP, INT_MIN, INT_MAX, INT_MAX, KUL_KEEP, KUL_KEEP);
-    ShowDisplayComponents(gui_);
-    EXPECT_EQ(drawn(), Rows(6, "            "));
+    EXPECT_EQ(drawn(5, 8, 1, 4), "    |");
     const auto& box = *static_cast<KULBOX*>(GetDIComponentByRef(1, BOX)->Pointer);
     const auto& line = *static_cast<KULLINE*>(GetDIComponentByRef(1, LINE)->Pointer);
-    EXPECT_EQ(box.nColorSet, RED_BLUE);
-    EXPECT_EQ(box.nBorder, BORDER);
-    EXPECT_EQ(line.nColorSet, RED_BLUE);
-    EXPECT_EQ(line.nEnds, NOENDS);
-    EXPECT_EQ(line.nOrient, LATERAL);
+    EXPECT_EQ(
+        (std::vector<int>{box.nColorSet, box.nBorder, line.nColorSet, line.nEnds, line.nOrient}),
+        (std::vector<int>{RED_BLUE, BORDER, RED_BLUE, NOENDS, LATERAL}));
 }
 
 } // namespace

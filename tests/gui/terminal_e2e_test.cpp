@@ -45,9 +45,7 @@ struct Line {
     }
     bool hasModesOf(const Line& other) const
     {
-        return modes.c_iflag == other.modes.c_iflag && modes.c_oflag == other.modes.c_oflag &&
-               modes.c_cflag == other.modes.c_cflag && modes.c_lflag == other.modes.c_lflag &&
-               std::memcmp(modes.c_cc, other.modes.c_cc, sizeof modes.c_cc) == 0;
+        return std::memcmp(&modes, &other.modes, sizeof modes) == 0;
     }
 };
 
@@ -56,62 +54,59 @@ int exited(int status)
     return W_EXITCODE(status, 0);
 }
 
-void signalled(Terminal& terminal, int signal)
+// What is done to a program that waits for a key.
+using Act = std::function<void(Terminal&)>;
+
+const Act enter = [](Terminal& terminal) { terminal.press("\r"); };
+
+Act send(int signal)
 {
-    ASSERT_TRUE(terminal.settle());
-    terminal.kill(signal);
+    return [=](Terminal& terminal) {
+        ASSERT_TRUE(terminal.settle());
+        terminal.kill(signal);
+    };
 }
 
-void enter(Terminal& terminal)
+Act twice(Act second)
 {
-    terminal.press("\r");
+    return [=](Terminal& terminal) {
+        enter(terminal);
+        ASSERT_TRUE(terminal.waitForText("count 1"));
+        EXPECT_LE(terminal.cell(11, 10).background, 0) << "a shadow is black";
+        second(terminal);
+    };
 }
-
-struct Way {
-    const char* name;
-    const char* words;
-    std::function<void(Terminal&)> act;
-    int status;
-    bool closed = false; // by kulgui_destroyAll, which leaves its own flags
-};
 
 class Ways : public testing::TestWithParam<const char*> {};
 
 TEST_P(Ways, LeaveTheTerminalAsItWasFound)
 {
-    const Way ways[] = {
+    const bool ownScreen = GetParam() == std::string("xterm-256color"); // beside the shell's
+    // clang-format off
+    const struct {
+        const char* name;
+        const char* words;
+        Act act;
+        int status;
+        bool closed = false; // by kulgui_destroyAll, which leaves its own flags
+    } ways[] = {
         {"exit() in a callback", "exit", enter, exited(3)},
         {"return without closing", "return", enter, exited(4)},
         {"kulgui_destroyAll", "close", enter, exited(5), true},
-        {"opened twice", "again",
-         [](Terminal& terminal) {
-             enter(terminal);
-             terminal.waitForText("count 1");
-             EXPECT_LE(terminal.cell(11, 10).background, 0) << "a shadow is black";
-             enter(terminal);
-         },
-         exited(5), true},
-        {"TERM with a handler set later", "late",
-         [](Terminal& terminal) {
-             enter(terminal);
-             terminal.waitForText("count 1");
-             signalled(terminal, SIGTERM);
-         },
-         exited(6)},
-        {"HUP", "count", [](Terminal& terminal) { signalled(terminal, SIGHUP); }, SIGHUP},
-        {"INT", "count", [](Terminal& terminal) { signalled(terminal, SIGINT); }, SIGINT},
-        {"QUIT", "count", [](Terminal& terminal) { signalled(terminal, SIGQUIT); }, SIGQUIT},
-        {"TERM", "count", [](Terminal& terminal) { signalled(terminal, SIGTERM); }, SIGTERM},
-        {"TERM with a handler", "handler count",
-         [](Terminal& terminal) { signalled(terminal, SIGTERM); }, exited(6)},
+        {"opened twice", "again", twice(enter), exited(5), true},
+        {"HUP", "count", send(SIGHUP), SIGHUP},
+        {"INT", "count", send(SIGINT), SIGINT},
+        {"QUIT", "count", send(SIGQUIT), SIGQUIT},
+        {"TERM", "count", send(SIGTERM), SIGTERM},
+        {"TERM with a handler", "handler count", send(SIGTERM), exited(6)},
+        {"TERM with a handler set later", "late", twice(send(SIGTERM)), exited(6)},
+        {"TERM after closing", "raise", enter, SIGTERM, true},
+        {"TERM after closing, with a handler", "handler raise", enter, exited(6), true},
         {"INT ignored", "ignore exit",
-         [](Terminal& terminal) {
-             signalled(terminal, SIGINT);
-             enter(terminal);
-         },
-         exited(3)},
+         [](Terminal& terminal) { send(SIGINT)(terminal); enter(terminal); }, exited(3)},
     };
-    for (const Way& way : ways) {
+    // clang-format on
+    for (const auto& way : ways) {
         SCOPED_TRACE(way.name);
         Terminal terminal(
             script("ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
@@ -133,9 +128,14 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         EXPECT_EQ(after.flags & (O_NONBLOCK | O_APPEND),
                   way.closed ? O_APPEND : before.flags & (O_NONBLOCK | O_APPEND));
         EXPECT_TRUE(terminal.cursor().visible);
-        if (GetParam() == std::string("xterm-256color")) { // which keeps the shell's screen
-            EXPECT_EQ(terminal.row(0), "before");
-        }
+        // What was there before, or nothing, and what the program wrote afterwards.
+        EXPECT_EQ(terminal.row(0), ownScreen ? "before" : "");
+        EXPECT_EQ(terminal.text().find("count"), std::string::npos);
+        EXPECT_EQ(terminal.text().find("closed") != std::string::npos, way.closed);
+        EXPECT_TRUE(ownScreen || terminal.cursor().row == terminal.rows() - 1);
+        Emulator again(terminal.columns(), terminal.rows(), GetParam());
+        again.feed(terminal.received());
+        EXPECT_EQ(again.takeAnswers(), "") << "it asks the terminal nothing";
         terminal.feed("x"); // in whatever look the program has left
         EXPECT_EQ(terminal.cell(terminal.cursor().row, terminal.cursor().column - 1),
                   Cell{.glyph = "x"});
@@ -167,33 +167,36 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
 {
     for (const char* term : {"linux", "vt100", "xterm-256color"}) {
         SCOPED_TRACE(term);
-        Terminal terminal(script("set -m; echo before; read go; \"$@\"; echo stopped; read go; "
-                                 "fg >/dev/null; echo \"ended with $?\"",
+        Terminal terminal(script("set -m; echo before; read go; \"$@\"; "
+                                 "for i in 1 2; do echo stopped $i; read go; fg >/dev/null; done; "
+                                 "echo ended with $?",
                                  "ways count", term));
         ASSERT_TRUE(terminal.waitForText("before"));
         const Line before(terminal);
         terminal.press("\r");
         ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
         const Line inside(terminal);
-        const std::string screen = terminal.text();
-
         ASSERT_NE(foreground(terminal), terminal.pid());
-        ::kill(-foreground(terminal), SIGTSTP);
-        ASSERT_TRUE(terminal.waitForText("stopped") && terminal.settle());
-        EXPECT_TRUE(Line(terminal).hasModesOf(before));
-        EXPECT_EQ(Line(terminal).flags, before.flags);
-        EXPECT_TRUE(terminal.cursor().visible);
+        for (const char* round : {"1", "2"}) {
+            const std::string screen = terminal.text();
+            ::kill(-foreground(terminal), SIGTSTP);
+            ASSERT_TRUE(terminal.waitForText(std::string("stopped ") + round));
+            ASSERT_TRUE(terminal.settle());
+            EXPECT_TRUE(Line(terminal).hasModesOf(before));
+            EXPECT_EQ(Line(terminal).flags, before.flags);
+            EXPECT_TRUE(terminal.cursor().visible);
 
-        terminal.feed("\033[3;3Hdirt"); // what others have written meanwhile
-        terminal.press("\r");
-        EXPECT_TRUE(terminal.waitFor([&] { return terminal.text() == screen; })) << terminal.text();
-        ASSERT_TRUE(terminal.settle());
-        EXPECT_TRUE(Line(terminal).hasModesOf(inside));
-        EXPECT_EQ(Line(terminal).flags, inside.flags);
-        EXPECT_FALSE(terminal.cursor().visible && term != std::string("vt100"));
-        terminal.press("\r");
-        EXPECT_TRUE(terminal.waitForText("count 1"));
-
+            terminal.feed("\033[3;3Hdirt"); // what others have written meanwhile
+            terminal.press("\r");
+            EXPECT_TRUE(terminal.waitFor([&] { return terminal.text() == screen; }))
+                << terminal.text();
+            ASSERT_TRUE(terminal.settle());
+            EXPECT_TRUE(Line(terminal).hasModesOf(inside));
+            EXPECT_EQ(Line(terminal).flags, inside.flags);
+            EXPECT_FALSE(terminal.cursor().visible && term != std::string("vt100"));
+            terminal.press("\r");
+            EXPECT_TRUE(terminal.waitForText(std::string("count ") + round));
+        }
         ::kill(-foreground(terminal), SIGTERM);
         EXPECT_TRUE(terminal.waitForText("ended with 143"));
         EXPECT_TRUE(Line(terminal).hasModesOf(before));
@@ -223,24 +226,18 @@ double processorSeconds()
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-TEST(HangUp, EndsTheProgramThatDoesNotHandleIt)
-{
-    Terminal terminal(script("exec \"$@\"", "ways count"));
-    ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
-    terminal.hangUp();
-    EXPECT_EQ(terminal.wait(), SIGHUP);
-}
-
-TEST(HangUp, EndsTheLoopOfADialogSoonAndQuietly)
+TEST(HangUp, EndsTheProgramOrTheLoopOfItsDialogSoonAndQuietly)
 {
     constexpr int kSoon = 3000; // a second, and patience with a busy machine
     const double before = processorSeconds();
     {
+        Terminal unaware(script("exec \"$@\"", "ways count"));
         Terminal ignoring(script("trap '' HUP; exec \"$@\"", "ways count"));
-        ASSERT_TRUE(ignoring.waitForText("count 0") && ignoring.settle());
-        ignoring.hangUp();
-        EXPECT_EQ(ignoring.wait(kSoon), exited(10));
-
+        for (Terminal* terminal : {&unaware, &ignoring}) {
+            ASSERT_TRUE(terminal->waitForText("count 0") && terminal->settle());
+            terminal->hangUp();
+            EXPECT_EQ(terminal->wait(kSoon), terminal == &unaware ? SIGHUP : exited(10));
+        }
         Terminal empty(script("exec \"$@\" </dev/null", "ways count"));
         EXPECT_EQ(empty.wait(kSoon), exited(10));
         EXPECT_NE(empty.received().find("count 0"), std::string::npos);
@@ -286,79 +283,39 @@ protected:
     int count_ = 0;
 };
 
-struct Key {
+// clang-format off
+const struct {
     std::string bytes;
     int code;
     bool together = false; // means something else when it comes byte by byte
+} kKeys[] = {
+    {"\r", 13}, {"\033", 27}, {"\003", 3}, {"\023", 19}, {"\310", -56},
+    {"\033[OP", 1000}, {"\033[[E", 1004}, {"\033[24~", 1011}, {"\033[A", 1019},
+    {"\033\033[17~", 1005}, // as long as a key may be
+    {"\033OP", 0}, {"\033[1;5A", 0}, // unknown
+    {"\033[?1;2c", 0}, {"\033[24;80R", 0}, {"\033P1$r0m\033\\", 0}, // answers of a terminal
+    {"ab", 0, true}, {"abcdefgh", 0, true}, // typed ahead
+    {"\033[A\033[B", 1019, true}, {"\033[A\033[1;5B", 1019, true},
 };
+// clang-format on
 
-const Key kKeys[] = {
-    {"\t", 9},
-    {"\r", 13},
-    {"\033", 27},
-    {" ", 32},
-    {"\177", 127},
-    {"a", 97},
-    {"\310", -56},
-    {"\033[OP", 1000},
-    {"\033[[B", 1001},
-    {"\033[[C", 1002},
-    {"\033[[D", 1003},
-    {"\033[[E", 1004},
-    {"\033[17~", 1005},
-    {"\033[18~", 1006},
-    {"\033[19~", 1007},
-    {"\033[20~", 1008},
-    {"\033[21~", 1009},
-    {"\033[23~", 1010},
-    {"\033[24~", 1011},
-    {"\033[2~", 1012},
-    {"\033[3~", 1013},
-    {"\033[H", 1014},
-    {"\033[5~", 1015},
-    {"\033[6~", 1016},
-    {"\033[F", 1017},
-    {"\033[D", 1018},
-    {"\033[A", 1019},
-    {"\033[B", 1020},
-    {"\033[C", 1021},
-    {"\033[[A", 1019},  // the first tail that occurs in it
-    {"\033OP", 0},      // unknown
-    {"\033[1;5A", 0},   //
-    {"\033[?1;2c", 0},  // the terminal says what it is
-    {"\033[24;80R", 0}, // and where the cursor stands
-    {"\033P1$r0m\033\\", 0},
-    {"ab", 0, true},
-    {"\033[A\033[B", 1019, true},
-};
-
-TEST_F(Keys, AreReadFromBytesThatComeTogether)
-{
-    for (const Key& key : kKeys) {
-        SCOPED_TRACE(testing::PrintToString(key.bytes));
-        terminal_.send(key.bytes);
-        EXPECT_TRUE(next(key.code)) << terminal_.row(0);
-        terminal_.send("z"); // and nothing is left of it
-        EXPECT_TRUE(next('z')) << terminal_.row(0);
-    }
-}
-
-TEST_F(Keys, AreReadFromBytesOfASlowLine)
+TEST_F(Keys, AreReadFromBytesThatComeTogetherOrOnASlowLine)
 {
     // A busy machine may stretch a gap until it is the end of a key: then the key comes again.
     constexpr int kTries = 3;
-    constexpr int kGap = 10;
-    for (const Key& key : kKeys) {
-        SCOPED_TRACE(testing::PrintToString(key.bytes));
-        for (int tries = key.together ? 0 : kTries; tries > 0; --tries) {
-            terminal_.sendSlowly(key.bytes, kGap);
-            if (next(key.code))
-                break;
-            EXPECT_GT(tries, 1) << terminal_.row(0);
-            count_ = number();
+    for (const int gap : {0, 10}) {
+        for (const auto& key : kKeys) {
+            SCOPED_TRACE(testing::PrintToString(key.bytes));
+            for (int tries = gap && key.together ? 0 : kTries; tries > 0; --tries) {
+                gap ? terminal_.sendSlowly(key.bytes, gap) : terminal_.send(key.bytes);
+                if (next(key.code))
+                    break;
+                EXPECT_GT(gap ? tries : 1, 1) << terminal_.row(0);
+                count_ = number();
+            }
+            terminal_.send("z"); // and nothing is left of it
+            EXPECT_TRUE(next('z')) << terminal_.row(0);
         }
-        terminal_.send("z");
-        EXPECT_TRUE(next('z')) << terminal_.row(0);
     }
 }
 

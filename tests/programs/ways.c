@@ -5,6 +5,7 @@
  *   exit      ends the program with exit(3)
  *   return    leaves the dialog; main returns 4 with the terminal open
  *   close     leaves the dialog; the program closes the terminal, prints "closed" and returns 5
+ *   raise     as close, but sends itself a TERM before it returns
  *   again     as close, but first opens and closes the terminal once more, with an Enter between
  *   count     counts
  *   late      installs a handler for TERM, as below, and opens the terminal that is open again
@@ -87,6 +88,8 @@ int main(int argc, char** argv)
             return 4;
         kulgui_destroyAll();
         puts("closed");
+        if (strcmp(way, "raise") == 0)
+            raise(SIGTERM);
     }
     return 5;
 }
