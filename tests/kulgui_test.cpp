@@ -24,8 +24,7 @@ void note(const std::string& event)
 // Configures a dialog in colours that are not the default ones; it has no components then.
 void configure(int nChain, int nX = 0, int nWidth = 40)
 {
-    kulgui_config(nChain, 0, 0, 0, 0, "", 0, nX, 0, nWidth, 9, nullptr, nullptr, nullptr, nullptr,
-                  nullptr);
+    kulgui_config(nChain, 0, 0, 0, 0, "", 0, nX, 0, nWidth, 9, nullptr, nullptr, nullptr, nullptr, nullptr);
 }
 
 // Dialog 1, and buttons that note when they take and lose the focus.
@@ -44,13 +43,9 @@ protected:
         kulbutton_config(
             nChain, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nRef * 10, 2, 8, 1, "B",
             [] { note("+" + std::to_string(GetCurrentSelection()->nUserInterface)); },
-            [] { note("-" + std::to_string(GetCurrentSelection()->nUserInterface)); }, nullptr,
-            onClick);
+            [] { note("-" + std::to_string(GetCurrentSelection()->nUserInterface)); }, nullptr, onClick);
     }
-    static KULBUTTON& button(int nRef)
-    {
-        return *static_cast<KULBUTTON*>(GetUIComponentByRef(1, nRef)->Pointer);
-    }
+    static KULBUTTON& button(int nRef) { return *static_cast<KULBUTTON*>(GetUIComponentByRef(1, nRef)->Pointer); }
 
     static std::string run(const std::vector<int>& keys, int nExpected)
     {
@@ -199,8 +194,7 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
         kulbox_config(4, 1, RED_CYAN, 1, 1, 3, 3, BORDER);
     };
     addButton(1);
-    EXPECT_EQ(run({kPoll, kPoll, kSecond, kPoll, kSecond, kSecond, kPoll}, KUL_LEFT),
-              "+1 poll poll -1 ")
+    EXPECT_EQ(run({kPoll, kPoll, kSecond, kPoll, kSecond, kSecond, kPoll}, KUL_LEFT), "+1 poll poll -1 ")
         << "the wait after a pass starts the next second";
     EXPECT_EQ(GetChain(3)->Pointer->nVisible, F) << "stays hidden";
     EXPECT_EQ(kultest::cellOf(window(4), 1, 1).pair, RED_CYAN) << "drawn by the same pass";
@@ -226,8 +220,7 @@ TEST_F(DialogTest, PollsMayDestroyAnything)
         addButton(1);
         const bool survives = nVictim >= 2;
         EXPECT_EQ(run({kPoll, kSecond, kPoll}, survives ? KUL_LEFT : -10000),
-                  std::string("+1 ") + (nVictim == 1 || nVictim == 2 ? "poll " : "") +
-                      (survives ? "-1 " : ""));
+                  std::string("+1 ") + (nVictim == 1 || nVictim == 2 ? "poll " : "") + (survives ? "-1 " : ""));
         if (!GetPrimaryChain())
             kulgui_create(0);
         TearDown();
@@ -248,8 +241,7 @@ TEST_F(DialogTest, SelectionIsPutBackAfterACallback)
     EXPECT_EQ(std::memcmp(GetCurrentSelection(), &before, sizeof before), 0);
     EXPECT_EQ(GetCurrentComponentType(), BUTTON);
     EXPECT_EQ(GetCurrentOptionSelection(), 4);
-    for (const CONTROL& controls :
-         {CONTROL{F, F, F, F}, CONTROL{F, F, T, F}, CONTROL{F, F, F, T}}) {
+    for (const CONTROL& controls : {CONTROL{F, F, F, F}, CONTROL{F, F, T, F}, CONTROL{F, F, F, T}}) {
         SetControls(&controls);
         EXPECT_EQ(ExitUIorGUIorChains(), controls.bExitGUI == controls.bExitProgram ? -1 : 0);
     }
@@ -296,8 +288,8 @@ TEST_F(DialogTest, SizesAndPlacesOfEveryKind)
                 {0, 0, 100000, 100000, 512, 512}, {INT_MAX, INT_MIN, INT_MAX, INT_MIN, 512, 1}};
     for (const auto& row : rows) {
         kulgui_create(2);
-        kulgui_config(2, INT_MAX, INT_MIN, -1, 99, "far", 0, row.nX, row.nY, row.nWidth,
-                      row.nHeight, nullptr, nullptr, nullptr, nullptr, nullptr);
+        kulgui_config(2, INT_MAX, INT_MIN, -1, 99, "far", 0, row.nX, row.nY, row.nWidth, row.nHeight, nullptr, nullptr,
+                      nullptr, nullptr, nullptr);
         kulgui_show(2);
         EXPECT_EQ(GetWindowWidth(window(2)), row.nWindowWidth);
         EXPECT_EQ(GetWindowHeight(window(2)), row.nWindowHeight);
@@ -310,8 +302,7 @@ TEST_F(DialogTest, PrimaryBackground)
     GetChain(0)->Pointer->szTitle = "alone";
     kulgui_show(0);
     EXPECT_EQ(kultest::picture(newscr, 0, 0, 1, 7)[0], "alone  ") << "without any panel";
-    EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10),
-              (kultest::Rows{"alone     ", "──────────", "          "}));
+    EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10), (kultest::Rows{"alone     ", "──────────", "          "}));
     // The line has attributes made of the colour set's number, twice shifted, and no colour.
     const kultest::Cell line = kultest::cellOf(stdscr, 1, 79);
     EXPECT_EQ(line.glyph, "─");

@@ -67,8 +67,7 @@ TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
     for (int nLength = 0; nLength < 20; ++nLength)
         text += "\303\251";
     add((text + "and a long tail").c_str(), "");
-    EXPECT_EQ(drawn(1, 1, 2, 29),
-              "." + std::string(20, '\351') + "and a lo|.┌──────────┐        ........|");
+    EXPECT_EQ(drawn(1, 1, 2, 29), "." + std::string(20, '\351') + "and a lo|.┌──────────┐        ........|");
     std::setlocale(LC_ALL, "C");
 }
 
@@ -77,7 +76,6 @@ TEST_F(DescrfieldTest, ChangesTextsThatFit)
     const std::string fits(10 * 2, 'x');
     const std::string more = fits + 'x';
     add("one", "box");
-    // clang-format off
     const struct {
         const char* name;
         int nElement;
@@ -92,7 +90,6 @@ TEST_F(DescrfieldTest, ChangesTextsThatFit)
         {"an error changes nothing", 0, "other", more.c_str(), -1, "three", fits},
         {"no such element", INT_MAX, "none", "none", 0, "three", fits},
     };
-    // clang-format on
     const KULDESCRFLDELEMENT& element = *field().Element;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -157,12 +154,10 @@ TEST_F(DescrfieldTest, StartsWithTheSizeOfItsDialog)
     makeDialog(2, 50, 12);
     kuldescrfield_create(2, 1);
     for (const char* when : {"before the first show", "after"}) {
-        EXPECT_EQ(kuldescrfield_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP,
-                                       KUL_KEEP, KUL_KEEP),
-                  0);
+        EXPECT_EQ(kuldescrfield_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP), 0);
         const KULDESCRFIELD& now = field(2);
-        EXPECT_EQ((std::vector<int>{now.nColorSelect, now.nColorBack, now.nX, now.nY,
-                                    now.nBarLength, now.nRefWidth, now.nRefHeight}),
+        EXPECT_EQ((std::vector<int>{now.nColorSelect, now.nColorBack, now.nX, now.nY, now.nBarLength, now.nRefWidth,
+                                    now.nRefHeight}),
                   (std::vector<int>{RED_WHITE, RED_BLUE, 2, 3, 46, 20, 7}))
             << when;
         kulgui_show(2);

@@ -29,7 +29,6 @@ protected:
 
 TEST_F(GaugeTest, PutsTheBarOnItsRail)
 {
-    // clang-format off
     const struct {
         int nType, nOrient, nLength, nRange, nPosition;
         const char* shades; // the bar is white, the rail cyan
@@ -61,7 +60,6 @@ TEST_F(GaugeTest, PutsTheBarOnItsRail)
         {kScroll, LATERAL, INT_MAX, INT_MAX, 0, "-WWWWWWWWWWWW"},
         {kProgress, VERTICAL, INT_MAX, 10, -5, "-cccccccccccc"},
     };
-    // clang-format on
     for (const auto& row : rows) {
         clear();
         const KULGAUGEBAR bar{RED_WHITE,  RED_CYAN,      2,           2, row.nLength,
@@ -96,14 +94,12 @@ TEST_F(GaugeTest, IsSetByPositionAndByWholeRanges)
     // The calls for progress bars are those for scroll bars.
     ASSERT_EQ(kulscrollbar_create(1, 1) + kulprogbar_create(1, 2), 0);
     for (const int nRef : {1, 2}) {
-        EXPECT_EQ(kulprogbar_config(1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -4, 5, KUL_KEEP,
-                                    KUL_KEEP, KUL_KEEP),
-                  0);
+        EXPECT_EQ(kulprogbar_config(1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -4, 5, KUL_KEEP, KUL_KEEP, KUL_KEEP), 0);
         DI* di = GetDIComponentByRef(1, nRef);
         auto* bar = static_cast<KULGAUGEBAR*>(di->Pointer);
-        EXPECT_EQ((std::vector<int>{bar->nColorBar, bar->nColorRail, bar->nX, bar->nRange,
-                                    bar->nPosition, bar->nOrient}),
-                  (std::vector<int>{RED_WHITE, RED_BLUE, KUL_KEEP, 10, 1, VERTICAL}))
+        EXPECT_EQ(
+            (std::vector<int>{bar->nColorBar, bar->nColorRail, bar->nX, bar->nRange, bar->nPosition, bar->nOrient}),
+            (std::vector<int>{RED_WHITE, RED_BLUE, KUL_KEEP, 10, 1, VERTICAL}))
             << "places have no default to keep";
         EXPECT_EQ(kulscrollbar_config(1, nRef, RED_WHITE, RED_CYAN, 2, 2, 10, 0, 100, LATERAL), 0);
         const struct {

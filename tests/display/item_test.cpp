@@ -22,31 +22,28 @@ struct Kind {
     Call update;
 };
 
-// clang-format off
 const Kind kKinds[] = {
     {"status bar", STATBAR, -10012, kulstatbar_create,
-     [](int c, int r) { return kulstatbar_config(c, r, RED_CYAN, nullptr); },
-     1, kulstatbar_show, kulstatbar_hide, nullptr},
+     [](int c, int r) { return kulstatbar_config(c, r, RED_CYAN, nullptr); }, 1, kulstatbar_show, kulstatbar_hide,
+     nullptr},
     {"scroll bar", SCROLLBAR, -10016, kulscrollbar_create,
-     [](int c, int r) { return kulscrollbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); },
-     0, kulscrollbar_show, kulscrollbar_hide, nullptr},
+     [](int c, int r) { return kulscrollbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0, kulscrollbar_show,
+     kulscrollbar_hide, nullptr},
     {"progress bar", PROGBAR, -10017, kulprogbar_create,
-     [](int c, int r) { return kulprogbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); },
-     0, kulprogbar_show, kulprogbar_hide, nullptr},
+     [](int c, int r) { return kulprogbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0, kulprogbar_show,
+     kulprogbar_hide, nullptr},
     {"description field", DESCRFIELD, -10012, kuldescrfield_create,
-     [](int c, int r) { return kuldescrfield_config(c, r, 1, 2, 3, 4, 5, 6, 7); },
-     1, nullptr, nullptr, kuldescrfield_update},
-    {"box", BOX, -10013, kulbox_create,
-     [](int c, int r) { return kulbox_config(c, r, RED_CYAN, 1, 1, 5, 3, BORDER); },
+     [](int c, int r) { return kuldescrfield_config(c, r, 1, 2, 3, 4, 5, 6, 7); }, 1, nullptr, nullptr,
+     kuldescrfield_update},
+    {"box", BOX, -10013, kulbox_create, [](int c, int r) { return kulbox_config(c, r, RED_CYAN, 1, 1, 5, 3, BORDER); },
      0, kulbox_show, kulbox_hide, kulbox_update},
     {"line", LINE, -10014, kulline_create,
-     [](int c, int r) { return kulline_config(c, r, RED_CYAN, 1, 1, 5, ENDS, LATERAL); },
-     0, kulline_show, kulline_hide, kulline_update},
+     [](int c, int r) { return kulline_config(c, r, RED_CYAN, 1, 1, 5, ENDS, LATERAL); }, 0, kulline_show, kulline_hide,
+     kulline_update},
     {"label", LABEL, -10015, kullabel_create,
-     [](int c, int r) { return kullabel_config(c, r, 1, 2, 1, 1, 8, 3, LEFT, BORDER, "a"); },
-     0, kullabel_show, kullabel_hide, kullabel_update},
+     [](int c, int r) { return kullabel_config(c, r, 1, 2, 1, 1, 8, 3, LEFT, BORDER, "a"); }, 0, kullabel_show,
+     kullabel_hide, kullabel_update},
 };
-// clang-format on
 
 class ItemTest : public kultest::CanvasTest {
 protected:
@@ -107,7 +104,6 @@ TEST_F(ItemTest, EveryKindRefusesUnknownItemsAndOtherKinds)
             EXPECT_EQ(di->nUpdate, -1);
         }
     }
-    // clang-format off
     const struct {
         Call call;
         int nType;
@@ -122,7 +118,6 @@ TEST_F(ItemTest, EveryKindRefusesUnknownItemsAndOtherKinds)
         {[](int c, int r) { return kulscrollbar_setPosition(c, r, 1); }, SCROLLBAR},
         {[](int c, int r) { return kullabel_setText(c, r, "text"); }, LABEL},
     };
-    // clang-format on
     for (const auto& row : calls) {
         for (int nType = -1; nType <= LABEL + 1; ++nType) {
             if (nType != row.nType && !(isGauge(row.nType) && isGauge(nType))) {
@@ -150,9 +145,7 @@ TEST_F(ItemTest, WithoutMemoryIsNotMadeOrHasNoRecord)
 
 TEST_F(ItemTest, IsWipedUpToTheFirstWithoutRecord)
 {
-    DI list[3] = {{LABEL, 1, &list[1], nullptr, 0},
-                  {BOX, 2, &list[2], nullptr, 0},
-                  {LINE, 3, nullptr, nullptr, 0}};
+    DI list[3] = {{LABEL, 1, &list[1], nullptr, 0}, {BOX, 2, &list[2], nullptr, 0}, {LINE, 3, nullptr, nullptr, 0}};
     EXPECT_EQ(AttachLabelComponentToDI(&list[0]) + AttachLineComponentToDI(&list[2]), 0);
     EXPECT_EQ(WipeAllDIComponents(list), -1);
     EXPECT_EQ(list[0].Pointer, nullptr);
@@ -186,7 +179,6 @@ TEST_F(ItemTest, UpdatesOnlyWhatChanged)
 
 TEST_F(ItemTest, DrawsBoxesAndLines)
 {
-    // clang-format off
     const struct {
         int nType, nStyle, nOrient; // the style is the border or the ends
         const char* cells;
@@ -198,13 +190,11 @@ TEST_F(ItemTest, DrawsBoxesAndLines)
         {LINE, 7, VERTICAL, ".│.....|.│.....|.│.....|.│.....|"},
         {LINE, ENDS, VERTICAL, ".┬.....|.│.....|.│.....|.┴.....|"},
     };
-    // clang-format on
     for (const auto& row : rows) {
         const Kind& kind = kKinds[row.nType];
         kind.create(1, kind.nType);
-        EXPECT_EQ(row.nType == BOX
-                      ? kulbox_config(1, BOX, RED_CYAN, 1, 1, 4, 3, row.nStyle)
-                      : kulline_config(1, LINE, RED_CYAN, 1, 1, 4, row.nStyle, row.nOrient),
+        EXPECT_EQ(row.nType == BOX ? kulbox_config(1, BOX, RED_CYAN, 1, 1, 4, 3, row.nStyle)
+                                   : kulline_config(1, LINE, RED_CYAN, 1, 1, 4, row.nStyle, row.nOrient),
                   0);
         clear();
         EXPECT_EQ(drawn(1, 0, 4, 7), row.cells);
@@ -218,9 +208,8 @@ TEST_F(ItemTest, DrawsBoxesAndLines)
     EXPECT_EQ(drawn(5, 8, 1, 4), "    |");
     const auto& box = *static_cast<KULBOX*>(GetDIComponentByRef(1, BOX)->Pointer);
     const auto& line = *static_cast<KULLINE*>(GetDIComponentByRef(1, LINE)->Pointer);
-    EXPECT_EQ(
-        (std::vector<int>{box.nColorSet, box.nBorder, line.nColorSet, line.nEnds, line.nOrient}),
-        (std::vector<int>{RED_BLUE, BORDER, RED_BLUE, NOENDS, LATERAL}));
+    EXPECT_EQ((std::vector<int>{box.nColorSet, box.nBorder, line.nColorSet, line.nEnds, line.nOrient}),
+              (std::vector<int>{RED_BLUE, BORDER, RED_BLUE, NOENDS, LATERAL}));
 }
 
 } // namespace

@@ -14,11 +14,9 @@ protected:
         ASSERT_EQ(kullabel_create(1, 1), 0);
     }
 
-    static int config(int nX, int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
-                      const char* szText)
+    static int config(int nX, int nY, int nWidth, int nHeight, int nAlignment, int nBorder, const char* szText)
     {
-        return kullabel_config(1, 1, RED_CYAN, RED_WHITE, nX, nY, nWidth, nHeight, nAlignment,
-                               nBorder, szText);
+        return kullabel_config(1, 1, RED_CYAN, RED_WHITE, nX, nY, nWidth, nHeight, nAlignment, nBorder, szText);
     }
 
     static KULLABEL& label() { return *static_cast<KULLABEL*>(GetDIComponentByRef(1, 1)->Pointer); }
@@ -26,7 +24,6 @@ protected:
 
 TEST_F(LabelTest, WrapsAndAlignsItsRows)
 {
-    // clang-format off
     const struct {
         int nWidth, nHeight, nAlignment, nBorder;
         const char* szText;
@@ -45,11 +42,9 @@ TEST_F(LabelTest, WrapsAndAlignsItsRows)
         {1, 2, LEFT, NOBORDER, "text", " | |"}, // no room at all
         {6, 1, RIGHT, NOBORDER, nullptr, "      |"},
     };
-    // clang-format on
     for (const auto& row : rows) {
         clear();
-        ASSERT_EQ(config(1, 1, row.nWidth, row.nHeight, row.nAlignment, row.nBorder, row.szText),
-                  0);
+        ASSERT_EQ(config(1, 1, row.nWidth, row.nHeight, row.nAlignment, row.nBorder, row.szText), 0);
         EXPECT_EQ(drawn(1, 1, row.nHeight, row.nWidth), row.cells);
         EXPECT_EQ(shades(1, 0, 1, 2), "-c|");
         EXPECT_EQ(drawn(row.nHeight + 1, 1, 1, 1) + drawn(1, row.nWidth + 1, 1, 1), ".|.|");
@@ -98,8 +93,7 @@ TEST_F(LabelTest, TakesAnySizeAndMissingMemory)
     EXPECT_EQ(drawn(0, 0, 1, 14), "ft of it    ..|");
     label().nWidth = label().nHeight = INT_MAX;
     // Going through all the rows that lie above the window would take minutes.
-    for (const int nFar :
-         {INT_MIN, INT_MIN + 1, INT_MIN + 2, INT_MIN + 3, INT_MIN + 4, INT_MAX, 0}) {
+    for (const int nFar : {INT_MIN, INT_MIN + 1, INT_MIN + 2, INT_MIN + 3, INT_MIN + 4, INT_MAX, 0}) {
         label().nX = label().nY = nFar;
         EXPECT_EQ(drawn(1, 12, 1, 4), nFar == 0 ? "    |" : "....|") << nFar;
     }

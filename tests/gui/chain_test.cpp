@@ -22,14 +22,14 @@ Numbers ring()
 
 int configurePrime(int nChain)
 {
-    return kulgui_configPrime(nChain, KUL_KEEP, RED_BLACK, KUL_KEEP, KUL_KEEP, "p", nullptr,
-                              nullptr, nullptr, nullptr, "words");
+    return kulgui_configPrime(nChain, KUL_KEEP, RED_BLACK, KUL_KEEP, KUL_KEEP, "p", nullptr, nullptr, nullptr, nullptr,
+                              "words");
 }
 
 int configure(int nChain)
 {
-    return kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "t", KUL_KEEP, KUL_KEEP,
-                         KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr, nullptr);
+    return kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "t", KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP,
+                         KUL_KEEP, nullptr, nullptr, nullptr, nullptr, nullptr);
 }
 
 class ChainTest : public ::testing::Test {
@@ -43,7 +43,6 @@ protected:
 
 TEST_F(ChainTest, GivesTheNumberAskedForOrTheFirstInUse)
 {
-    // clang-format off
     const struct {
         const char* name;
         Numbers asked;
@@ -58,7 +57,6 @@ TEST_F(ChainTest, GivesTheNumberAskedForOrTheFirstInUse)
         {"none above: wraps to the smallest", {0, -4, 1, KUL_KEEP}, {0, -4, 1, -4}},
         {"the largest is still above", {0, INT_MAX, KUL_KEEP}, {0, INT_MAX, INT_MAX}},
     };
-    // clang-format on
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         for (std::size_t i = 0; i < row.asked.size(); ++i)
@@ -112,9 +110,9 @@ TEST_F(ChainTest, ConfiguringNeedsWhatItBuildsOn)
     EXPECT_EQ(GetPrimaryChain()->Pointer->nColorStandard, BLACK_WHITE);
     EXPECT_EQ(configure(1), 0);
     const GUI& gui = *GetChain(1)->Pointer;
-    EXPECT_EQ((Numbers{gui.nColorStandard, gui.nColorUnfocus, gui.nColorDisable, gui.nBorder,
-                       gui.nVisible, gui.nCurrentUI}),
-              (Numbers{RED_BLUE, RED_WHITE, RED_CYAN, BORDER, F, -1}));
+    EXPECT_EQ(
+        (Numbers{gui.nColorStandard, gui.nColorUnfocus, gui.nColorDisable, gui.nBorder, gui.nVisible, gui.nCurrentUI}),
+        (Numbers{RED_BLUE, RED_WHITE, RED_CYAN, BORDER, F, -1}));
     EXPECT_STREQ(gui.szLangFile, "words");
     EXPECT_EQ(CreateGUI(GetChain(1)), -10008);
 }
@@ -154,8 +152,7 @@ TEST_F(ChainTest, SurvivesEveryFailedAllocation)
         kulgui_create(1);
         configure(1);
         kulbutton_create(1, 1);
-        return kulbutton_config(1, 1, 0, 0, 0, 0, 1, 1, 9, 1, "text", nullptr, nullptr, nullptr,
-                                nullptr);
+        return kulbutton_config(1, 1, 0, 0, 0, 0, 1, 1, 9, 1, "text", nullptr, nullptr, nullptr, nullptr);
     };
     int nGood = 0;
     for (;; ++nGood) {

@@ -23,7 +23,6 @@ std::function<void(WINDOW*)> call(auto* draw, auto... arguments)
 
 TEST_F(DrawTest, DrawsShapesOfAnySize)
 {
-    // clang-format off
     const struct {
         std::function<void(WINDOW*)> draw;
         const char* picture;
@@ -59,7 +58,6 @@ TEST_F(DrawTest, DrawsShapesOfAnySize)
         {call(DrawVTeeLine, 1, 1, 3), "......|.┬....|.│....|.┴....|"},
         {call(DrawVTeeLine, INT_MIN, 1, INT_MIN), kNothing},
     };
-    // clang-format on
     for (const auto& row : rows) {
         clear();
         row.draw(nullptr);

@@ -37,9 +37,8 @@ TEST(Keys, KnowsWhenASequenceIsOver)
 {
     // The last byte of each, and no byte before it, ends the sequence.
     for (const std::string_view bytes :
-         {"a", "\033[A", "\033[[A", "\033[OP", "\033OP", "\033[24~", "\033[?1;2c", "\033x",
-          "\033\033[A", "\033]0;title\a", "\033P1$r\033\\", "\033[1;5A", "\033O\033[A", "\033O5P",
-          "\033O1;5P", "\033Np"}) {
+         {"a", "\033[A", "\033[[A", "\033[OP", "\033OP", "\033[24~", "\033[?1;2c", "\033x", "\033\033[A",
+          "\033]0;title\a", "\033P1$r\033\\", "\033[1;5A", "\033O\033[A", "\033O5P", "\033O1;5P", "\033Np"}) {
         kul::SequenceReader reader;
         for (const char byte : bytes) {
             EXPECT_TRUE(reader.isOpen()) << testing::PrintToString(bytes);

@@ -100,9 +100,8 @@ TEST(Screen, WritesNothingForAKeyThatChangesNothing)
 TEST(Screen, WritesNothingForPollsThatChangeNothing)
 {
     using Words = std::vector<std::string>;
-    for (const Words& around :
-         {Words{"poll"}, Words{"poll", "desktop"}, Words{"poll", "desktop", "behind"},
-          Words{"poll", "behind", "third"}}) {
+    for (const Words& around : {Words{"poll"}, Words{"poll", "desktop"}, Words{"poll", "desktop", "behind"},
+                                Words{"poll", "behind", "third"}}) {
         SCOPED_TRACE(around.back());
         Terminal terminal(program("polling", around));
         ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
@@ -154,11 +153,8 @@ TEST(Screen, SendsWholeScreensToASlowReader)
     launch.columns = 300;
     launch.rows = 80;
     Terminal terminal(launch);
-    const auto expected = [](int y, int x) {
-        return std::string(1, static_cast<char>('a' + (x + y) % 26));
-    };
-    EXPECT_TRUE(
-        terminal.waitFor([&] { return terminal.cell(79, 299).glyph == expected(79, 299); }));
+    const auto expected = [](int y, int x) { return std::string(1, static_cast<char>('a' + (x + y) % 26)); };
+    EXPECT_TRUE(terminal.waitFor([&] { return terminal.cell(79, 299).glyph == expected(79, 299); }));
     ASSERT_TRUE(terminal.settle());
     EXPECT_GT(terminal.received().size(), 100000U);
     for (int y = 0; y < terminal.rows(); ++y) {

@@ -43,10 +43,7 @@ struct Line {
     {
         EXPECT_EQ(tcgetattr(terminal.tty(), &modes), 0);
     }
-    bool hasModesOf(const Line& other) const
-    {
-        return std::memcmp(&modes, &other.modes, sizeof modes) == 0;
-    }
+    bool hasModesOf(const Line& other) const { return std::memcmp(&modes, &other.modes, sizeof modes) == 0; }
 };
 
 int exited(int status)
@@ -82,7 +79,6 @@ class Ways : public testing::TestWithParam<const char*> {};
 TEST_P(Ways, LeaveTheTerminalAsItWasFound)
 {
     const bool ownScreen = GetParam() == std::string("xterm-256color"); // beside the shell's
-    // clang-format off
     const struct {
         const char* name;
         const char* words;
@@ -103,14 +99,16 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         {"TERM after closing", "raise", enter, SIGTERM, true},
         {"TERM after closing, with a handler", "handler raise", enter, exited(6), true},
         {"INT ignored", "ignore exit",
-         [](Terminal& terminal) { send(SIGINT)(terminal); enter(terminal); }, exited(3)},
+         [](Terminal& terminal) {
+             send(SIGINT)(terminal);
+             enter(terminal);
+         },
+         exited(3)},
     };
-    // clang-format on
     for (const auto& way : ways) {
         SCOPED_TRACE(way.name);
-        Terminal terminal(
-            script("ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
-                   std::string("ways ") + way.words, GetParam()));
+        Terminal terminal(script("ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
+                                 std::string("ways ") + way.words, GetParam()));
         ASSERT_TRUE(terminal.waitForText("before"));
         const Line before(terminal);
         terminal.press("\r");
@@ -137,8 +135,7 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         again.feed(terminal.received());
         EXPECT_EQ(again.takeAnswers(), "") << "it asks the terminal nothing";
         terminal.feed("x"); // in whatever look the program has left
-        EXPECT_EQ(terminal.cell(terminal.cursor().row, terminal.cursor().column - 1),
-                  Cell{.glyph = "x"});
+        EXPECT_EQ(terminal.cell(terminal.cursor().row, terminal.cursor().column - 1), Cell{.glyph = "x"});
     }
 }
 
@@ -188,8 +185,7 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
 
             terminal.feed("\033[3;3Hdirt"); // what others have written meanwhile
             terminal.press("\r");
-            EXPECT_TRUE(terminal.waitFor([&] { return terminal.text() == screen; }))
-                << terminal.text();
+            EXPECT_TRUE(terminal.waitFor([&] { return terminal.text() == screen; })) << terminal.text();
             ASSERT_TRUE(terminal.settle());
             EXPECT_TRUE(Line(terminal).hasModesOf(inside));
             EXPECT_EQ(Line(terminal).flags, inside.flags);

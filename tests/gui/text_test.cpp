@@ -155,8 +155,7 @@ TEST(LineScanners, FindNewlines)
 {
     const struct {
         int nStart, nLength, nFound;
-    } rows[] = {{0, 80, 2},  {2, 80, 0},        {3, 5, 2},   {3, 4, -1},
-                {6, 80, -1}, {INT_MAX, 80, -1}, {-1, 80, -1}};
+    } rows[] = {{0, 80, 2}, {2, 80, 0}, {3, 5, 2}, {3, 4, -1}, {6, 80, -1}, {INT_MAX, 80, -1}, {-1, 80, -1}};
     for (const auto& row : rows)
         EXPECT_EQ(ReturnEOLPosition("ab\ncd\nef", row.nStart, row.nLength), row.nFound)
             << row.nStart << ' ' << row.nLength;

@@ -21,8 +21,8 @@ static int third;
 static void addButton(int chain, int ref, const char* text, KULCALLBACK onClick)
 {
     kulbutton_create(chain, ref);
-    kulbutton_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2 + 12 * (ref - 1), 5,
-                     10, 1, text, NULL, NULL, NULL, onClick);
+    kulbutton_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2 + 12 * (ref - 1), 5, 10, 1, text, NULL,
+                     NULL, NULL, onClick);
 }
 
 static void drawn(void)
@@ -46,8 +46,7 @@ static void count(void)
 static void addList(int chain, int ref)
 {
     kulcheckbox_create(chain, ref);
-    kulcheckbox_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, 2, 1, 30, 12, BORDER, NULL,
-                       NULL, NULL, NULL);
+    kulcheckbox_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, 2, 1, 30, 12, BORDER, NULL, NULL, NULL, NULL);
     for (int i = 0; i < 10; ++i)
         kulcheckbox_addElement(chain, ref, "Element", 0, 1, NULL, NULL);
 }
@@ -67,14 +66,14 @@ int main(int argc, char** argv)
     kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL,
                        poll && desktop ? nothing : NULL, NULL, NULL, NULL);
     kulgui_create(BEHIND);
-    kulgui_config(BEHIND, BLACK_GREEN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Behind", BORDER, 2, 3, 16, 10,
-                  NULL, poll ? nothing : NULL, NULL, NULL, NULL);
+    kulgui_config(BEHIND, BLACK_GREEN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Behind", BORDER, 2, 3, 16, 10, NULL,
+                  poll ? nothing : NULL, NULL, NULL, NULL);
     kulgui_create(THIRD);
-    kulgui_config(THIRD, BLACK_RED, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Third", BORDER, 4, 6, 12, 8,
-                  NULL, poll ? nothing : NULL, NULL, NULL, NULL);
+    kulgui_config(THIRD, BLACK_RED, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Third", BORDER, 4, 6, 12, 8, NULL,
+                  poll ? nothing : NULL, NULL, NULL, NULL);
     kulgui_create(MAIN);
-    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14,
-                  NULL, poll ? count : NULL, NULL, NULL, NULL);
+    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14, NULL,
+                  poll ? count : NULL, NULL, NULL, NULL);
     addButton(BEHIND, 1, "Lost", NULL);
     if (list) {
         addList(MAIN, 1);

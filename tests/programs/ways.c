@@ -32,8 +32,7 @@ static void label(void)
 {
     char text[20];
     snprintf(text, sizeof text, "count %d", clicks);
-    kulbutton_config(MAIN, 1, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2, 2, 14, 1, text, NULL,
-                     NULL, NULL, click);
+    kulbutton_config(MAIN, 1, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2, 2, 14, 1, text, NULL, NULL, NULL, click);
 }
 
 static void onTerminate(int number)
@@ -68,11 +67,10 @@ int main(int argc, char** argv)
             way = argv[i];
     }
     kulgui_create(DESKTOP);
-    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, NULL,
-                       NULL, NULL, NULL);
+    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, NULL, NULL, NULL, NULL);
     kulgui_create(MAIN);
-    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 2, 3, 18, 8,
-                  NULL, NULL, NULL, NULL, NULL);
+    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 2, 3, 18, 8, NULL, NULL, NULL, NULL,
+                  NULL);
     kulbutton_create(MAIN, 1);
     label();
     for (int rounds = strcmp(way, "again") == 0 ? 2 : 1; rounds > 0; --rounds) {

@@ -36,8 +36,7 @@ TEST(Emulator, DrawsTheLinesOfEachTerminal)
         {"vt100", letters, "┌─┐│0lq"},
         {"xterm-256color", letters, "┌─┐│0lq"},
         {"linux", letters, "┌─┐│0lq"},
-        {"ansi", "tput smacs; printf '\\332\\304\\277\\263\\031'; tput rmacs; printf lq",
-         "┌─┐│↓lq"},
+        {"ansi", "tput smacs; printf '\\332\\304\\277\\263\\031'; tput rmacs; printf lq", "┌─┐│↓lq"},
         {"linux", "printf '\\033[11m\\332\\304\\033[31;10m+0'", "┌─+0"},
         {"linux", "tput enacs; tput smacs; printf '+,-.0h\\033[30mq'", "→←↑↓█░─"},
         {"vt100", "tput enacs; tput smacs; printf '+,-.0'", "+,-.0"},
@@ -58,10 +57,8 @@ TEST(Emulator, TellsColoursAndAttributes)
 {
     Emulator screen(20, 2, "xterm-256color");
     screen.feed("\033[1;31;44mA\033[0;38;5;208;7;4mB\033[0;93;5mC\033[0mD\033[?25l");
-    EXPECT_EQ(screen.cell(0, 0),
-              (Cell{.glyph = "A", .foreground = 1, .background = 4, .bold = true}));
-    EXPECT_EQ(screen.cell(0, 1),
-              (Cell{.glyph = "B", .foreground = 208, .underline = true, .reverse = true}));
+    EXPECT_EQ(screen.cell(0, 0), (Cell{.glyph = "A", .foreground = 1, .background = 4, .bold = true}));
+    EXPECT_EQ(screen.cell(0, 1), (Cell{.glyph = "B", .foreground = 208, .underline = true, .reverse = true}));
     EXPECT_EQ(screen.cell(0, 2), (Cell{.glyph = "C", .foreground = 11, .blink = true}));
     EXPECT_EQ(screen.cell(0, 3), Cell{.glyph = "D"});
     EXPECT_EQ(screen.cell(0, 20), Cell{});

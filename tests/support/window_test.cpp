@@ -141,8 +141,8 @@ Rows picture(WINDOW* win, int y, int x, int height, int width)
 Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend)
 {
     return rowsOf(win, y, x, height, width, [&](const Cell& cell) {
-        const auto entry = std::find_if(legend.begin(), legend.end(),
-                                        [&](const Legend& one) { return one.pair == cell.pair; });
+        const auto entry =
+            std::find_if(legend.begin(), legend.end(), [&](const Legend& one) { return one.pair == cell.pair; });
         const char letter = entry == legend.end() ? '?' : entry->letter;
         return cell.attributes & A_REVERSE ? static_cast<char>(std::toupper(letter)) : letter;
     });
@@ -174,8 +174,8 @@ void WindowTest::SetUp()
 {
     startCurses();
     ASSERT_EQ(kulgui_create(0), 0);
-    ASSERT_EQ(kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "primary", nullptr,
-                                 nullptr, nullptr, nullptr, nullptr),
+    ASSERT_EQ(kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "primary", nullptr, nullptr, nullptr,
+                                 nullptr, nullptr),
               0);
 }
 
@@ -192,8 +192,8 @@ void WindowTest::TearDown()
 GUI* WindowTest::makeDialog(int nChain, int nWidth, int nHeight)
 {
     EXPECT_EQ(kulgui_create(nChain), nChain);
-    EXPECT_EQ(kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "title", BORDER, 0, 0,
-                            nWidth, nHeight, nullptr, nullptr, nullptr, nullptr, nullptr),
+    EXPECT_EQ(kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "title", BORDER, 0, 0, nWidth, nHeight,
+                            nullptr, nullptr, nullptr, nullptr, nullptr),
               0);
     return GetChain(nChain)->Pointer;
 }
@@ -226,8 +226,8 @@ std::string CanvasTest::drawn(int nY, int nX, int nHeight, int nWidth)
 
 std::string CanvasTest::shades(int nY, int nX, int nHeight, int nWidth) const
 {
-    return joined(colors(win_, nY, nX, nHeight, nWidth,
-                         {{'b', RED_BLUE}, {'w', RED_WHITE}, {'c', RED_CYAN}, {'-', 0}}));
+    return joined(
+        colors(win_, nY, nX, nHeight, nWidth, {{'b', RED_BLUE}, {'w', RED_WHITE}, {'c', RED_CYAN}, {'-', 0}}));
 }
 
 void ComponentTest::SetUp()

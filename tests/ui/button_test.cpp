@@ -10,9 +10,8 @@ protected:
     static int config(int nRef, int nX, const char* szText, int nWidth = 9, int nEnable = 1)
     {
         return kulbutton_config(
-            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, 2, nWidth, nEnable, szText,
-            [] { note("focus"); }, [] { note("unfocus"); }, [] { note("select"); },
-            [] { note("click"); });
+            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, 2, nWidth, nEnable, szText, [] { note("focus"); },
+            [] { note("unfocus"); }, [] { note("select"); }, [] { note("click"); });
     }
 };
 
@@ -26,9 +25,9 @@ TEST_F(ButtonTest, DrawsItsFrameTextAndColours)
     config(4, 30, "too long", 6);
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
-    // clang-format off
-    EXPECT_EQ(shown(2, 0, 3, 40), (Rows{"│┌───────┐  ┌───────┐   ┌──┐  ┌────┐   │", "││  Yes  │  │ Never │   │  │ too long  │", "│└───────┘  └───────┘   └──┘  └────┘   │"}));
-    // clang-format on
+    EXPECT_EQ(shown(2, 0, 3, 40),
+              (Rows{"│┌───────┐  ┌───────┐   ┌──┐  ┌────┐   │", "││  Yes  │  │ Never │   │  │ too long  │",
+                    "│└───────┘  └───────┘   └──┘  └────┘   │"}));
     EXPECT_EQ(shades(3, 0, 1, 40), (Rows{".uuuuuuuuu..ddddddddd...uuuu.uuuuuuuu..."}));
 }
 
@@ -51,8 +50,7 @@ TEST_F(ButtonTest, RunsItsCallbacksInOrder)
 TEST_F(ButtonTest, VariantsHaveDefaultsAndNoText)
 {
     const auto plain = [](auto configure, const char* szText) {
-        return configure(1, kRef, 1, 2, 3, 4, 5, 6, 7, 1, szText, nullptr, nullptr, nullptr,
-                         nullptr);
+        return configure(1, kRef, 1, 2, 3, 4, 5, 6, 7, 1, szText, nullptr, nullptr, nullptr, nullptr);
     };
     EXPECT_EQ(plain(kulokbutton_config, "text"), -1);
     EXPECT_EQ(kulcancelbutton_create(1, kRef), 0);

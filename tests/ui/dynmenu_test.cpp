@@ -22,8 +22,8 @@ protected:
 
     static void fill(int nX, int nY, int nWidth, int nHeight, const std::vector<const char*>& texts)
     {
-        kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, nWidth, nHeight, nullptr,
-                          nullptr, nullptr, nullptr);
+        kuldynmenu_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, nWidth, nHeight, nullptr, nullptr, nullptr,
+                          nullptr);
         for (const char* szText : texts)
             EXPECT_EQ(kuldynmenu_addElement(1, kRef, szText, nullptr, nullptr, 1), 0);
     }
@@ -31,13 +31,20 @@ protected:
 
 TEST_F(DynmenuTest, ScrollsWithTheSelection)
 {
-    // clang-format off
-    const struct { std::vector<int> keys; Rows shown; int nSelect; } rows[] = {
-        {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2}, {{KS_DOWN}, {"b", "c", "d"}, 3}, {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
-        {{KS_UP}, {"a", "b", "c"}, 0}, {{KS_UP}, {"c", "d", "e"}, 5}, // the place after the last one
-        {{KS_DOWN}, {"a", "b", "c"}, 0}, {{KS_UP, KS_UP}, {"c", "d", "e"}, 4}, {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
+    const struct {
+        std::vector<int> keys;
+        Rows shown;
+        int nSelect;
+    } rows[] = {
+        {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2},
+        {{KS_DOWN}, {"b", "c", "d"}, 3},
+        {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
+        {{KS_UP}, {"a", "b", "c"}, 0},
+        {{KS_UP}, {"c", "d", "e"}, 5}, // the place after the last one
+        {{KS_DOWN}, {"a", "b", "c"}, 0},
+        {{KS_UP, KS_UP}, {"c", "d", "e"}, 4},
+        {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
     };
-    // clang-format on
     fill(2, 1, 1, 3, {"a", "b", "c", "d", "e"});
     for (const auto& row : rows) {
         press(row.keys);

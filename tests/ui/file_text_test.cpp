@@ -144,8 +144,7 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
             ASSERT_GT(row.next, place);
             ASSERT_LE(row.end, row.next);
             for (; shownUpTo < row.start; ++shownUpTo)
-                ASSERT_NE(std::string(" \t\r\n").find(bytes[static_cast<std::size_t>(shownUpTo)]),
-                          std::string::npos);
+                ASSERT_NE(std::string(" \t\r\n").find(bytes[static_cast<std::size_t>(shownUpTo)]), std::string::npos);
             shownUpTo = row.end;
             starts.push_back(place);
             place = row.next;
@@ -160,8 +159,7 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
             ASSERT_EQ(rows.down(place, 7), i + 7 < starts.size() ? starts[i + 7] : text->size());
         }
         ASSERT_EQ(rows.up(text->size(), 5),
-                  starts.empty() ? 0
-                                 : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
+                  starts.empty() ? 0 : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
     }
 }
 
@@ -176,8 +174,7 @@ TEST(FileRowsTest, CutsLongLinesBetweenCharacters)
     FileRows rows(*text, 10);
     for (FilePlace place = 0; place < text->size();) {
         const FileRows::Row row = rows.row(place);
-        ASSERT_EQ(shown(rows, row),
-                  std::string(static_cast<std::size_t>(row.end - row.start) / 3, '#'));
+        ASSERT_EQ(shown(rows, row), std::string(static_cast<std::size_t>(row.end - row.start) / 3, '#'));
         for (; place < row.next; ++place)
             ASSERT_TRUE(place % FileText::kPiece > 3 || rows.rowOf(place) == row.start) << place;
     }
@@ -227,10 +224,8 @@ TEST(FileTextTest, KnowsLinesAndFindsText)
         for (int i = 0; i < 20; ++i) {
             const std::size_t nLine = random() % lines.size();
             const std::size_t end = nLine + 1 < lines.size() ? lines[nLine + 1] : bytes.size();
-            EXPECT_EQ(text->lineStart(static_cast<int>(nLine)),
-                      static_cast<FilePlace>(lines[nLine]));
-            EXPECT_EQ(text->lineOf(
-                          static_cast<FilePlace>(lines[nLine] + random() % (end - lines[nLine]))),
+            EXPECT_EQ(text->lineStart(static_cast<int>(nLine)), static_cast<FilePlace>(lines[nLine]));
+            EXPECT_EQ(text->lineOf(static_cast<FilePlace>(lines[nLine] + random() % (end - lines[nLine]))),
                       static_cast<int>(nLine));
             const std::size_t from = random() % bytes.size();
             const std::string wanted = i == 0 ? "needle" : bytes.substr(from, 1 + random() % 9000);
@@ -278,8 +273,8 @@ TEST(FileTextTest, OpensRegularFilesOnly)
     const TemporaryFile file("text");
     const std::string fifo = file.directory() + "/fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
-    for (const char* szName : {file.directory().c_str(), fifo.c_str(), "/dev/tty", "/dev/null", "",
-                               "/no/such/file", "/proc/self/mem"})
+    for (const char* szName :
+         {file.directory().c_str(), fifo.c_str(), "/dev/tty", "/dev/null", "", "/no/such/file", "/proc/self/mem"})
         EXPECT_EQ(FileText::open(szName), nullptr) << szName;
     EXPECT_EQ(FileText::open(nullptr), nullptr);
     // Root may read what nobody may.

@@ -42,13 +42,11 @@ protected:
         ASSERT_EQ(config(nullptr), 0);
     }
 
-    static int config(const char* szFileName, int nBorder = BORDER, int nWidth = 16,
-                      int nHeight = 6)
+    static int config(const char* szFileName, int nBorder = BORDER, int nWidth = 16, int nHeight = 6)
     {
         return kulfileview_config(
-            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nWidth, nHeight, nBorder, szFileName,
-            [] { note("focus"); }, [] { note("unfocus"); }, [] { note("select"); },
-            [] { note("click"); });
+            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nWidth, nHeight, nBorder, szFileName, [] { note("focus"); },
+            [] { note("unfocus"); }, [] { note("select"); }, [] { note("click"); });
     }
 
     int load(const std::string& text)
@@ -57,10 +55,7 @@ protected:
         return kulfileview_load(1, kRef, file_.path().c_str());
     }
 
-    static KULFILEVIEW& view()
-    {
-        return *static_cast<KULFILEVIEW*>(GetUIComponentByRef(1, kRef)->Pointer);
-    }
+    static KULFILEVIEW& view() { return *static_cast<KULFILEVIEW*>(GetUIComponentByRef(1, kRef)->Pointer); }
 
     static Rows shown()
     {
@@ -95,18 +90,18 @@ protected:
 
 TEST_F(FileviewTest, DrawsTextFrameAndScrollBar)
 {
-    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│              │", "│              │",
-                             "│              │", "│              │", "└──────────────┘"}));
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│              │", "│              │", "│              │",
+                             "│              │", "└──────────────┘"}));
     load("tab\tx\nwrapped at blanks\r\ncut_because_it_is_long");
-    EXPECT_EQ(shown(), (Rows{"┌────────────── ", "│tab     x      ", "│wrapped at     ",
-                             "│blanks         ", "│cut_because_it ", "└──────────────┴"}))
+    EXPECT_EQ(shown(), (Rows{"┌────────────── ", "│tab     x      ", "│wrapped at     ", "│blanks         ",
+                             "│cut_because_it ", "└──────────────┴"}))
         << "the thumb is blank";
     type({KS_END});
-    EXPECT_EQ(shown(), (Rows{"┌──────────────┬", "│wrapped at     ", "│blanks         ",
-                             "│cut_because_it ", "│_is_long       ", "└────────────── "}));
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┬", "│wrapped at     ", "│blanks         ", "│cut_because_it ",
+                             "│_is_long       ", "└────────────── "}));
     load("two\nlines");
-    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│two           │", "│lines         │",
-                             "│              │", "│              │", "└──────────────┘"}));
+    EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│two           │", "│lines         │", "│              │",
+                             "│              │", "└──────────────┘"}));
     config(file_.path().c_str(), NOBORDER, 6, 3);
     file_.write(lines(1, 9));
     type({KS_DOWN});
@@ -116,12 +111,10 @@ TEST_F(FileviewTest, DrawsTextFrameAndScrollBar)
 
 TEST_F(FileviewTest, ShowsTheFocusInColour)
 {
-    const std::vector<kultest::Legend> legend = {
-        {'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}};
+    const std::vector<kultest::Legend> legend = {{'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}};
     load(lines(1, 20));
     type({'x'});
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 2, 18, legend),
-              (Rows{".uuuuuuuuuuuuuuuU.", ".uffffffffffffffu."}));
+    EXPECT_EQ(kultest::colors(window(1), 2, 1, 2, 18, legend), (Rows{".uuuuuuuuuuuuuuuU.", ".uffffffffffffffu."}));
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
     EXPECT_EQ(kultest::colors(window(1), 3, 1, 1, 18, legend), (Rows{".uuuuuuuuuuuuuuuu."}));
@@ -184,8 +177,7 @@ TEST_F(FileviewTest, FindsAndGoesToLines)
     }
     kulfileview_find(1, kRef, "needle", 0);
     EXPECT_EQ(text()[0], "xxxxneedle") << "the place is in view, in a line larger than the view";
-    for (const auto& [nLine, nPosition] :
-         {std::pair(5, 5), {-1, 0}, {INT_MIN, 0}, {46, 46}, {47, 46}, {INT_MAX, 46}}) {
+    for (const auto& [nLine, nPosition] : {std::pair(5, 5), {-1, 0}, {INT_MIN, 0}, {46, 46}, {47, 46}, {INT_MAX, 46}}) {
         EXPECT_EQ(kulfileview_setPosition(1, kRef, nLine), 0);
         EXPECT_EQ(kulfileview_getPosition(1, kRef), nPosition);
     }
@@ -196,8 +188,7 @@ TEST_F(FileviewTest, RefusesWhatItCannotShow)
     const std::string fifo = file_.directory() + "/fifo";
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     load("text");
-    for (const char* szName :
-         {file_.directory().c_str(), fifo.c_str(), "/dev/zero", "/proc/self/mem", "/none", ""}) {
+    for (const char* szName : {file_.directory().c_str(), fifo.c_str(), "/dev/zero", "/proc/self/mem", "/none", ""}) {
         EXPECT_EQ(kulfileview_load(1, kRef, szName), -10028) << szName;
         EXPECT_EQ(text()[0], "text");
     }
@@ -252,8 +243,7 @@ TEST_F(FileviewTest, FollowsAFileThatGrowsShrinksAndIsReplaced)
     aSecondAfter([] { theFile->append("\nend\n"); });
     EXPECT_EQ(text()[0], "line 6");
     events.clear();
-    type({-2, -3, KS_ENTER},
-         {[] { theFile->append(lines(10, 99)); }, [] { kultest::advanceClock(1); }});
+    type({-2, -3, KS_ENTER}, {[] { theFile->append(lines(10, 99)); }, [] { kultest::advanceClock(1); }});
     EXPECT_EQ(events, "focus48 click5 unfocus5 ") << "how far in the file that grew";
     type({KS_END});
     aSecondAfter([] { theFile->append("really\n"); });
@@ -279,8 +269,8 @@ TEST_F(FileviewTest, FollowsInADialogWithoutTheFocus)
     kulfileview_setFollow(1, kRef, T);
     makeDialog(2);
     kulbutton_create(2, 1);
-    kulbutton_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 9, 1, "OK", nullptr,
-                     nullptr, nullptr, nullptr);
+    kulbutton_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 9, 1, "OK", nullptr, nullptr, nullptr,
+                     nullptr);
     kulgui_show(1);
     kultest::typeKeys({0, -2, 0}, {[] {
                           theFile->append("new\n");
@@ -320,22 +310,21 @@ TEST_F(FileviewTest, TakesAnyPlaceAndSize)
     for (const int nX : {-3, 70, INT_MIN, INT_MAX}) {
         for (const int nSize : {-1, 0, 1, 2, 3, 100, INT_MIN, INT_MAX}) {
             for (const int nBorder : {int{BORDER}, int{NOBORDER}, 7}) {
-                kulfileview_config(1, kRef, KUL_KEEP, INT_MAX, KUL_KEEP, nX, nX, nSize, nSize,
-                                   nBorder, file_.path().c_str(), nullptr, nullptr, nullptr,
-                                   nullptr);
+                kulfileview_config(1, kRef, KUL_KEEP, INT_MAX, KUL_KEEP, nX, nX, nSize, nSize, nBorder,
+                                   file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
                 EXPECT_EQ(type({KS_DOWN, KS_PAGEDOWN, KS_END, KS_UP, KS_HOME, KS_TAB}), 10);
                 EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
             }
         }
     }
     // Nothing is drawn beside a box without columns.
-    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 2, 0, 3, NOBORDER,
-                       file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
+    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 2, 0, 3, NOBORDER, file_.path().c_str(), nullptr,
+                       nullptr, nullptr, nullptr);
     kulgui_show(1);
     EXPECT_EQ(kultest::picture(window(1), 2, 1, 3, 6), (Rows{"      ", "      ", "      "}));
     // Cells left of and above the window are cut off.
-    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -3, -1, 30, 20, NOBORDER,
-                       file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
+    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -3, -1, 30, 20, NOBORDER, file_.path().c_str(), nullptr,
+                       nullptr, nullptr, nullptr);
     kulgui_show(1);
     EXPECT_EQ(kultest::picture(window(1), 0, 0, 2, 6), (Rows{"e 1   ", "e 2   "}));
 }

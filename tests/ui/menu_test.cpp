@@ -35,7 +35,6 @@ std::string textOf(int nRef, int nElement)
     return element ? element->szText : "null";
 }
 
-// clang-format off
 struct Kind {
     const char* name;
     int nType, nTaken, nForeign; // what create gives for a number in use, execKeys for another kind
@@ -43,29 +42,47 @@ struct Kind {
     bool obeysControls, counts; // removal changes the count and the selection
     int (*create)(int, int), (*remove)(int, int, int), (*execKeys)(int, int);
     std::string (*get)(int nRef, int);
-    int &(*select)(), &(*count)();
+    int& (*select)(), &(*count)();
     int (*config)(int nRef, KULCALLBACK onClick), (*add)(int nRef, const char*, int nEnable);
 };
 
 const Kind kKinds[] = {
     {"menu", MENU, -10018, 10, KS_LEFT, KS_RIGHT, true, true, kulmenu_create, kulmenu_remElement, kulmenu_execKeys,
      textOf<kulmenu_getElement>, of<KULMENU, &KULMENU::nSelect>, of<KULMENU, &KULMENU::nElements>,
-     [](int nRef, KULCALLBACK click) { return kulmenu_config(1, nRef, kKeep, kKeep, kKeep, onFocus, onUnfocus, never, click); },
-     [](int nRef, const char* szText, int nEnable) { return kulmenu_addElement(1, nRef, szText, nEnable, never, never); }},
-    {"dynamic menu", DYNMENU, -10021, 10, KS_UP, KS_DOWN, true, false, kuldynmenu_create, kuldynmenu_remElement, kuldynmenu_execKeys,
-     textOf<kuldynmenu_getElement>, of<KULDYNMENU, &KULDYNMENU::nSelect>, of<KULDYNMENU, &KULDYNMENU::nElements>,
-     [](int nRef, KULCALLBACK click) { return kuldynmenu_config(1, nRef, kKeep, kKeep, kKeep, 2, 1, 4, 4, onFocus, onUnfocus, never, click); },
-     [](int nRef, const char* szText, int nEnable) { return kuldynmenu_addElement(1, nRef, szText, never, never, nEnable); }},
-    {"description menu", DESCRMENU, -10020, 10, KS_LEFT, KS_RIGHT, false, false, kuldescrmenu_create, kuldescrmenu_remElement, kuldescrmenu_execKeys,
-     textOf<kuldescrmenu_getElement>, of<KULDESCRMENU, &KULDESCRMENU::nSelect>, of<KULDESCRMENU, &KULDESCRMENU::nElements>,
-     [](int nRef, KULCALLBACK click) { return kuldescrmenu_config(1, nRef, kKeep, kKeep, kKeep, 7, 7, 20, 12, 5, onFocus, onUnfocus, never, click); },
-     [](int nRef, const char* szText, int nEnable) { return kuldescrmenu_addElement(1, nRef, nEnable, szText, "all about host names", never, never); }},
-    {"toolbar", TOOLBAR, -10027, -1, KS_LEFT, KS_RIGHT, false, true, kultoolbar_create, kultoolbar_remButton, kultoolbar_execKeys,
-     textOf<kultoolbar_getButton>, of<KULTOOLBAR, &KULTOOLBAR::nSelect>, of<KULTOOLBAR, &KULTOOLBAR::nButtons>,
-     [](int nRef, KULCALLBACK click) { return kultoolbar_config(1, nRef, kKeep, kKeep, kKeep, 2, 2, LATERAL, onFocus, onUnfocus, never, click); },
-     [](int nRef, const char* szText, int nEnable) { return kultoolbar_addButton(1, nRef, szText, 3, nEnable, never, [] { note("button"); }); }},
+     [](int nRef, KULCALLBACK click) {
+         return kulmenu_config(1, nRef, kKeep, kKeep, kKeep, onFocus, onUnfocus, never, click);
+     },
+     [](int nRef, const char* szText, int nEnable) {
+         return kulmenu_addElement(1, nRef, szText, nEnable, never, never);
+     }},
+    {"dynamic menu", DYNMENU, -10021, 10, KS_UP, KS_DOWN, true, false, kuldynmenu_create, kuldynmenu_remElement,
+     kuldynmenu_execKeys, textOf<kuldynmenu_getElement>, of<KULDYNMENU, &KULDYNMENU::nSelect>,
+     of<KULDYNMENU, &KULDYNMENU::nElements>,
+     [](int nRef, KULCALLBACK click) {
+         return kuldynmenu_config(1, nRef, kKeep, kKeep, kKeep, 2, 1, 4, 4, onFocus, onUnfocus, never, click);
+     },
+     [](int nRef, const char* szText, int nEnable) {
+         return kuldynmenu_addElement(1, nRef, szText, never, never, nEnable);
+     }},
+    {"description menu", DESCRMENU, -10020, 10, KS_LEFT, KS_RIGHT, false, false, kuldescrmenu_create,
+     kuldescrmenu_remElement, kuldescrmenu_execKeys, textOf<kuldescrmenu_getElement>,
+     of<KULDESCRMENU, &KULDESCRMENU::nSelect>, of<KULDESCRMENU, &KULDESCRMENU::nElements>,
+     [](int nRef, KULCALLBACK click) {
+         return kuldescrmenu_config(1, nRef, kKeep, kKeep, kKeep, 7, 7, 20, 12, 5, onFocus, onUnfocus, never, click);
+     },
+     [](int nRef, const char* szText, int nEnable) {
+         return kuldescrmenu_addElement(1, nRef, nEnable, szText, "all about host names", never, never);
+     }},
+    {"toolbar", TOOLBAR, -10027, -1, KS_LEFT, KS_RIGHT, false, true, kultoolbar_create, kultoolbar_remButton,
+     kultoolbar_execKeys, textOf<kultoolbar_getButton>, of<KULTOOLBAR, &KULTOOLBAR::nSelect>,
+     of<KULTOOLBAR, &KULTOOLBAR::nButtons>,
+     [](int nRef, KULCALLBACK click) {
+         return kultoolbar_config(1, nRef, kKeep, kKeep, kKeep, 2, 2, LATERAL, onFocus, onUnfocus, never, click);
+     },
+     [](int nRef, const char* szText, int nEnable) {
+         return kultoolbar_addButton(1, nRef, szText, 3, nEnable, never, [] { note("button"); });
+     }},
 };
-// clang-format on
 
 const Kind* now = nullptr; // the kind that callbacks act on
 
@@ -95,19 +112,28 @@ protected:
 TEST_F(MenuTest, ShowsWhatIsSelectedAndDisabled)
 {
     // With the first element selected; after a step back; without the focus.
-    // clang-format off
-    const struct { Rows shown, first, back, unfocused; } looks[] = {
-        {{" one   seven   no         "}, {".fff...uuuuu...dd........."}, {".ddd...uuuuu...dd........."}, {".uuu...uuuuu...uu........."}},
+    const struct {
+        Rows shown, first, back, unfocused;
+    } looks[] = {
+        {{" one   seven   no         "},
+         {".fff...uuuuu...dd........."},
+         {".ddd...uuuuu...dd........."},
+         {".uuu...uuuuu...uu........."}},
         {{" ┌────┐ ", " │one │ ", " │seve│ ", " │no  │ ", " │    │ ", " └────┘ "},
          {".ffffff.", ".ffffff.", ".fuuuuf.", ".fddddf.", ".ffffff.", ".ffffff."},
-         {".ffffff.", ".fddddf.", ".fuuuuf.", ".fddddf.", ".ffffff.", ".ffffff."}, Rows(6, ".uuuuuu.")},
-        {{" one   seven   no     ", " ┌──────────┐         ", " │all       │         ", " │about     │         ", " │host      │         ", " │          │         ", " └──────────┘         "},
-         {".fff...uuuuu...dd.....", ".ffffffffffffffffffff.", ".ffffffffffff.........", ".ffffffffffff.........", ".ffffffffffff........."},
-         {".ddd...uuuuu...dd.....", ".ffffffffffffffffffff."}, {".uuu...uuuuu...uu.....", ".uuuuuuuuuuuuuuuuuuuu.", ".uuuuuuuuuuuu........."}},
-        {{" ┌─────┐ ┌─────┐ ┌─────┐ ", " │ one │ │seven│ │ no  │ ", " └─────┘ └─────┘ └─────┘ "}, {".fffffff.uuuuuuu.ddddddd."},
-         {".ddddddd.fffffff.ddddddd."}, {".ddddddd.uuuuuuu.ddddddd."}},
+         {".ffffff.", ".fddddf.", ".fuuuuf.", ".fddddf.", ".ffffff.", ".ffffff."},
+         Rows(6, ".uuuuuu.")},
+        {{" one   seven   no     ", " ┌──────────┐         ", " │all       │         ", " │about     │         ",
+          " │host      │         ", " │          │         ", " └──────────┘         "},
+         {".fff...uuuuu...dd.....", ".ffffffffffffffffffff.", ".ffffffffffff.........", ".ffffffffffff.........",
+          ".ffffffffffff........."},
+         {".ddd...uuuuu...dd.....", ".ffffffffffffffffffff."},
+         {".uuu...uuuuu...uu.....", ".uuuuuuuuuuuuuuuuuuuu.", ".uuuuuuuuuuuu........."}},
+        {{" ┌─────┐ ┌─────┐ ┌─────┐ ", " │ one │ │seven│ │ no  │ ", " └─────┘ └─────┘ └─────┘ "},
+         {".fffffff.uuuuuuu.ddddddd."},
+         {".ddddddd.fffffff.ddddddd."},
+         {".ddddddd.uuuuuuu.ddddddd."}},
     };
-    // clang-format on
     forEach(kAll, [&](const Kind& kind) {
         const auto& look = looks[&kind - kKinds];
         const int nY = kind.nType == DYNMENU ? 1 : 2;
@@ -135,22 +161,19 @@ TEST_F(MenuTest, LongTextsGoOnInTheNextRow)
 {
     kulmenu_create(1, kRef);
     kKinds[0].config(kRef, nullptr);
-    for (const char* szText :
-         {"", static_cast<const char*>(nullptr), "a text up to the edge and on", "no"})
+    for (const char* szText : {"", static_cast<const char*>(nullptr), "a text up to the edge and on", "no"})
         kKinds[0].add(kRef, szText, 1);
     kulgui_show(1);
-    EXPECT_EQ(shown(2, 0, 2, 40), (Rows{"│       a text up to the edge and on   n",
-                                        "o                                      │"}));
+    EXPECT_EQ(shown(2, 0, 2, 40),
+              (Rows{"│       a text up to the edge and on   n", "o                                      │"}));
 }
 
 TEST_F(MenuTest, DescribesElementsBeyondTheWindow)
 {
     kuldescrmenu_create(1, kRef);
-    kuldescrmenu_config(1, kRef, kKeep, kKeep, kKeep, 7, 7, kKeep, kKeep, kKeep, nullptr, nullptr,
-                        nullptr, nullptr);
+    kuldescrmenu_config(1, kRef, kKeep, kKeep, kKeep, 7, 7, kKeep, kKeep, kKeep, nullptr, nullptr, nullptr, nullptr);
     auto& menu = record<KULDESCRMENU>();
-    EXPECT_EQ(std::vector({menu.nBarLength, menu.nBoxWidth, menu.nBoxHeight}),
-              std::vector({75, 20, 19}));
+    EXPECT_EQ(std::vector({menu.nBarLength, menu.nBoxWidth, menu.nBoxHeight}), std::vector({75, 20, 19}));
     kKinds[2].config(kRef, nullptr);
     for (int i = 0; i < 40; ++i)
         kuldescrmenu_addElement(1, kRef, 1, "text", std::to_string(i).c_str(), nullptr, nullptr);
@@ -228,20 +251,38 @@ TEST_F(MenuTest, CallbacksMayTakeAwayWhatRuns)
 {
     // What the menus return, and the toolbar, and what it runs between taking and losing the focus:
     // the button is the one that was selected when Enter was pressed, if it is still there.
-    // clang-format off
-    const struct { const char* name; KULCALLBACK act; int nMenu, nToolbar; const char* events; } rows[] = {
-        {"remove all", [] { while (now->remove(1, kRef, 0) == 0) {} }, KUL_LEFT, KUL_LEFT, ""},
+    const struct {
+        const char* name;
+        KULCALLBACK act;
+        int nMenu, nToolbar;
+        const char* events;
+    } rows[] = {
+        {"remove all",
+         [] {
+             while (now->remove(1, kRef, 0) == 0) {
+             }
+         },
+         KUL_LEFT, KUL_LEFT, ""},
         {"remove", [] { now->remove(1, kRef, 0); }, KUL_LEFT, KUL_LEFT, ""},
-        {"remove, add", [] { now->remove(1, kRef, 0); now->add(kRef, "new", 1); }, KUL_LEFT, KUL_LEFT, "button2 button2 "},
+        {"remove, add",
+         [] {
+             now->remove(1, kRef, 0);
+             now->add(kRef, "new", 1);
+         },
+         KUL_LEFT, KUL_LEFT, "button2 button2 "},
         {"select", [] { now->select() = 5; }, KUL_LEFT, KUL_LEFT, "button2 "},
         {"configure", [] { now->config(kRef, onClick); }, KUL_LEFT, KUL_LEFT, "click2 "},
         {"hide", [] { SetUIVisibility(1, kRef, F); }, KUL_LEFT, 0, "button2 "},
         {"hide the dialog", [] { kulgui_hide(1); }, KUL_LEFT, -10000, "button2 "},
-        {"hide it and leave", [] { kulgui_hide(1); kulgui_leave(1); }, KUL_LEFT, KUL_LEFT, ""},
+        {"hide it and leave",
+         [] {
+             kulgui_hide(1);
+             kulgui_leave(1);
+         },
+         KUL_LEFT, KUL_LEFT, ""},
         {"focus", [] { kulgui_setFocus(1, kRef); }, 0, 0, ""},
         {"destroy the dialog", [] { kulgui_destroy(1); }, -10000, -10000, ""},
     };
-    // clang-format on
     for (const auto& row : rows) {
         forEach(kAll, [&](const Kind& kind) {
             SCOPED_TRACE(row.name);
@@ -265,17 +306,18 @@ TEST_F(MenuTest, CallbacksMayTakeAwayWhatRuns)
 TEST_F(MenuTest, AddsAndRemovesAtTheEnd)
 {
     // For removal the counts and selections are of those that count, else 3.
-    // clang-format off
-    const struct { int nAdd, nStart, nResult, nSelect, nCount; } rows[] = {
-        {1, -1, 0, 0, 1}, {1, 3, 0, 3, 2}, {1, 3, 0, 3, 3}, {0, 3, 0, 2, 2}, {0, 3, 0, 1, 1}, {0, 3, 1, 0, 0}, {0, 3, -1, 3, 0},
+    const struct {
+        int nAdd, nStart, nResult, nSelect, nCount;
+    } rows[] = {
+        {1, -1, 0, 0, 1}, {1, 3, 0, 3, 2}, {1, 3, 0, 3, 3},  {0, 3, 0, 2, 2},
+        {0, 3, 0, 1, 1},  {0, 3, 1, 0, 0}, {0, 3, -1, 3, 0},
     };
-    // clang-format on
     forEach(kAll, [&](const Kind& kind) {
         EXPECT_EQ(kind.select(), kind.nType == DESCRMENU ? -1 : 0);
         for (const auto& row : rows) {
             kind.select() = row.nStart;
-            const int nResult = row.nAdd ? kind.add(kRef, std::to_string(row.nCount).c_str(), 1)
-                                         : kind.remove(1, kRef, row.nStart - 1);
+            const int nResult =
+                row.nAdd ? kind.add(kRef, std::to_string(row.nCount).c_str(), 1) : kind.remove(1, kRef, row.nStart - 1);
             EXPECT_EQ(nResult, row.nResult);
             EXPECT_EQ(kind.select(), row.nAdd || kind.counts ? row.nSelect : 3);
             EXPECT_EQ(kind.count(), row.nAdd || kind.counts ? row.nCount : 3);
@@ -324,8 +366,7 @@ TEST_F(MenuTest, RefusesUnknownAndForeignComponents)
             EXPECT_EQ(kind.create(1, kRef + 2), -1);
         }
         for (const int nRef : {kRef + 1, kRef + 2, -1, INT_MAX}) {
-            EXPECT_EQ(kind.config(nRef, nullptr) & kind.add(nRef, "x", 1) & kind.remove(1, nRef, 0),
-                      -1);
+            EXPECT_EQ(kind.config(nRef, nullptr) & kind.add(nRef, "x", 1) & kind.remove(1, nRef, 0), -1);
             EXPECT_EQ(kind.get(nRef, 0), "null");
             EXPECT_EQ(kind.execKeys(1, nRef), kind.nForeign);
         }

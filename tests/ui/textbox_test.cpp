@@ -30,8 +30,8 @@ protected:
         const Box& box, KULCALLBACK onKey = [] { note(GetCurrentTextboxData()); }, int nRef = kRef)
     {
         return kultextbox_config(
-            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, box.nWidth, box.nHeight, box.nBorder,
-            box.nMask, box.szCharSet, [] { note("focus"); }, [] { note("unfocus"); }, onKey);
+            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, box.nWidth, box.nHeight, box.nBorder, box.nMask, box.szCharSet,
+            [] { note("focus"); }, [] { note("unfocus"); }, onKey);
     }
 
     static void fill(const Box& size, const char* szText, int nCursorPos)
@@ -46,20 +46,47 @@ TEST_F(TextboxTest, Edits)
 {
     const Box rows{4, 3}, two{4, 2}, framed{6, 5, BORDER}, line{6, 1};
     const Box digits{9, 1, NOBORDER, NOMASK, "0123456789.\xe8"}, none{9, 1, NOBORDER, NOMASK, ""};
-    // clang-format off
-    const struct { Box box; const char* szText; int nCursorPos; std::vector<int> keys; const char* szAfter; int nAfter; } scripts[] = {
-        {rows, "abc", 1, {'x'}, "axc", 2}, {rows, "abc", 3, {'d', 'e'}, "abcde", 5}, {rows, "", 0, {'a', ' ', '~', 255}, "a ~\xff", 4},
-        {rows, "abc", 1, {kBack}, "bc", 0}, {rows, "abc", 0, {kBack}, "abc", 0}, {rows, "abc", 3, {kBack, kBack, kBack, kBack}, "", 0},
-        {rows, "abc", 1, {kDelete}, "ac", 1}, {rows, "abc", 2, {kDelete, kDelete}, "a", 1}, {rows, "", 0, {kDelete}, "", 0},
-        {rows, "abcdef", 2, {kHome, 'x'}, "xbcdef", 1}, {rows, "abcdef", 2, {kEnd, 'x'}, "abcdefx", 7}, {rows, "abc", 0, {L, R, R, R, R, L}, "abc", 2},
-        {two, "abcdef", 1, {D}, "abcdef", 5}, {rows, "abcdef", 3, {D}, "abcdef", 3}, {rows, "abcdef", 2, {D}, "abcdef", 6},
-        {two, "abcdef", 4, {U}, "abcdef", 0}, {rows, "abcdef", 3, {U}, "abcdef", 3}, {framed, "abcdef", 0, {R, D}, "abcdef", 5},
-        {line, "abcde", 5, {'f', U}, "abcdef", 6}, {line, "abcde", 5, {'f', kHome, D}, "abcdef", 0}, {rows, "abcdefghijk", 11, {'l', 'm'}, "abcdefghijkl", 12},
+    const struct {
+        Box box;
+        const char* szText;
+        int nCursorPos;
+        std::vector<int> keys;
+        const char* szAfter;
+        int nAfter;
+    } scripts[] = {
+        {rows, "abc", 1, {'x'}, "axc", 2},
+        {rows, "abc", 3, {'d', 'e'}, "abcde", 5},
+        {rows, "", 0, {'a', ' ', '~', 255}, "a ~\xff", 4},
+        {rows, "abc", 1, {kBack}, "bc", 0},
+        {rows, "abc", 0, {kBack}, "abc", 0},
+        {rows, "abc", 3, {kBack, kBack, kBack, kBack}, "", 0},
+        {rows, "abc", 1, {kDelete}, "ac", 1},
+        {rows, "abc", 2, {kDelete, kDelete}, "a", 1},
+        {rows, "", 0, {kDelete}, "", 0},
+        {rows, "abcdef", 2, {kHome, 'x'}, "xbcdef", 1},
+        {rows, "abcdef", 2, {kEnd, 'x'}, "abcdefx", 7},
+        {rows, "abc", 0, {L, R, R, R, R, L}, "abc", 2},
+        {two, "abcdef", 1, {D}, "abcdef", 5},
+        {rows, "abcdef", 3, {D}, "abcdef", 3},
+        {rows, "abcdef", 2, {D}, "abcdef", 6},
+        {two, "abcdef", 4, {U}, "abcdef", 0},
+        {rows, "abcdef", 3, {U}, "abcdef", 3},
+        {framed, "abcdef", 0, {R, D}, "abcdef", 5},
+        {line, "abcde", 5, {'f', U}, "abcdef", 6},
+        {line, "abcde", 5, {'f', kHome, D}, "abcdef", 0},
+        {rows, "abcdefghijk", 11, {'l', 'm'}, "abcdefghijkl", 12},
         {rows, "abc", 1, {KS_F1, KS_F2, KS_F12, KS_INSERT, KS_PAGEUP, 1, 31, 256, -23, 0}, "abc", 1},
-        {rows, "abc", INT_MAX, {'d'}, "abcd", 4}, {rows, "abc", INT_MIN, {kDelete}, "bc", 0},
-        {digits, "", 0, {'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256}, "19.\xe8" "0", 5}, {none, "", 0, {'1', 256}, "", 0},
+        {rows, "abc", INT_MAX, {'d'}, "abcd", 4},
+        {rows, "abc", INT_MIN, {kDelete}, "bc", 0},
+        {digits,
+         "",
+         0,
+         {'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256},
+         "19.\xe8"
+         "0",
+         5},
+        {none, "", 0, {'1', 256}, "", 0},
     };
-    // clang-format on
     for (const auto& script : scripts) {
         SCOPED_TRACE(std::string(script.szText) + "->" + script.szAfter);
         fill(script.box, script.szText, script.nCursorPos);
@@ -72,8 +99,12 @@ TEST_F(TextboxTest, Edits)
 
 TEST_F(TextboxTest, Draws)
 {
-    // clang-format off
-    const struct { Box box; const char* szText; int nCursorPos; Rows rows, shades; } boxes[] = {
+    const struct {
+        Box box;
+        const char* szText;
+        int nCursorPos;
+        Rows rows, shades;
+    } boxes[] = {
         {{4, 2}, "abcdef", 6, {"abcd", "ef  "}, {"ffff", "ffFf"}},
         {{4, 2}, "abcd", 4, {"abcd", "    "}, {"ffff", "Ffff"}},
         {{4, 3}, "abcd  ef", 1, {"abcd", "ef  ", "    "}, {"fFff", "ffff", "ffff"}},
@@ -83,7 +114,6 @@ TEST_F(TextboxTest, Draws)
         {{4, 2}, "a\nb\tc", 0, {"a b ", "c   "}, {"Ffff", "ffff"}},
         {{4, 3, BORDER}, "x", 0, {"┌──┐", "│x │", "└──┘"}, {"ffff", "fFff", "ffff"}},
     };
-    // clang-format on
     for (const auto& row : boxes) {
         SCOPED_TRACE(row.szText);
         fill(row.box, row.szText, row.nCursorPos);
@@ -101,13 +131,16 @@ TEST_F(TextboxTest, Draws)
 
 TEST_F(TextboxTest, DrawsItsInsideInAnyColour)
 {
-    // clang-format off
-    const struct { Box box; std::vector<int> keys; int nCursor; Rows rows, shades; } boxes[] = {
+    const struct {
+        Box box;
+        std::vector<int> keys;
+        int nCursor;
+        Rows rows, shades;
+    } boxes[] = {
         {{4, 3, BORDER}, {'a', 'b'}, SHOWCURSOR, {"┌──┐", "│ab ", "└──┘"}, {"ffff", "fuuU", "ffff"}},
         {{4, 3, BORDER, MASK}, {'a', 'b'}, HIDECURSOR, {"┌──┐", "│***", "└──┘"}, {"ffff", "fuuu", "ffff"}},
         {{3, 3}, {'a', 'b', 'c', ' ', 'd'}, SHOWCURSOR, {"abc", " d ", "   "}, {"uuu", "uuU", "fff"}},
     };
-    // clang-format on
     for (const auto& row : boxes) {
         config(row.box);
         box().nCursor = row.nCursor;
@@ -151,11 +184,15 @@ TEST_F(TextboxTest, HasBoxesOfAnySize)
 
 TEST_F(TextboxTest, SetsItsText)
 {
-    // clang-format off
-    const struct { const char* szText; int nCursorPos, nResult; const char* szAfter; int nAfter; } rows[] = {
-        {"abcd", 4, 0, "abcd", 4}, {"xyz", 1, 0, "xyz", 1}, {"xy", 3, 0, "xy", 2}, {nullptr, 1, -1, "xy", 1}, {"12345", 1, -1, "", 0},
+    const struct {
+        const char* szText;
+        int nCursorPos, nResult;
+        const char* szAfter;
+        int nAfter;
+    } rows[] = {
+        {"abcd", 4, 0, "abcd", 4}, {"xyz", 1, 0, "xyz", 1}, {"xy", 3, 0, "xy", 2},
+        {nullptr, 1, -1, "xy", 1}, {"12345", 1, -1, "", 0},
     };
-    // clang-format on
     config({5, 1});
     for (const auto& row : rows) {
         box().nCursorPos = row.nCursorPos;
@@ -213,12 +250,15 @@ TEST_F(TextboxTest, AnswersUnknownAndOther)
 
 TEST_F(TextboxTest, NoticesWhatCallbacksDo)
 {
-    // clang-format off
     const std::pair<KULCALLBACK, int> rows[] = {
-        {[] { kulgui_destroy(1); }, -10000}, {[] { kultextbox_hide(1, kRef); }, 0},
-        {[] { kulgui_leave(1); }, KUL_LEFT}, {[] { config({3, 1}, nullptr); }, 10},
+        {[] { kulgui_destroy(1); }, -10000},
+        {[] { kultextbox_hide(1, kRef); }, 0},
+        {[] { kulgui_leave(1); }, KUL_LEFT},
+        {[] {
+             config({3, 1}, nullptr);
+         },
+         10},
     };
-    // clang-format on
     for (const auto& [action, nResult] : rows) {
         renew();
         kultextbox_create(1, kRef);
@@ -234,13 +274,14 @@ TEST_F(TextboxTest, Searches)
     EXPECT_EQ(FindChar('b', "abcb"), 1);
     EXPECT_EQ(FindChar('\0', "abc"), -1);
     EXPECT_EQ(FindChar('a', nullptr), -1);
-    // clang-format off
-    const struct { const char *szStr, *szIn; int nPlace; } rows[] = {
-        {"cd", "abcd", 2}, {"abcd", "abc", -1}, {"aab", "aab", 0}, {"ab", "aaab", 2},
-        {"ab", "aab", -1}, // the second a breaks the match
+    const struct {
+        const char *szStr, *szIn;
+        int nPlace;
+    } rows[] = {
+        {"cd", "abcd", 2},    {"abcd", "abc", -1},  {"aab", "aab", 0},
+        {"ab", "aaab", 2},    {"ab", "aab", -1}, // the second a breaks the match
         {nullptr, "abc", -1}, {"abc", nullptr, -1},
     };
-    // clang-format on
     for (const auto& row : rows)
         EXPECT_EQ(FindString(row.szStr, row.szIn), row.nPlace);
 }

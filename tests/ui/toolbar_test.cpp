@@ -20,16 +20,15 @@ protected:
         renew();
         kultoolbar_create(1, kRef);
         kultoolbar_config(
-            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nOrient, [] { note("focus"); },
-            [] { note("unfocus"); }, [] { note("select"); }, [] { note("click"); });
+            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nOrient, [] { note("focus"); }, [] { note("unfocus"); },
+            [] { note("select"); }, [] { note("click"); });
         for (const char one : enabled)
             add("b", one == '1' ? 1 : 0);
     }
 
     static void add(const char* szText, int nEnable = 1)
     {
-        EXPECT_EQ(kultoolbar_addButton(1, kRef, szText, 3, nEnable, never, [] { note("button"); }),
-                  0);
+        EXPECT_EQ(kultoolbar_addButton(1, kRef, szText, 3, nEnable, never, [] { note("button"); }), 0);
     }
 
     static KULTOOLBAR& toolbar() { return record<KULTOOLBAR>(); }
@@ -39,8 +38,7 @@ TEST_F(ToolbarTest, HasOneKindOfButtonsAndTwoDirections)
 {
     fill(5, "");
     EXPECT_EQ(toolbar().nOrient, LATERAL);
-    for (const auto addNone :
-         {kultoolbar_addOKButton, kultoolbar_addCancelButton, kultoolbar_addExitButton})
+    for (const auto addNone : {kultoolbar_addOKButton, kultoolbar_addCancelButton, kultoolbar_addExitButton})
         EXPECT_EQ(addNone(1, kRef, "OK", 0, 1, nullptr, nullptr), 0);
     EXPECT_EQ(toolbar().nButtons, 0);
     add("long");
@@ -55,12 +53,14 @@ TEST_F(ToolbarTest, GivesAllButtonsTheirPlaces)
 {
     fill(VERTICAL, "1111");
     // The ones outside of the window follow what changes.
-    // clang-format off
-    const struct { int nOrient, nX, nY; const char* added; int nButton, nXAt, nYAt; } rows[] = {
-        {VERTICAL, 2, 2, "a", 1, 2, 6}, {VERTICAL, 2, 2, "a", 4, 2, 18}, {VERTICAL, 2, 3, "a", 5, 2, 23},
+    const struct {
+        int nOrient, nX, nY;
+        const char* added;
+        int nButton, nXAt, nYAt;
+    } rows[] = {
+        {VERTICAL, 2, 2, "a", 1, 2, 6},       {VERTICAL, 2, 2, "a", 4, 2, 18}, {VERTICAL, 2, 3, "a", 5, 2, 23},
         {VERTICAL, 4, 3, "longer", 5, 4, 23}, {VERTICAL, 4, 3, "a", 7, 4, 31}, {LATERAL, 4, 3, "a", 7, 67, 3},
     };
-    // clang-format on
     for (const auto& row : rows) {
         add(row.added);
         toolbar().nOrient = row.nOrient;
@@ -76,8 +76,14 @@ TEST_F(ToolbarTest, Keys)
 {
     const int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, E = KS_ENTER;
     const std::string farOne = std::string(30, '0') + "1" + std::string(9, '0');
-    // clang-format off
-    const struct { int nOrient; std::string enabled; int nStart; std::vector<int> keys; int nResult, nSelect, nCurrent; const char* events; } rows[] = {
+    const struct {
+        int nOrient;
+        std::string enabled;
+        int nStart;
+        std::vector<int> keys;
+        int nResult, nSelect, nCurrent;
+        const char* events;
+    } rows[] = {
         {LATERAL, "101", 0, {R, 0}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
         {LATERAL, "101", 0, {R, R}, KUL_LEFT, 0, 0, "focus0 unfocus0 "},
         {LATERAL, "1011", 0, {L, L, 'x'}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
@@ -96,7 +102,6 @@ TEST_F(ToolbarTest, Keys)
         {LATERAL, farOne, 0, {R, E}, KUL_LEFT, 30, 30, "focus0 click30 button30 unfocus30 "},
         {LATERAL, std::string(40, '1'), 35, {R, E}, KUL_LEFT, 36, 36, "focus35 click36 button36 unfocus36 "},
     };
-    // clang-format on
     for (const auto& row : rows) {
         SCOPED_TRACE(row.enabled + ' ' + row.events);
         fill(LATERAL, row.enabled);
@@ -115,8 +120,7 @@ TEST_F(ToolbarTest, HidingItsDialogWhileWaitingHidesDialogOne)
     makeDialog(2);
     kulgui_show(2);
     kultoolbar_create(2, 1);
-    kultoolbar_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, LATERAL, nullptr, nullptr, nullptr,
-                      nullptr);
+    kultoolbar_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, LATERAL, nullptr, nullptr, nullptr, nullptr);
     typeKeys({0, -2, KS_TAB}, {[] { kulgui_hide(2); }});
     EXPECT_EQ(kultoolbar_execKeys(2, 1), -10000);
     EXPECT_EQ(GetChain(1)->Pointer->nVisible, F);
