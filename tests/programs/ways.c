@@ -85,7 +85,8 @@ int main(int argc, char** argv)
         if (strcmp(way, "return") == 0)
             return 4;
         kulgui_destroyAll();
-        puts("closed");
+        const char* database = getenv("TERMINFO");
+        printf("closed, TERMINFO=%s\n", database ? database : "none");
         if (strcmp(way, "raise") == 0)
             raise(SIGTERM);
     }
