@@ -161,6 +161,6 @@ void ShowThisStatusbarElement(GUI* thisGUI, KULSTATBAR* thisBar, KULSTATELEMENT*
     wattrset(win, static_cast<int>(A_REVERSE));
     wattr_on(win, A_BOLD, nullptr);
     const kul::Attribute color(win, thisBar->nColor);
-    mvwaddstr(win, getmaxy(win) - 1, textColumn(*thisElement), thisElement->szText);
+    kul::print(win, getmaxy(win) - 1, textColumn(*thisElement), thisElement->szText);
     wattrset(win, static_cast<int>(A_NORMAL));
 }

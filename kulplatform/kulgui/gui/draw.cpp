@@ -3,6 +3,8 @@
 // Frames, lines and fills. Everything is made of runs of equal cells, one call of curses each.
 #include "draw.hpp"
 
+#include <iterator>
+
 namespace {
 
 constexpr int kNoMark = -1;
@@ -76,6 +78,42 @@ void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
     const long long last = std::min<long long>(nY + nCount, getmaxy(win));
     if (first < last)
         mvwvline(win, static_cast<int>(first), nX, character, static_cast<int>(last - first));
+}
+
+void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
+{
+    const long long first = std::max(0LL, -static_cast<long long>(nX));
+    const long long last =
+        std::min(static_cast<long long>(text.size()), getmaxx(win) - static_cast<long long>(nX));
+    // Finished cells know nothing of a background that the program may have given the window.
+    const chtype background = getbkgd(win); // 0: none
+    const bool finished = background == 0 || background == ' ';
+    const auto attributes = static_cast<chtype>(getattrs(win));
+    chtype cells[128];
+    for (long long done = first; done < last;) {
+        const int nCells = static_cast<int>(std::min<long long>(std::size(cells), last - done));
+        const char* run = text.data() + done;
+        std::transform(run, run + nCells, cells, [=](char character) {
+            return static_cast<unsigned char>(character) | attributes;
+        });
+        const int nAt = static_cast<int>(nX + done);
+        if (finished)
+            mvwaddchnstr(win, nY, nAt, cells, nCells);
+        else
+            mvwaddnstr(win, nY, nAt, run, nCells);
+        done += nCells;
+    }
+}
+
+void print(WINDOW* win, int nY, int nX, const char* szText)
+{
+    const std::string_view text(szText);
+    const long long room = getmaxx(win) - static_cast<long long>(nX);
+    if (nX >= 0 && static_cast<long long>(text.size()) <= room &&
+        std::all_of(text.begin(), text.end(), isPlain))
+        plainRun(win, nY, nX, text);
+    else
+        mvwaddstr(win, nY, nX, szText);
 }
 
 } // namespace kul

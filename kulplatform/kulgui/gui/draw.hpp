@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <string_view>
 
 #include "../kulgui.h"
 
@@ -51,6 +52,19 @@ public:
 // Draws nCount cells to the right or down; those outside of the window are skipped.
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
 void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
+
+// Whether curses shows a character as it is, in one cell, in every locale.
+constexpr bool isPlain(char character)
+{
+    return character >= ' ' && character <= '~';
+}
+
+// Draws plain characters as finished cells, which is far cheaper than to have curses decode them;
+// those outside of the window's row are skipped.
+void plainRun(WINDOW* win, int nY, int nX, std::string_view text);
+
+// Prints a text; what does not fit into the row goes on in the next one.
+void print(WINDOW* win, int nY, int nX, const char* szText);
 
 // Length of a text as an int, however long.
 inline int length(const char* szText)

@@ -51,7 +51,7 @@ void makeWindows(GUI* thisGUI)
 void printTitle(WINDOW* win, int nX, int nColor, const char* szTitle)
 {
     const kul::Attribute color(win, nColor);
-    mvwaddstr(win, 0, nX, szTitle);
+    kul::print(win, 0, nX, szTitle);
 }
 
 void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))

@@ -20,11 +20,6 @@
 
 namespace {
 
-bool isPlain(char character)
-{
-    return character >= ' ' && character <= '~';
-}
-
 bool isWordOrEnd(char character)
 {
     return (character > ' ' && character <= '~') || character == '\0' || character == '\n';
@@ -89,8 +84,11 @@ void drawText(WINDOW* win, int nY, int nX, std::string_view text)
         long long end = first + 1;
         while (isPlain(cells[first]) && end < last && isPlain(cells[end]))
             ++end;
-        mvwaddnstr(win, nY, static_cast<int>(nX + first), cells + first,
-                   static_cast<int>(end - first));
+        const std::string_view run(cells + first, static_cast<std::size_t>(end - first));
+        if (isPlain(run.front()))
+            plainRun(win, nY, static_cast<int>(nX + first), run);
+        else
+            mvwaddnstr(win, nY, static_cast<int>(nX + first), run.data(), 1);
         first = end;
     }
 }

@@ -102,8 +102,8 @@ void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, con
     DrawBorder(win, nY, nX, kButtonHeight, nWidth, nColorSet);
     const kul::Attribute color(win, nColorSet);
     kul::hRun(win, kul::shifted(nY, 1), kul::shifted(nX, 1), nWidth - 2LL, ' ');
-    mvwaddstr(win, kul::shifted(nY, 1), kul::shifted(nX, Offset(nWidth, kul::length(szText))),
-              szText);
+    kul::print(win, kul::shifted(nY, 1), kul::shifted(nX, Offset(nWidth, kul::length(szText))),
+               szText);
 }
 
 int kulbutton_execKeys(int nChain, int nRef)

@@ -46,7 +46,7 @@ int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
         const char* szText = element->szText ? element->szText : "";
         {
             const Attribute color(win, elementColor(colors, *element, nPosition == nSelect));
-            mvwaddstr(win, nY, nX, szText);
+            print(win, nY, nX, szText);
         }
         if (nPosition == nSelect)
             onSelected(*element);
