@@ -229,11 +229,10 @@ TEST(FileTextTest, KnowsLinesAndFindsText)
                       static_cast<int>(nLine));
             const std::size_t from = random() % bytes.size();
             const std::string wanted = i == 0 ? "needle" : bytes.substr(from, 1 + random() % 9000);
-            std::size_t place = bytes.find(wanted, lines[nLine]);
-            if (wanted.find('\n') != std::string::npos)
-                place = std::string::npos;
+            const std::size_t found = bytes.find(wanted, lines[nLine]);
+            const bool isFound = found != std::string::npos && wanted.find('\n') == std::string::npos;
             const FileText::Match match = text->find(wanted, static_cast<int>(nLine));
-            EXPECT_EQ(match.place, static_cast<FilePlace>(place));
+            EXPECT_EQ(match.place, isFound ? static_cast<FilePlace>(found) : -1);
             EXPECT_EQ(match.line, match.nLine < 0 ? -1 : text->lineStart(match.nLine));
         }
         EXPECT_EQ(text->lineStart(static_cast<int>(lines.size())), -1);

@@ -169,9 +169,10 @@ std::string_view FileText::at(FilePlace place)
     lastPlace_ = number * kPage;
     lastSize_ =
         static_cast<std::uint64_t>(std::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));
-    const auto nOffset = static_cast<std::uint64_t>(place - lastPlace_);
-    return nOffset < lastSize_ ? std::string_view(last_ + nOffset, lastSize_ - nOffset)
-                               : std::string_view();
+    const FilePlace nLeft = lastPlace_ + static_cast<FilePlace>(lastSize_) - place;
+    return nLeft > 0
+               ? std::string_view(last_ + (place - lastPlace_), static_cast<std::size_t>(nLeft))
+               : std::string_view();
 }
 
 FilePlace FileText::newlineBefore(FilePlace place, FilePlace from)
