@@ -11,7 +11,7 @@ static const struct {
     const char* szText;
 } kTexts[] = {
     {"Show", "Boxes, lines, labels, bars and a status line, with values of this machine."},
-    {"Lists", "Time zones of which one is chosen, network interfaces of which any are checked."},
+    {"Lists", "Time zones, of which one is chosen; network interfaces, any of which are checked."},
     {"Text", "A host name and a password, checked at every key."},
     {"Logs", "A file of any size: search it, or follow its end."},
     {"Back", "Enter leaves this page."},

@@ -17,7 +17,7 @@ static void judge(void)
     const char* szPassword = kultextbox_getText(PAGE, PASSWORD_BOX);
     if (!szName || !szPassword)
         return;
-    snprintf(szText, sizeof szText, "%s password, name of %d letters",
+    snprintf(szText, sizeof szText, "%s password, name length %d",
              strlen(szPassword) < 8 ? "Weak" : "Fair", (int)strlen(szName));
     kullabel_setText(PAGE, VERDICT, szText);
 }

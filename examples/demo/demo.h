@@ -33,7 +33,8 @@ void runPage(void);
 void goBack(void);
 void quit(void);
 
-/* Sets up a label without frame on a page: nWidth columns of one row. */
+/* Sets up a label without frame on a page: one row of nWidth columns, of which a text that is shown
+ * whole leaves two free. */
 void addText(int nRef, int nX, int nY, int nWidth, const char* szText);
 
 /* The pages. */

@@ -123,13 +123,13 @@ static void addHistory(int nX, int nY, int nHeight)
 
 static void addEntries(int nY, int nWidth, int nHeight)
 {
-    nTextCells = (nWidth - 3) * (nHeight - 2);
+    nTextCells = (nWidth - 2) * (nHeight - 2);
     kuldescrfield_create(PAGE, ENTRIES);
-    kuldescrfield_config(PAGE, ENTRIES, THERE, PAGE_COLOR, 2, nY, nWidth, nWidth - 1, nHeight);
+    kuldescrfield_config(PAGE, ENTRIES, THERE, PAGE_COLOR, 2, nY, nWidth, nWidth, nHeight);
     for (int n = 0; n < ENTRY_COUNT; ++n)
         kuldescrfield_addElement(PAGE, ENTRIES, kEntries[n].szName, "");
     kulscrollbar_create(PAGE, ENTRY_BAR);
-    kulscrollbar_config(PAGE, ENTRY_BAR, THERE, PAGE_COLOR, nWidth + 2, nY + 1, nHeight + 1, 0,
+    kulscrollbar_config(PAGE, ENTRY_BAR, THERE, PAGE_COLOR, nWidth + 3, nY + 1, nHeight + 1, 0,
                         10 * ENTRY_COUNT, VERTICAL);
 }
 
@@ -167,13 +167,13 @@ void displayPage(void)
         kullabel_config(PAGE, VERSION, THERE, KUL_KEEP, 2, 4, 42, 6, LEFT, BORDER, szVersion);
         addHistory(46, 4, 6);
         addGauges(11, 32);
-        addEntries(13, 66, 5);
+        addEntries(13, 65, 4);
     } else {
         kullabel_config(PAGE, VERSION, PAGE_COLOR, KUL_KEEP, 2, 1, page->nWidth - 4, 1, LEFT,
                         NOBORDER, szVersion);
         addGauges(4, page->nWidth - 24);
         addHistory(page->nWidth - 12, 2, 4);
-        addEntries(6, page->nWidth - 5, 3);
+        addEntries(6, page->nWidth - 6, 3);
     }
     addStatus(page);
     everySecond();

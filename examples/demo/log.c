@@ -54,13 +54,13 @@ void logPage(void)
         return;
     nFollow = F;
     kultextbox_create(PAGE, SEARCH_BOX);
-    kultextbox_config(PAGE, SEARCH_BOX, HERE, THERE, OFF, 12, 1, page->nWidth - 24, 1, NOBORDER,
+    kultextbox_config(PAGE, SEARCH_BOX, HERE, THERE, OFF, 13, 1, page->nWidth - 24, 1, NOBORDER,
                       NOMASK, NULL, NULL, search, NULL);
     kulfileview_create(PAGE, VIEW);
     kulfileview_config(PAGE, VIEW, HERE, THERE, OFF, 2, 2, page->nWidth - 4, page->nHeight - 6,
                        NOBORDER, szLog, NULL, NULL, NULL, toggleFollow);
-    addText(SEARCH_LABEL, 2, 1, 10, "Search");
-    addText(FOLLOWING, page->nWidth - 10, 1, 8, "");
+    addText(SEARCH_LABEL, 2, 1, 11, "Search");
+    addText(FOLLOWING, page->nWidth - 11, 1, 9, "");
     addBackBar(page);
     kulgui_setFocus(PAGE, VIEW);
     runPage();

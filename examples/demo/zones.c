@@ -14,6 +14,7 @@ enum { MOST_ZONES = 600, NAME_SIZE = 40 };
 
 static char names[MOST_ZONES][NAME_SIZE];
 static int nZones;
+static int nChosen; /* kept when the page is left */
 
 static int byName(const void* a, const void* b)
 {
@@ -43,6 +44,7 @@ static void showTime(void)
     const int nZone = kuloptions_getClicked(PAGE, ZONES);
     if (nZone < 0 || nZone >= nZones)
         return;
+    nChosen = nZone;
     setenv("TZ", names[nZone], 1);
     tzset();
     const time_t now = time(NULL);
@@ -59,7 +61,7 @@ void zonesPage(void)
     readZones();
     kuloptions_create(PAGE, ZONES);
     kuloptions_config(PAGE, ZONES, HERE, THERE, OFF, 2, 2, page->nWidth - 4, page->nHeight - 6,
-                      NOBORDER, 0, 0, NULL, NULL, NULL, showTime);
+                      NOBORDER, nChosen, nChosen, NULL, NULL, NULL, showTime);
     for (int n = 0; n < nZones; ++n)
         kuloptions_addElement(PAGE, ZONES, names[n], 1, NULL, NULL);
     addText(ZONE_TIME, 2, 1, page->nWidth - 4, "");

@@ -1464,7 +1464,8 @@ KULGUI_API int kullabel_create(int nChain, int nRef);
 
 /** Sets a label up; the frame counts in the size. KUL_KEEP takes the dialog's nColorStandard and
  * nColorUnfocus, and BORDER; an alignment stays as it was, CENTER at first. szText is copied, of
- * any length; NULL is no text. Returns 0, -1 for an unknown item or without memory. */
+ * any length, and wrapped to rows of nWidth - 2 characters, with a frame of nWidth - 4; NULL is no
+ * text. Returns 0, -1 for an unknown item or without memory. */
 KULGUI_API int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int nX,
                                int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
                                const char* szText);

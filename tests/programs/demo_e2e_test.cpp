@@ -11,18 +11,40 @@ namespace {
 
 using namespace kultools;
 
-TEST(Demo, ShowsItsItems)
+Launch demo(const char* term)
 {
     Launch launch;
     launch.argv = {KULGUI_DEMO};
     launch.environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC};
-    Terminal terminal(launch);
+    launch.term = term;
+    return launch;
+}
+
+// Opens the page and turns to the second of its facts.
+void openItems(Terminal& terminal)
+{
     ASSERT_TRUE(terminal.waitForText("Quit"));
     terminal.press(*keyBytes("down"));
     terminal.press("\r");
     ASSERT_TRUE(terminal.waitForText("Display items"));
     terminal.press("\r");
     ASSERT_TRUE(terminal.waitForText("Memory that nobody uses"));
+    ASSERT_TRUE(terminal.settle());
+}
+
+TEST(Demo, TellsWhatIsSelectedWithoutColours)
+{
+    Terminal terminal(demo("vt100"));
+    ASSERT_NO_FATAL_FAILURE(openItems(terminal));
+    ASSERT_NE(terminal.row(15).find(" MemTotal   MemFree "), std::string::npos) << terminal.text();
+    EXPECT_FALSE(terminal.cell(15, 6).reverse);
+    EXPECT_TRUE(terminal.cell(15, 17).reverse);
+}
+
+TEST(Demo, ShowsItsItems)
+{
+    Terminal terminal(demo("xterm-256color"));
+    ASSERT_NO_FATAL_FAILURE(openItems(terminal));
     // What this machine and this moment have to do with it is left out.
     std::string text = std::regex_replace(terminal.text(), std::regex("disk .*"), "disk");
     text = std::regex_replace(text, std::regex("[0-9][0-9]:[0-9][0-9]:[0-9][0-9]\n"), "clock\n");
@@ -46,7 +68,7 @@ TEST(Demo, ShowsItsItems)
     │ │400 MiB. Memory that nobody uses for anything.                 │    │
     │ │                                                               │ │  │
     │ │                                                               │ │  │
-    │ │                                                               │ │  │
+    │ └───────────────────────────────────────────────────────────────┘ ┴  │
      gateway                                                       clock
 
 

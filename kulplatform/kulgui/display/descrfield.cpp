@@ -32,7 +32,10 @@ void dropElement(KULDESCRFLDELEMENT& element)
 void drawElement(WINDOW* win, const KULDESCRFIELD& field, const KULDESCRFLDELEMENT& element, int nX,
                  bool selected)
 {
-    const kul::Attribute color(win, selected ? field.nColorSelect : field.nColorBack);
+    const int nColor = selected ? field.nColorSelect : field.nColorBack;
+    // Without colours, what is selected must be seen as well as the focus.
+    const kul::FocusMark mark(selected ? nColor : -1);
+    const kul::Attribute color(win, nColor);
     if (element.szText)
         kul::printOnRow(win, field.nY, nX, element.szText);
 }
