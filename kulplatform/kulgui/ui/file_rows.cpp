@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "../gui/draw.hpp"
 #include "../gui/text.hpp"
 
 namespace kul {
@@ -25,7 +26,7 @@ std::string_view FileRows::plainFrom(FilePlace place, FilePlace end)
     const std::string_view bytes = text_.at(place);
     const std::size_t nMost = std::min(bytes.size(), static_cast<std::size_t>(end - place));
     std::size_t n = 0;
-    while (n < nMost && bytes[n] >= ' ' && bytes[n] < 0x7f)
+    while (n < nMost && isPlain(bytes[n]))
         ++n;
     return {bytes.data(), n};
 }
@@ -37,7 +38,7 @@ FileRows::Glyph FileRows::glyph(FilePlace place, FilePlace end, int nColumn)
         return {L' ', 1, kTab - nColumn % kTab};
     if (nByte >= 0x80)
         return wideGlyph(place, end);
-    return {nByte >= ' ' && nByte < 0x7f ? static_cast<wchar_t>(nByte) : kStandIn, 1, 1};
+    return {isPlain(static_cast<char>(nByte)) ? static_cast<wchar_t>(nByte) : kStandIn, 1, 1};
 }
 
 // A character of the locale's encoding.

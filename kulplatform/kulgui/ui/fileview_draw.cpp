@@ -2,7 +2,6 @@
 //
 // What a file viewer looks like.
 #include <algorithm>
-#include <string_view>
 
 #include "../gui/draw.hpp"
 #include "file_rows.hpp"
@@ -36,20 +35,6 @@ using kul::kMaxFileRows;
 
 constexpr int kScrollStyle = 1;
 
-// Draws plain characters as finished cells: curses need not look at each of them.
-void drawPlain(WINDOW* win, int nY, int nX, std::string_view text)
-{
-    chtype cells[FileRows::kMaxColumns];
-    const chtype attributes = static_cast<chtype>(getattrs(win));
-    const std::size_t nBefore =
-        static_cast<std::size_t>(std::max(-static_cast<long long>(nX), 0LL));
-    int nCells = 0;
-    for (std::size_t i = nBefore; i < text.size(); ++i)
-        cells[nCells++] = static_cast<unsigned char>(text[i]) | attributes;
-    if (nCells > 0)
-        mvwaddchnstr(win, nY, std::max(nX, 0), cells, nCells);
-}
-
 // A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
 void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
 {
@@ -62,7 +47,7 @@ void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const File
         const FilePlace room = place + nRight - nColumn;
         const std::string_view plain = rows.plainFrom(place, std::min(row.end, room));
         if (!plain.empty()) {
-            drawPlain(win, nY, nX, plain);
+            kul::plainRun(win, nY, nX, plain);
             place += static_cast<FilePlace>(plain.size());
             nColumn += static_cast<int>(plain.size());
             continue;
