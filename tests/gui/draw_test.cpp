@@ -104,7 +104,8 @@ TEST(Layout, CentresAndFills)
 // Finished cells are the same as what curses makes of a text, also over a background.
 TEST_F(DrawTest, PrintsWhatCursesPrints)
 {
-    for (const chtype background : {chtype{' '}, static_cast<chtype>('.' | A_UNDERLINE | COLOR_PAIR(RED_CYAN))}) {
+    const chtype cyan = static_cast<chtype>(COLOR_PAIR(RED_CYAN));
+    for (const chtype background : {chtype{' '}, '.' | A_UNDERLINE | cyan}) {
         for (const int nAttributes : {0, int{A_BOLD}, kul::rawAttribute(RED_BLUE), kul::rawAttribute(-1)}) {
             for (const int nX : {INT_MIN, -1, 0, 2, 3, 6, INT_MAX}) {
                 for (const char* szText : {"", "a c~", "two rows", "a\tb\n", "\x01\xff"}) {

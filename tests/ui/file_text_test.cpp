@@ -180,6 +180,18 @@ TEST(FileRowsTest, CutsLongLinesBetweenCharacters)
     }
 }
 
+// Bytes that look like the middle of a character move the cut, so that a row starts before it.
+TEST(FileRowsTest, CutsStrayBytesTheSameOnAllWays)
+{
+    constexpr FilePlace kEdge = FileText::kPiece;
+    const TemporaryFile file(std::string(2 * kEdge, '\x80'));
+    const Text text = open(file);
+    FileRows rows(*text, 8);
+    EXPECT_EQ(rows.down(0, kEdge / 8), kEdge);
+    EXPECT_EQ(rows.row(kEdge).next, kEdge + 3);
+    EXPECT_EQ(rows.rowOf(kEdge + 4), kEdge + 3);
+}
+
 TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
 {
     constexpr FilePlace kEdge = FileText::kPiece;
@@ -322,22 +334,28 @@ TEST(FileRowsTest, EndsWhereTheFileWasCutOff)
     EXPECT_EQ(text->size(), 11);
     EXPECT_EQ(rows.up(end, 1), 6);
     EXPECT_EQ(text->lineOf(end), 2);
+    // However much it was: the end is not looked for piece by piece.
+    constexpr std::uintmax_t kLarge = 64ULL << 30;
+    std::filesystem::resize_file(file.path(), kLarge);
+    text->refresh();
+    file.write("");
+    EXPECT_EQ(rows.rowOf(kLarge / 2), 0);
 }
 
 // A file that was cut off and then written anew is not one that has been added to, whether or not
 // anybody read it in between.
 TEST(FileTextTest, ForgetsTheLinesOfAFileThatWasCutOff)
 {
-    for (const bool isRead : {false, true}) {
-        const std::string before(400000, '\n');
+    for (const auto& [head, isRead] : {std::pair(std::string(), false), {"", true}, {std::string(100, '#'), false}}) {
+        const std::string before = head + std::string(400000, '\n');
         const TemporaryFile file(before);
         const Text text = open(file);
-        EXPECT_EQ(text->lineOf(400000), 400000);
+        EXPECT_EQ(text->lineOf(text->size()), 400000);
         file.write("");
         if (isRead) {
             EXPECT_EQ(text->at(390000), "");
         }
-        file.write((isRead ? before.substr(0, 100) : "") + std::string(500000, 'x'));
+        file.write((isRead ? before.substr(0, 100) : head) + std::string(500000, 'x'));
         EXPECT_EQ(text->refresh(), FileText::Change::Shorter);
         EXPECT_EQ(text->lineOf(400000), isRead ? 100 : 0);
     }

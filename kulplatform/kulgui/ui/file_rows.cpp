@@ -89,7 +89,7 @@ FileRows::Row FileRows::row(FilePlace start)
 {
     const std::string_view plain = plainFrom(start, start + nColumns_);
     const FilePlace newline = start + static_cast<FilePlace>(plain.size());
-    const FilePlace edge = (start / FileText::kPiece + 1) * FileText::kPiece;
+    const FilePlace edge = ((start - FileText::kBehind) / FileText::kPiece + 1) * FileText::kPiece;
     if (newline + kLongest < edge && text_.byteAt(newline) == '\n')
         return {start, newline, newline + 1};
     return wrappedRow(start, edge);

@@ -60,7 +60,7 @@ FileText* FileText::open(const char* szName)
     char byte;
     if (text->nDescriptor_ >= 0 && fstat(text->nDescriptor_, &status) == 0 && isRegular(status) &&
         readAt(text->nDescriptor_, &byte, 1, 0) >= 0 && text->look()) {
-        text->beginsAsBefore();
+        text->takeSamples();
         return text;
     }
     close(text);
@@ -95,16 +95,25 @@ bool FileText::look()
     return true;
 }
 
-// Whether the file begins as it did at the last look; takes note of how it begins now.
-bool FileText::beginsAsBefore()
+void FileText::takeSamples()
 {
-    char head[kHead];
-    const auto nHead =
-        static_cast<std::size_t>(std::max<ssize_t>(readAt(nDescriptor_, head, kHead, 0), 0));
-    const bool same = nHead >= nHead_ && std::memcmp(head, head_, nHead_) == 0;
-    std::memcpy(head_, head, nHead);
-    nHead_ = nHead;
-    return same;
+    samples_[0].place = 0;
+    samples_[1].place = std::max<FilePlace>(size_ - kSample, 0);
+    for (Sample& sample : samples_) {
+        const ssize_t n = readAt(nDescriptor_, sample.bytes, kSample, sample.place);
+        sample.nBytes = static_cast<std::size_t>(std::max<ssize_t>(n, 0));
+    }
+}
+
+// Whether what the file began and ended with at the last look is still where it was.
+bool FileText::isAsSampled() const
+{
+    return std::all_of(std::begin(samples_), std::end(samples_), [this](const Sample& sample) {
+        char bytes[kSample];
+        const ssize_t n = readAt(nDescriptor_, bytes, sample.nBytes, sample.place);
+        return n == static_cast<ssize_t>(sample.nBytes) &&
+               std::memcmp(bytes, sample.bytes, sample.nBytes) == 0;
+    });
 }
 
 void FileText::forgetLines()
@@ -120,7 +129,8 @@ FileText::Change FileText::refresh()
     if (!look())
         return Change::None;
     // A log that was emptied may be longer than before by now.
-    const bool cut = !beginsAsBefore() || metEnd;
+    const bool cut = metEnd || !isAsSampled();
+    takeSamples();
     for (Page& page : pages_)
         page.nUsed = 0;
     lastSize_ = 0;
@@ -157,7 +167,8 @@ std::string_view FileText::at(FilePlace place)
         page->number = number;
         page->nBytes = static_cast<int>(
             std::max<ssize_t>(readAt(nDescriptor_, page->bytes, kPage, number * kPage), 0));
-        size_ = page->nBytes < kPage ? std::min(size_, number * kPage + page->nBytes) : size_;
+        if (page->nBytes < kPage)
+            meetEnd(number * kPage + page->nBytes);
     }
     if (++nUses_ == 0) { // after 2^32 uses: all pages count as old
         for (Page& old : pages_)
@@ -173,6 +184,18 @@ std::string_view FileText::at(FilePlace place)
     return nLeft > 0
                ? std::string_view(last_ + (place - lastPlace_), static_cast<std::size_t>(nLeft))
                : std::string_view();
+}
+
+// Reading has found nothing more at a place.
+void FileText::meetEnd(FilePlace place)
+{
+    if (place >= size_)
+        return;
+    size_ = place;
+    // A file that was cut off may end far above; it is not followed up page by page.
+    struct stat status;
+    if (seen_.size > 0 && fstat(nDescriptor_, &status) == 0)
+        size_ = std::clamp<FilePlace>(status.st_size, 0, size_);
 }
 
 FilePlace FileText::newlineBefore(FilePlace place, FilePlace from)
@@ -211,7 +234,7 @@ FilePlace FileText::newlineFrom(FilePlace from, FilePlace to)
 FilePlace FileText::cutAt(FilePlace edge)
 {
     FilePlace cut = edge;
-    while (cut < edge + 3 && (byteAt(cut) & ~0x3f) == 0x80)
+    while (cut < edge + kBehind && (byteAt(cut) & ~0x3f) == 0x80)
         ++cut;
     return cut;
 }
@@ -229,26 +252,34 @@ bool FileText::isCut(FilePlace start, FilePlace edge)
 
 FilePlace FileText::pieceStart(FilePlace place)
 {
-    place = std::min(place, size_); // what is there may have become less a moment ago
-    const FilePlace edge = place / kPiece * kPiece;
-    FilePlace newline = newlineBefore(place, edge);
-    if (newline >= 0 || edge == 0)
-        return newline + 1;
-    const FilePlace earlier = edge - kPiece;
-    newline = newlineBefore(edge, earlier);
-    const FilePlace start = std::max(newline + 1, earlier);
-    if (start == edge)
-        return edge;
-    if (isCut(start, edge) && place >= cutAt(edge))
-        return cutAt(edge);
-    return newline >= 0 || earlier == 0 ? start : pieceStart(edge - 1);
+    while (true) {
+        place = std::min(place, size_); // what is there may have become less a moment ago
+        const FilePlace edge = place / kPiece * kPiece;
+        FilePlace newline = newlineBefore(place, edge);
+        if (newline >= 0 || edge == 0)
+            return newline + 1;
+        const FilePlace earlier = edge - kPiece;
+        newline = newlineBefore(edge, earlier);
+        const FilePlace start = std::max(newline + 1, earlier);
+        if (start == edge)
+            return edge;
+        if (isCut(start, edge) && place >= cutAt(edge))
+            return cutAt(edge);
+        if (newline >= 0 || earlier == 0)
+            return start;
+        place = edge - 1;
+    }
 }
 
 FilePlace FileText::nextCut(FilePlace place)
 {
-    const FilePlace edge = (place / kPiece + 1) * kPiece;
-    const FilePlace cut = cutAt(edge);
-    return cut < size_ && pieceStart(cut) == cut ? cut : kLargest;
+    // The cut that belongs to the edge before the place may still be to come.
+    for (FilePlace edge = place / kPiece * kPiece; edge <= place + kPiece; edge += kPiece) {
+        const FilePlace cut = cutAt(edge);
+        if (cut > place && cut < size_ && pieceStart(cut) == cut)
+            return cut;
+    }
+    return kLargest;
 }
 
 // ---- Reading through the file ---------------------------------------------------------------

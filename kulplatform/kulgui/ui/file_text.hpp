@@ -19,8 +19,10 @@ using FilePlace = std::int64_t;
 
 class FileText {
 public:
-    // Lines longer than this are cut into pieces where they cross a multiple of it.
+    // Lines longer than this are cut into pieces where they cross a multiple of it, or so many
+    // bytes behind.
     static constexpr FilePlace kPiece = 1 << 16;
+    static constexpr int kBehind = 3;
 
     enum class Change { None, Some, Shorter };
 
@@ -57,7 +59,7 @@ public:
     FilePlace newlineFrom(FilePlace from, FilePlace to);
 
     // Start of the line that holds a place, or of its piece if the line is cut. No place is more
-    // than a piece and 3 bytes behind it.
+    // than a piece and kBehind bytes behind it.
     FilePlace pieceStart(FilePlace place);
 
     // Where a line that goes on there would be cut next after a place.
@@ -84,7 +86,7 @@ private:
     static constexpr int kChunk = 1 << 17;
     static constexpr int kOverlap = 1 << 12;
     static constexpr int kMarks = 1 << 12;
-    static constexpr int kHead = 64;
+    static constexpr int kSample = 64;
 
     // While reading through the file: how many newlines come before a place.
     struct Counted {
@@ -96,6 +98,13 @@ private:
     struct Seen {
         std::int64_t size, seconds, nanoseconds, device, inode;
         bool operator==(const Seen&) const = default;
+    };
+
+    // Some bytes of the file as they were at the last look.
+    struct Sample {
+        FilePlace place;
+        std::size_t nBytes;
+        char bytes[kSample];
     };
 
     struct Page {
@@ -113,14 +122,15 @@ private:
     bool continuesWith(FilePlace place, std::string_view text);
     void forgetLines();
     bool look();
-    bool beginsAsBefore();
+    void takeSamples();
+    bool isAsSampled() const;
+    void meetEnd(FilePlace place);
 
     int nDescriptor_;
     FilePlace size_;
     Seen seen_;
-    char head_[kHead]; // how the file begins
-    std::size_t nHead_;
-    const char* last_; // the page that was used last, as far as the file goes
+    Sample samples_[2]; // how the file begins and ends
+    const char* last_;  // the page that was used last, as far as the file goes
     FilePlace lastPlace_;
     std::uint64_t lastSize_;
     unsigned nUses_;
