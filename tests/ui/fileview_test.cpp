@@ -330,12 +330,15 @@ TEST_F(FileviewTest, TakesAnyPlaceAndSize)
     EXPECT_EQ(kultest::picture(window(1), 0, 0, 2, 6), (Rows{"e 1   ", "e 2   "}));
     // So is one half of a wide character; the other one is blank, in the colour of the text.
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-    file_.write("\xe4\xb8\xad" "x");
+    file_.write("\xe4\xb8\xadx\nxy");
     kulfileview_config(1, kRef, RED_MAGENTA, RED_MAGENTA, KUL_KEEP, -1, 2, 9, 3, NOBORDER, file_.path().c_str(),
                        nullptr, nullptr, nullptr, nullptr);
     kulgui_show(1);
+    // And drawing over another one loses nothing.
+    mvwaddwstr(window(1), 3, 0, L"\u4e2d");
+    ShowFileviewComponent(GetChain(1)->Pointer, &view(), 0);
     std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(kultest::picture(window(1), 2, 0, 1, 3), (Rows{" x "}));
+    EXPECT_EQ(kultest::picture(window(1), 2, 0, 2, 3), (Rows{" x ", "y  "}));
     EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 3, {{'u', RED_MAGENTA}}), (Rows{"uuu"}));
 }
 

@@ -97,6 +97,21 @@ struct Strings {
     }
 };
 
+bool isSame(const char* szOne, const char* szOther)
+{
+    return isString(szOne) && isString(szOther) && std::strcmp(szOne, szOther) == 0;
+}
+
+// Whether standing out is reverse video by its own string just where it is by that for all
+// attributes; there it is bold as well on some terminals.
+bool standsOutAlike(const char* szAll)
+{
+    char* szReverse = copyText(tiparm(szAll, 0, 0, 1, 0, 0, 0, 0, 0, 0));
+    const bool same = isSame(tiparm(szAll, 1, 0, 0, 0, 0, 0, 0, 0, 0), szReverse);
+    std::free(szReverse);
+    return same == isSame(tigetstr("smso"), tigetstr("rev"));
+}
+
 // Whether curses can do without the string.
 bool isSimple()
 {
@@ -104,7 +119,7 @@ bool isSimple()
         if (!isString(tigetstr(szName)))
             return false;
     }
-    return tigetnum("xmc") < 0;
+    return tigetnum("xmc") < 0 && standsOutAlike(tigetstr("sgr"));
 }
 
 // The one number beyond the standard ones that curses asks for: whether a terminal in UTF-8 mode

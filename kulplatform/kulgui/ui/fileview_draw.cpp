@@ -35,12 +35,15 @@ using kul::kMaxFileRows;
 
 constexpr int kScrollStyle = 1;
 
-// A row, and blanks up to the right edge of the box. Cells outside of the window are left out.
+// A row, on blanks as wide as the box: these come first, for a plain character that takes the place
+// of one half of a wide one is lost when the other half goes. Cells outside of the window are left
+// out, and so is what lies there in part.
 void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
 {
     const int nRight =
         static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
                                              static_cast<long long>(getmaxx(win)) - box.nX));
+    kul::hRun(win, nY, box.nX, box.nWidth, ' ');
     int nColumn = 0;
     for (FilePlace place = row.start; place < row.end && nColumn < nRight;) {
         const int nX = kul::shifted(box.nX, nColumn);
@@ -54,17 +57,10 @@ void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const File
         }
         const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
         place += now.nBytes;
-        if (now.character == L' ')
-            kul::hRun(win, nY, nX, std::min(now.nCells, nRight - nColumn), ' ');
-        else if (nColumn + now.nCells > nRight)
-            break;
-        else if (nX >= 0)
-            mvwaddnwstr(win, nY, nX, &now.character, 1);
         nColumn += now.nCells;
+        if (now.character != L' ' && nX >= 0 && nColumn <= nRight)
+            mvwaddnwstr(win, nY, nX, &now.character, 1);
     }
-    nColumn = std::min(nColumn, std::max(nRight, 0));
-    kul::hRun(win, nY, kul::shifted(box.nX, nColumn), static_cast<long long>(box.nWidth) - nColumn,
-              ' ');
 }
 
 // Draws the rows from the top on; returns the place behind them.
