@@ -79,38 +79,42 @@ int size(const char* szText)
     return szText ? static_cast<int>(std::strlen(szText)) + 1 : 0;
 }
 
+// Whether standing out is bold reverse video by the string for all attributes: its own string is
+// reverse video alone on some of these terminals.
+bool standsOutBold()
+{
+    const char* szAll = tigetstr("sgr");
+    char* szBold = copyText(tiparm(szAll, 0, 0, 1, 0, 0, 1, 0, 0, 0));
+    const char* szStandout = tiparm(szAll, 1, 0, 0, 0, 0, 0, 0, 0, 0);
+    const bool same = szBold && szStandout && std::strcmp(szStandout, szBold) == 0;
+    std::free(szBold);
+    return same && isString(tigetstr("bold"));
+}
+
 // The terminal's strings in their order, null for those that are not there or not wanted.
 struct Strings {
     static constexpr int kMost = 1024;
     const char* texts[kMost];
     int nCount = 0;
     int nBytes = 0; // that they take together
+    char standout[64] = "";
 
     Strings()
     {
+        if (standsOutBold())
+            std::snprintf(standout, sizeof standout, "%s%s", tigetstr("bold"), tigetstr("rev"));
         for (; nCount < kMost && strnames[nCount]; ++nCount) {
             const char* szName = strnames[nCount];
             const char* szText = std::strcmp(szName, "sgr") != 0 ? tigetstr(szName) : nullptr;
+            if (*standout && std::strcmp(szName, "smso") == 0)
+                szText = standout;
+            else if (*standout && std::strcmp(szName, "rmso") == 0)
+                szText = nullptr; // it may leave the text bold; "sgr0" is there
             texts[nCount] = isString(szText) ? szText : nullptr;
             nBytes += size(texts[nCount]);
         }
     }
 };
-
-bool isSame(const char* szOne, const char* szOther)
-{
-    return isString(szOne) && isString(szOther) && std::strcmp(szOne, szOther) == 0;
-}
-
-// Whether standing out is reverse video by its own string just where it is by that for all
-// attributes; there it is bold as well on some terminals.
-bool standsOutAlike(const char* szAll)
-{
-    char* szReverse = copyText(tiparm(szAll, 0, 0, 1, 0, 0, 0, 0, 0, 0));
-    const bool same = isSame(tiparm(szAll, 1, 0, 0, 0, 0, 0, 0, 0, 0), szReverse);
-    std::free(szReverse);
-    return same == isSame(tigetstr("smso"), tigetstr("rev"));
-}
 
 // Whether curses can do without the string.
 bool isSimple()
@@ -119,7 +123,7 @@ bool isSimple()
         if (!isString(tigetstr(szName)))
             return false;
     }
-    return tigetnum("xmc") < 0 && standsOutAlike(tigetstr("sgr"));
+    return tigetnum("xmc") < 0;
 }
 
 // The one number beyond the standard ones that curses asks for: whether a terminal in UTF-8 mode
