@@ -174,4 +174,15 @@ TEST(Screen, FillsATerminalThatReportsNoSize)
     EXPECT_EQ(look(terminal, 1, 79, 2, 1) + look(terminal, 23, 79, 1, 1), "─\n6\n6\n");
 }
 
+// As by the terminal's own string for all attributes, which curses is not given.
+TEST(Screen, StandsOutBold)
+{
+    Launch launch = program("dialogs", {"desktop"});
+    launch.term = "vt100";
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
+    EXPECT_TRUE(terminal.cell(1, 59).reverse && terminal.cell(1, 59).bold) << "the line below the title";
+    EXPECT_FALSE(terminal.cell(3, 59).reverse || terminal.cell(3, 59).bold);
+}
+
 } // namespace

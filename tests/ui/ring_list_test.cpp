@@ -294,6 +294,7 @@ TYPED_TEST(RingListTest, NoticesWhatCallbacksDo)
                  TypeParam::removeLast(list.Element);
          },
          10},
+        {"remove uncounted", [] { TypeParam::removeLast(TestFixture::list().Element); }, 10},
         {"empty",
          [] { kulgui_config(1, 0, 0, 0, 0, "", BORDER, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr, nullptr); },
          -10000},

@@ -22,7 +22,7 @@ KULCHECKELEMENT* findElement(int nChain, int nRef, int nElement)
 void click(Handler& handler)
 {
     kul::CheckList* list = handler.record();
-    if (auto* element = list ? kul::elementAt(*list, list->nSelect) : nullptr)
+    if (auto* element = list ? kul::cursorElement(*list) : nullptr)
         toggle(*element);
     handler.call(&KULCHECKBOX::onClick);
 }

@@ -141,7 +141,7 @@ template <typename Record>
 void callElement(Handler<RingList<Record>>& handler, KULCALLBACK ElementOf<Record>::*callback)
 {
     RingList<Record>* list = handler.record();
-    if (const auto* element = list ? elementAt(*list, cursorOf(*list)) : nullptr)
+    if (const auto* element = list ? cursorElement(*list) : nullptr)
         handler.run(element->*callback);
 }
 

@@ -276,6 +276,14 @@ void keepView(RingList<Record>& list)
     setView(list);
 }
 
+// The cursor's element, whatever became of the list since the last look; null for none.
+template <typename Record>
+ElementOf<Record>* cursorElement(RingList<Record>& list)
+{
+    keepView(list);
+    return elementAt(list, cursorOf(list));
+}
+
 // Moves a view that does not show the cursor's element: one that the program chose, or one behind
 // an element that fills the box alone.
 template <typename Record>
