@@ -4,6 +4,7 @@
 #include "kulgui.h"
 
 #include "gui/chain.hpp"
+#include "gui/edition.hpp"
 #include "gui/keys.hpp"
 #include "gui/screen.hpp"
 #include "ui/handler.hpp"
@@ -102,6 +103,14 @@ int runFocused(int nChain, int nResult, int& nStill)
 }
 
 } // namespace
+
+int kulgui_setEdition(int nEdition)
+{
+    if (nEdition != 1 && nEdition != 2)
+        return -1;
+    kul::nEdition = nEdition;
+    return 0;
+}
 
 int kulgui_create(int nChain)
 {

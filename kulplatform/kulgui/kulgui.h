@@ -56,6 +56,9 @@ extern "C" {
 /** Result of kulgui_exec and of key handlers: the dialog was left by kulgui_leave. */
 #define KUL_LEFT 123456
 
+/** The same: the dialog was left by Escape. Edition 2 only. */
+#define KUL_CANCELLED 123457
+
 /** Every pair of two different curses colours; also the number of the curses colour pair. Once a
  * dialog has been shown GREEN_YELLOW is black on black, the colour of shadows. */
 typedef enum colorset {
@@ -123,8 +126,15 @@ enum kul_keys {
     KS_LEFT,
     KS_UP,
     KS_DOWN,
-    KS_RIGHT
+    KS_RIGHT,
+    KS_BACKTAB /* from here on edition 2 only */
 };
+
+/** Edition 2: Alt with a letter or digit is KS_ALT plus that character. */
+#define KS_ALT 2000
+
+/** Edition 2: a character above 127 is KUL_CHARACTER plus its code, as mbrtowc gives it. */
+#define KUL_CHARACTER 0x1000000
 
 /** Tails of the escape sequences behind the keys from KS_F1 to KS_RIGHT, in that order. */
 #define KUL_KEYSTROKES 22
@@ -229,6 +239,11 @@ typedef struct control {
  *     kulgui_exec(1);                    runs until it is left
  *     kulgui_destroyAll();               gives the terminal back
  */
+
+/** Chooses the manners of the whole program: 1, the start, or 2, what people expect today. To be
+ * called before the terminal is opened; between dialogs it works as well. Returns 0, -1 for any
+ * other number, which changes nothing. */
+KULGUI_API int kulgui_setEdition(int nEdition);
 
 /** Makes a chain numbered nChain. With KUL_KEEP the first chain becomes 0; a later one gets the
  * first number above the count of dialogs that is already in use, wrapping round, so name later
