@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <climits>
 
+#include "../file/file_rows.hpp"
 #include "../gui/polling.hpp"
-#include "file_rows.hpp"
 #include "handler.hpp"
 
 namespace {

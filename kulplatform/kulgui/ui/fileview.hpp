@@ -2,8 +2,8 @@
 #ifndef KUL_UI_FILEVIEW_HPP
 #define KUL_UI_FILEVIEW_HPP
 
+#include "../file/file_text.hpp"
 #include "../kulgui.h"
-#include "file_text.hpp"
 
 namespace kul {
 

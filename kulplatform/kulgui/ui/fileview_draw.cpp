@@ -3,8 +3,8 @@
 // What a file viewer looks like.
 #include <algorithm>
 
+#include "../file/file_rows.hpp"
 #include "../gui/draw.hpp"
-#include "file_rows.hpp"
 #include "fileview.hpp"
 
 namespace kul {

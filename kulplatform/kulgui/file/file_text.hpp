@@ -5,8 +5,8 @@
 // end, and a table of how many lines come before which place, coarser the longer the file.
 //
 // The file may change at any time. Whatever it does, reads give the bytes that are there, or none.
-#ifndef KUL_UI_FILE_TEXT_HPP
-#define KUL_UI_FILE_TEXT_HPP
+#ifndef KUL_FILE_FILE_TEXT_HPP
+#define KUL_FILE_FILE_TEXT_HPP
 
 #include <cstddef>
 #include <cstdint>

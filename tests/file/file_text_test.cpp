@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ui/file_text.hpp"
+#include "file/file_text.hpp"
 
 #include <clocale>
 #include <fcntl.h>
@@ -8,8 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "file/file_rows.hpp"
 #include "support/temporary_file.hpp"
-#include "ui/file_rows.hpp"
 
 namespace {
 

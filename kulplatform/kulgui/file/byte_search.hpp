@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Counting and searching in memory, about as fast as it can be read.
-#ifndef KUL_UI_BYTE_SEARCH_HPP
-#define KUL_UI_BYTE_SEARCH_HPP
+#ifndef KUL_FILE_BYTE_SEARCH_HPP
+#define KUL_FILE_BYTE_SEARCH_HPP
 
 #include <cstdint>
 #include <string_view>

@@ -6,8 +6,8 @@
 //
 // How a row is laid out follows from the bytes from its start on, and where rows start follows from
 // the start of the line (or piece of a line), so that all ways to a row give the same one.
-#ifndef KUL_UI_FILE_ROWS_HPP
-#define KUL_UI_FILE_ROWS_HPP
+#ifndef KUL_FILE_FILE_ROWS_HPP
+#define KUL_FILE_FILE_ROWS_HPP
 
 #include "file_text.hpp"
 
