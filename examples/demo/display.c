@@ -123,7 +123,8 @@ static void addHistory(int nX, int nY, int nHeight)
 
 static void addEntries(int nY, int nWidth, int nHeight)
 {
-    nTextCells = (nWidth - 2) * (nHeight - 2);
+    /* Without memory the page has no size. */
+    nTextCells = nWidth > 2 ? (nWidth - 2) * (nHeight - 2) : 0;
     kuldescrfield_create(PAGE, ENTRIES);
     kuldescrfield_config(PAGE, ENTRIES, THERE, PAGE_COLOR, 2, nY, nWidth, nWidth, nHeight);
     for (int n = 0; n < ENTRY_COUNT; ++n)

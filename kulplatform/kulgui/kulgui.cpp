@@ -104,6 +104,11 @@ int runFocused(int nChain, int nResult, int& nStill)
 
 } // namespace
 
+const char* kulgui_version()
+{
+    return KULGUI_VERSION;
+}
+
 int kulgui_setEdition(int nEdition)
 {
     if (nEdition != 1 && nEdition != 2)

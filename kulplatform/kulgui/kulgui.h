@@ -16,7 +16,9 @@
  *  4. Keep value. Where a call says so, the argument KUL_KEEP leaves a setting at its default.
  *  5. Places. nX counts columns and nY rows from 0 at the top left corner of the dialog's window,
  *     frame included; only a dialog's own nX and nY count from the corner of the screen. nWidth
- *     and nHeight are columns and rows. What lies outside of the window is not drawn.
+ *     and nHeight are columns and rows. What lies outside of the window is not drawn, but a text
+ *     that is not wrapped (a caption, an element of a menu, a field of a status bar) and reaches
+ *     beyond the right edge goes on at the start of the next row.
  *  6. Colours. A colour set is one of the 56 pairs of COLORSET, foreground_background. Fields and
  *     arguments are ints, so that KUL_KEEP and a plain number can be given as well.
  *  7. Ownership. The library owns every record, window and panel that it makes and frees them
@@ -29,8 +31,8 @@
  *  9. One thread. All calls come from the same thread.
  * 10. The terminal. kulgui_exec opens it; a program that wants to draw before that calls
  *     NCursesEnv(1) first. It is given back as it was found by kulgui_destroyAll, by exit, and by
- *     a signal that ends the program; kulgui_destroyAll leaves standard input's status flags at
- *     O_APPEND.
+ *     a signal that ends the program, but not by KILL, nor by _exit; kulgui_destroyAll leaves
+ *     standard input's status flags at O_APPEND.
  */
 #ifndef KULGUI_H
 #define KULGUI_H
@@ -47,6 +49,15 @@
 #ifdef __cplusplus
 extern "C" {
 #endif
+
+/* ---- Version -------------------------------------------------------------------------------- */
+
+/** The version of this header, and as a number: major * 10000 + minor * 100 + patch. */
+#define KULGUI_VERSION "0.2.0"
+#define KULGUI_VERSION_NUMBER 200
+
+/** The KULGUI_VERSION of the library that runs. */
+KULGUI_API const char* kulgui_version(void);
 
 /* ---- Constants ------------------------------------------------------------------------------ */
 
@@ -782,7 +793,7 @@ KULGUI_API int kulfileview_execKeys(int nChain, int nRef);
 /** An element; programs may change nEnable, nSelect and onSelect. The elements form a ring, where
  * a lone one has no links. */
 typedef struct kulcheckelement {
-    int nEnable; /* 1: enabled; else drawn in nColorDisable, but still to be checked */
+    int nEnable; /* 1: enabled; else in nColorDisable while in focus; can still be checked */
     int nExitCode;
     int* nExitFlag;
     int nSelect; /* 1: checked */
@@ -887,7 +898,7 @@ KULGUI_API int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox);
 
 /** An element; programs may change nEnable and the callbacks. Linked as in check box lists. */
 typedef struct kuloptionelement {
-    int nEnable; /* 1: enabled; else drawn in nColorDisable, but still to be chosen */
+    int nEnable; /* 1: enabled; else in nColorDisable while in focus; can still be chosen */
     int nExitCode;
     int* nExitFlag;
     char* szText;

@@ -41,6 +41,20 @@ TEST(Demo, TellsWhatIsSelectedWithoutColours)
     EXPECT_TRUE(terminal.cell(15, 17).reverse);
 }
 
+// A box that has no room for a text does not write before it.
+TEST(Demo, LivesOnSixColumns)
+{
+    Launch launch = demo("xterm-256color");
+    launch.columns = 6;
+    launch.rows = 12;
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.settle());
+    terminal.press(*keyBytes("down"));
+    terminal.press("\r");
+    ASSERT_TRUE(terminal.settle());
+    EXPECT_TRUE(terminal.running()) << terminal.text();
+}
+
 TEST(Demo, ShowsItsItems)
 {
     Terminal terminal(demo("xterm-256color"));
