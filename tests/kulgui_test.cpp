@@ -97,6 +97,12 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
         {"destroys the dialog", [] { kulgui_destroy(1); }, -10000, "+1 "},
         {"destroys everything", [] { kulgui_destroy(0); kulgui_create(0); }, -10000, "+1 "},
         {"configures the dialog anew", [] { configure(1); }, -10000, "+1 "},
+        {"leaves, and runs the dialog again before it is left",
+         [] { kulgui_leave(1); button(1).onClick = nullptr; typeKeys({KS_ENTER}); kulgui_exec(1); },
+         KUL_LEFT, "+1 +1 -1 -1 "},
+        {"leaves, and gives another component the keys before that",
+         [] { kulgui_leave(1); typeKeys({KS_ENTER}); kulbutton_execKeys(1, 2); },
+         KUL_LEFT, "+1 +2 -2 -1 "},
         {"resets the button",
          [] { kulexitbutton_config(1, 1, 0, 0, 0, 0, 0, 0, 0, 0, "", nullptr, nullptr, nullptr,
                                    nullptr); },
@@ -177,6 +183,29 @@ TEST_F(DialogTest, WithoutAFocusThatCanWait)
     EXPECT_EQ(run({}, -10000), "");
     EXPECT_EQ(kulbutton_execKeys(1, 77), 10);
     EXPECT_EQ(kulgui_exec(9), -1);
+}
+
+// Its loop goes on with the keys that no component took, and takes none once it is to end.
+TEST_F(DialogTest, WithComponentsThatDoNotWait)
+{
+    kuloptions_create(1, 1);
+    kuloptions_config(1, 1, 0, 0, 0, 1, 1, 20, 4, BORDER, 0, 0, nullptr, nullptr, nullptr,
+                      [] { kuloptions_hide(1, 1); });
+    kuloptions_addElement(1, 1, "one", 1, nullptr, nullptr);
+    addButton(2);
+    addButton(3);
+    EXPECT_EQ(run({KS_ENTER, 'x', KS_TAB, 'x'}, KUL_LEFT), "+2 -2 ");
+    kulgui_setFocus(1, 1);
+    EXPECT_EQ(run({KS_ESC, 'x'}, KUL_LEFT), "+3 -3 ");
+    for (int nRef : {2, 3}) {
+        kulgui_setFocus(1, nRef);
+        button(nRef).onFocus = nRef == 2 ? [] { kulgui_leave(1); } : [] { kulgui_destroy(1); };
+        kulbutton_show(1, nRef);
+        kulbutton_hide(1, 5 - nRef);
+        GetChain(1)->Pointer->onPoll = [] { note("poll"); };
+        EXPECT_EQ(run({kSecond, 'x'}, nRef == 2 ? KUL_LEFT : -10000), nRef == 2 ? "-2 " : "")
+            << "no wait for a dialog that is over";
+    }
 }
 
 TEST_F(DialogTest, PollsWhatIsShownOnceASecond)

@@ -71,30 +71,53 @@ void showFirst(int nChain, int nBefore)
         ShowUIComponentUnfocused(before, ui);
 }
 
+const UI* findFocused(int nChain)
+{
+    const GUI* gui = kul::findDialog(nChain);
+    return gui ? GetUIComponentByRef(nChain, gui->nCurrentUI) : nullptr;
+}
+
+// What ends a loop whatever its handler returned; 0 for nothing.
+int endOfLoop(int nChain)
+{
+    if (kul::lineIsGone())
+        return -10000;
+    if (kul::takeLeaving(nChain))
+        return KUL_LEFT;
+    return findFocused(nChain) ? 0 : -10000;
+}
+
+// Waits for a dialog in which no component did. Tab and Escape go on as from a component that gave
+// them back; the result goes on with other keys.
+int waitForAll(int nResult)
+{
+    const int nKey = kul::waitOnce();
+    return nKey == KS_TAB ? 10 : nKey == KS_ESC ? -10 : nResult;
+}
+
 // Runs the handler of the component in focus, once. nStill counts components in a row that did not
 // wait for a key, being hidden for instance: when it reaches all of them, this waits, or the loop
 // would spin without a key or a poll.
 int runFocused(int nChain, int nResult, int& nStill)
 {
-    const GUI* gui = kul::findDialog(nChain);
-    const UI* ui = gui ? GetUIComponentByRef(nChain, gui->nCurrentUI) : nullptr;
+    const UI* ui = findFocused(nChain);
     const kul::UIKind* kind = ui ? kul::uiKind(ui->nType) : nullptr;
     if (!kind)
         return -10000;
     const int nRef = ui->nRef;
     const unsigned nWaits = kul::waits();
-    const int nHandled = kind->execKeys(nChain, nRef);
+    const int nHandled = kul::runHandler(*kind, nChain, nRef);
     if (nHandled != -1)
         nResult = nHandled;
+    int nEnd = endOfLoop(nChain);
     nStill = kul::waits() == nWaits ? nStill + 1 : 0;
-    if (nStill > 0 && nStill >= countComponents(nChain)) {
+    if (nEnd == 0 && nStill > 0 && nStill >= countComponents(nChain)) {
         nStill = 0;
-        kul::waitOnce();
-        if (kul::lineIsGone())
-            return -10000;
+        nResult = waitForAll(nResult);
+        nEnd = endOfLoop(nChain);
     }
-    if (kul::takeLeaving(nChain))
-        return KUL_LEFT;
+    if (nEnd != 0)
+        return nEnd;
     if (kul::takeRefocus(nChain))
         return 0;
     if ((nResult == 10 || nResult == -10) && moveFocus(nChain, nRef, nResult == 10) != 0)
@@ -272,7 +295,7 @@ int kulgui_leave(int nChain)
     kul::Dialog* dialog = kul::findDialog(nChain);
     if (!dialog)
         return -1;
-    dialog->leaving = true;
+    dialog->asked.leaving = true;
     return 0;
 }
 
@@ -282,7 +305,7 @@ int kulgui_setFocus(int nChain, int nRef)
     if (!dialog || CheckUICompExistence(nChain, nRef) != 0)
         return -1;
     dialog->nCurrentUI = nRef;
-    dialog->refocused = true;
+    dialog->asked.refocused = true;
     return 0;
 }
 

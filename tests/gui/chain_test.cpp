@@ -131,6 +131,11 @@ TEST_F(ChainTest, ComponentsTakeTheFocusAndTheirNumberOnce)
     EXPECT_EQ(ComponentTypeByRef(0, 6), 6);
     EXPECT_EQ(ComponentTypeByRef(0, 8), 0);
     EXPECT_EQ(GetLastUIByGUI(&gui)->Prev, GetUIComponentByRef(0, 6));
+    for (const UI_TYPE type : {CHECKBOX, OPTIONS, TEXTBOX, MENU}) {
+        EXPECT_EQ(CreateUIComponent(0, type, 20 + type), 0);
+        const UI* ui = GetUIComponentByRef(0, 20 + type);
+        EXPECT_EQ(*static_cast<int*>(ui->Pointer), type == MENU ? 0 : gui.nColorFocus) << "has its defaults";
+    }
 }
 
 TEST_F(ChainTest, NumbersAndNullsOfEveryKind)

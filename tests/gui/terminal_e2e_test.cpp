@@ -237,7 +237,9 @@ TEST(HangUp, EndsTheProgramOrTheLoopOfItsDialogSoonAndQuietly)
             EXPECT_EQ(terminal->wait(kSoon), terminal == &unaware ? SIGHUP : exited(10));
         }
         Terminal empty(script("exec \"$@\" </dev/null", "ways count"));
+        Terminal busy(script("exec \"$@\" </dev/null", "ways round"));
         EXPECT_EQ(empty.wait(kSoon), exited(10));
+        EXPECT_EQ(busy.wait(kSoon), exited(10)) << "also where every focus runs another dialog";
         EXPECT_NE(empty.received().find("count 0"), std::string::npos);
     }
     EXPECT_LT(processorSeconds() - before, 0.5) << "they wait without spinning";

@@ -8,6 +8,7 @@
  *   raise     as close, but sends itself a TERM before it returns
  *   again     as close, but first opens and closes the terminal once more, with an Enter between
  *   count     counts
+ *   round     moves the focus between two buttons, each of which runs a dialog of its own first
  *   late      installs a handler for TERM, as below, and opens the terminal that is open again
  * and these change what the program does about signals:
  *   handler   its own handler for TERM ends it with 6
@@ -21,7 +22,7 @@
 #include <stdlib.h>
 #include <string.h>
 
-enum { DESKTOP, MAIN };
+enum { DESKTOP, MAIN, ASIDE };
 
 static const char* way = "count";
 static int clicks;
@@ -33,6 +34,24 @@ static void label(void)
     char text[20];
     snprintf(text, sizeof text, "count %d", clicks);
     kulbutton_config(MAIN, 1, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, KUL_KEEP, 2, 2, 14, 1, text, NULL, NULL, NULL, click);
+}
+
+static void goRound(void)
+{
+    kulgui_exec(ASIDE);
+    kulgui_setFocus(MAIN, 3 - GetCurrentSelection()->nUserInterface);
+}
+
+static void addRound(void)
+{
+    kulgui_create(ASIDE);
+    kulgui_config(ASIDE, WHITE_BLUE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", BORDER, 30, 3, 18, 8, NULL, NULL, NULL, NULL,
+                  NULL);
+    kulbutton_create(ASIDE, 1);
+    kulbutton_create(MAIN, 2);
+    for (int ref = 1; ref <= 2; ++ref)
+        kulbutton_config(MAIN, ref, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 9, 1, "round", goRound, NULL, NULL,
+                         NULL);
 }
 
 static void onTerminate(int number)
@@ -73,6 +92,8 @@ int main(int argc, char** argv)
                   NULL);
     kulbutton_create(MAIN, 1);
     label();
+    if (strcmp(way, "round") == 0)
+        addRound();
     for (int rounds = strcmp(way, "again") == 0 ? 2 : 1; rounds > 0; --rounds) {
         const int opened = NCursesEnv(1);
         if (opened == 0)

@@ -187,6 +187,7 @@ void WindowTest::TearDown()
     SetCurrentSelection(&none);
     const CONTROL clear{F, F, F, F};
     SetControls(&clear);
+    kulgui_setEdition(1);
 }
 
 GUI* WindowTest::makeDialog(int nChain, int nWidth, int nHeight)

@@ -63,6 +63,11 @@ TEST_F(ButtonTest, VariantsHaveDefaultsAndNoText)
         EXPECT_EQ(button.nWidth, 9);
         EXPECT_EQ(button.nColorUnfocus, RED_WHITE);
     }
+    kulcheckbox_create(1, kRef + 1);
+    kulcheckbox_addElement(1, kRef + 1, "kept", 0, 1, nullptr, nullptr);
+    for (const auto variant : {kulokbutton_config, kulcancelbutton_config, kulexitbutton_config})
+        EXPECT_EQ(variant(1, kRef + 1, 1, 2, 3, 4, 5, 6, 7, 1, "", nullptr, nullptr, nullptr, nullptr), -1);
+    EXPECT_NE(kulcheckbox_getElement(1, kRef + 1, 0), nullptr) << "no button, and left alone";
     // A text of its own may be given back, and one that cannot be copied leaves the defaults.
     EXPECT_EQ(config(99, 1, "no button's"), -1);
     plain(kulbutton_config, "own");

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <climits>
 #include <clocale>
+#include <cstring>
 #include <string>
 #include <sys/stat.h>
 
@@ -214,6 +216,24 @@ TEST_F(FileviewTest, RefusesWhatItCannotShow)
     EXPECT_EQ(kulfileview_setFollow(1, kRef, T), 0);
     EXPECT_EQ(type({KS_DOWN, KS_END, KS_UP, KS_TAB}), 10);
     EXPECT_EQ(events, "focus100 unfocus100 ");
+
+    // A record of the program's own is as short as the header says, and holds anything.
+    struct {
+        KULFILEVIEW view;
+        char rest[256];
+    } own;
+    std::memset(&own, 0x5a, sizeof own);
+    EXPECT_EQ(ConfigFileviewComponent(GetChain(1)->Pointer, &own.view), 0);
+    own.view.nX = own.view.nY = own.view.nWidth = own.view.nHeight = 1;
+    ShowFileviewComponent(GetChain(1)->Pointer, &own.view, 1);
+    EXPECT_EQ(std::count(own.rest, own.rest + sizeof own.rest, 0x5a), 256);
+    auto* added = static_cast<KULFILEVIEW*>(std::calloc(1, sizeof(KULFILEVIEW)));
+    auto* node = static_cast<UI*>(std::calloc(1, sizeof(UI)));
+    *node = {FILEVIEW, 8, nullptr, nullptr, added, 0};
+    AddUIComponent(GetChain(1)->Pointer, node);
+    ConfigUIComponent(1, 8);
+    ShowUIColors();
+    EXPECT_EQ(kulfileview_load(1, 8, nullptr), -1) << "none of the library's";
 
     // And nothing without a viewer.
     EXPECT_EQ(kulfileview_create(1, kRef), -10025);

@@ -243,6 +243,8 @@ TEST_F(MenuTest, ObeysNavigationFlagsTabbingAndVisibility)
         EXPECT_EQ(press({KS_TAB}), 10);
         EXPECT_EQ(press({KS_ESC}), -10);
         SetUIVisibility(1, kRef, F);
+        EXPECT_EQ(press({}), 10) << "passed over";
+        kulgui_setTabbing(1, F);
         EXPECT_EQ(press({}), kind.nType == MENU ? 10 : KUL_LEFT);
     });
 }

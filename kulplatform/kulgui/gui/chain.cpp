@@ -69,7 +69,7 @@ void wipeList(Node* node, int (*wipe)(Node*), bool freeNode)
 // The checks and the record that components and items begin with.
 template <typename Node>
 int createNode(int nChain, int nType, int nRef, int nNoMemory, int (*add)(GUI*, Node*),
-               int (*attach)(Node*, int))
+               int (*attach)(GUI&, Node&, int))
 {
     if (ComponentTypeByRef(nChain, nRef) != 0)
         return 0;
@@ -84,7 +84,7 @@ int createNode(int nChain, int nType, int nRef, int nNoMemory, int (*add)(GUI*, 
     node->nRef = nRef;
     node->nType = nType;
     add(chain->Pointer, node);
-    return attach(node, nType);
+    return attach(*chain->Pointer, *node, nType);
 }
 
 } // namespace
@@ -270,12 +270,13 @@ int SetActiveChain(int nChain)
 
 int CreateUIComponent(int nChain, int nType, int nRef)
 {
-    return createNode<UI>(nChain, nType, nRef, -10019, AddUIComponent, AttachComponentToUI);
+    return createNode<UI>(nChain, nType, nRef, -10019, AddUIComponent, kul::attachUI);
 }
 
 int CreateDIComponent(int nChain, int nType, int nRef)
 {
-    return createNode<DI>(nChain, nType, nRef, -10011, AddDIComponent, AttachComponentToDI);
+    return createNode<DI>(nChain, nType, nRef, -10011, AddDIComponent,
+                          [](GUI&, DI& di, int nKind) { return AttachComponentToDI(&di, nKind); });
 }
 
 int AddUIComponent(GUI* thisGUI, UI* thisUI)

@@ -9,14 +9,18 @@
 
 namespace kul {
 
+// What callbacks ask of a running loop.
+struct Requests {
+    bool leaving;   // it shall end
+    bool refocused; // its handler shall return to it
+};
+
 // A dialog as it is allocated: the public record and what steers its loop.
 struct Dialog : GUI {
     bool tabs;      // Tab and Escape leave every kind of component
-    bool leaving;   // the running loop shall end
-    bool refocused; // the running handler shall return to the loop
+    Requests asked; // of the loop that runs now, the innermost one
     bool polled;    // in the poll pass that runs now
     bool due;       // to be drawn at its end
-    int nLoops;     // loops and handlers of this dialog that run now, one inside the other
 };
 
 // The dialog of a chain; null for an unknown chain or one without.
@@ -27,6 +31,10 @@ Dialog* newDialog(CHAIN* thisChain);
 
 // Frees what is in a dialog (components, items, windows) and leaves it empty.
 void emptyDialog(GUI* thisGUI);
+
+// Gives a component of a dialog the record of its kind. The kinds are the business of ui/, which
+// has this function. 0, -1 for an unknown kind or without memory.
+int attachUI(GUI& gui, UI& ui, int nType);
 
 // Takes a chain out of the ring and frees it; all chains if it is the primary.
 void destroyChain(CHAIN* thisChain);

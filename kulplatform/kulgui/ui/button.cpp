@@ -11,6 +11,12 @@ namespace {
 
 constexpr int kButtonHeight = 3;
 
+// What the config calls of the variants do.
+int resetButton(int nChain, int nRef)
+{
+    return kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON) ? 0 : -1;
+}
+
 } // namespace
 
 namespace kul {
@@ -142,19 +148,19 @@ int kulexitbutton_create(int nChain, int nRef)
 int kulokbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int, const char*,
                        KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return ConfigUIComponent(nChain, nRef);
+    return resetButton(nChain, nRef);
 }
 
 int kulcancelbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int,
                            const char*, KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return ConfigUIComponent(nChain, nRef);
+    return resetButton(nChain, nRef);
 }
 
 int kulexitbutton_config(int nChain, int nRef, int, int, int, int, int, int, int, int, const char*,
                          KULCALLBACK, KULCALLBACK, KULCALLBACK, KULCALLBACK)
 {
-    return ConfigUIComponent(nChain, nRef);
+    return resetButton(nChain, nRef);
 }
 
 int kulokbutton_show(int nChain, int nRef)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Check box lists: any number of elements is checked, each by itself.
-#include "checkbox.hpp"
+#include "ring_list.hpp"
 
 namespace {
 
@@ -34,15 +34,6 @@ void moved(Handler& handler)
 }
 
 } // namespace
-
-namespace kul {
-
-void dropCheckbox(CheckList& list)
-{
-    dropRing(list);
-}
-
-} // namespace kul
 
 KULCHECKELEMENT* AddCheckElement(KULCHECKELEMENT* firstElement, int nEnable, const char* szText,
                                  KULCALLBACK onSelect)
@@ -108,7 +99,7 @@ int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox)
 
 int kulcheckbox_create(int nChain, int nRef)
 {
-    return kul::createDefaultUI(nChain, nRef, CHECKBOX);
+    return kul::createUI(nChain, nRef, CHECKBOX);
 }
 
 int kulcheckbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int nColorDisable,

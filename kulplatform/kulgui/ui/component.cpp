@@ -7,12 +7,11 @@
 #include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
 #include "button.hpp"
-#include "checkbox.hpp"
 #include "descrmenu.hpp"
 #include "dynmenu.hpp"
 #include "fileview.hpp"
 #include "menu.hpp"
-#include "options.hpp"
+#include "ring_list.hpp"
 #include "textbox.hpp"
 #include "toolbar.hpp"
 
@@ -21,30 +20,80 @@ namespace {
 // In the order of UI_TYPE; a kind that is not offered has an empty row.
 constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
     kul::uiRow<KULMENU, ConfigMenuComponent, ShowMenuComponent, kul::dropMenu, WipeMenuComponent,
-               kulmenu_execKeys>(-10018, true),
-    kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, kul::showDynmenu, kul::dropDynmenu,
-               WipeDynmenuComponent, kuldynmenu_execKeys>(-10021, true),
-    kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, kul::showDescrmenu, kul::dropDescrmenu,
-               WipeDescrmenuComponent, kuldescrmenu_execKeys>(-10020, true),
+               kulmenu_execKeys>(-10018, true, false),
+    kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, ShowDynmenuComponent, kul::dropDynmenu,
+               WipeDynmenuComponent, kuldynmenu_execKeys>(-10021, true, false),
+    kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, ShowDescrmenuComponent, kul::dropDescrmenu,
+               WipeDescrmenuComponent, kuldescrmenu_execKeys>(-10020, true, false),
     kul::uiRow<KULBUTTON, ConfigButtonComponent, ShowButtonComponent, kul::dropButton,
-               WipeButtonComponent, kulbutton_execKeys>(-10022, true),
-    kul::uiRow<kul::Toolbar, ConfigToolbarComponent, kul::showToolbar, kul::dropToolbar,
-               WipeToolbarComponent, kultoolbar_execKeys>(-10027, false),
-    kul::uiRow<kul::CheckList, ConfigCheckboxComponent,
-               kul::showRing<KULCHECKBOX, ShowCheckboxComponent>, kul::dropCheckbox,
-               WipeCheckboxComponent, kulcheckbox_execKeys>(-10023, false),
-    kul::uiRow<kul::OptionList, ConfigOptionsComponent,
-               kul::showRing<KULOPTIONS, ShowOptionsComponent>, kul::dropOptions,
-               WipeOptionsComponent, kuloptions_execKeys>(-10024, false),
+               WipeButtonComponent, kulbutton_execKeys>(-10022, true, false),
+    kul::uiRow<kul::Toolbar, ConfigToolbarComponent, ShowToolbarComponent, kul::dropToolbar,
+               WipeToolbarComponent, kultoolbar_execKeys>(-10027, false, false),
+    kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent,
+               kul::dropRing<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
+        -10023, false, true),
+    kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent,
+               kul::dropRing<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(-10024, false,
+                                                                                     true),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
-               WipeFileviewComponent, kulfileview_execKeys>(-10025, false),
+               WipeFileviewComponent, kulfileview_execKeys>(-10025, false, false),
     kul::uiRow<KULTEXTBOX, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
-               WipeTextboxComponent, kultextbox_execKeys>(-10026, false),
+               WipeTextboxComponent, kultextbox_execKeys>(-10026, false, true),
 };
+
+// The records that the library keeps more in than the public one shows. A dialog has few of them,
+// and the one that was asked for last is asked for again.
+struct Known {
+    Known* next;
+    void* record;
+};
+
+Known* knownRecords = nullptr;
+
+// The link to a record's entry, moved to the front; null for an unknown one.
+Known* findKnown(const void* record)
+{
+    for (Known** link = &knownRecords; *link; link = &(*link)->next) {
+        Known* known = *link;
+        if (known->record != record)
+            continue;
+        *link = known->next;
+        known->next = knownRecords;
+        return knownRecords = known;
+    }
+    return nullptr;
+}
 
 } // namespace
 
 namespace kul {
+
+void* newInner(std::size_t size)
+{
+    auto* known = allocate<Known>();
+    void* record = known ? std::calloc(1, size) : nullptr;
+    if (!record) {
+        std::free(known);
+        return nullptr;
+    }
+    *known = {knownRecords, record};
+    knownRecords = known;
+    return record;
+}
+
+bool isInner(const void* record)
+{
+    return record && findKnown(record);
+}
+
+void freeRecord(void* record)
+{
+    if (Known* known = record ? findKnown(record) : nullptr) {
+        knownRecords = known->next;
+        std::free(known);
+    }
+    std::free(record);
+}
 
 const UIKind* uiKind(int nType)
 {
@@ -55,7 +104,9 @@ const UIKind* uiKind(int nType)
 void* findUIRecord(int nChain, int nRef, UI_TYPE type)
 {
     const UI* ui = GetUIComponentByRef(nChain, nRef);
-    return ui && ui->nType == type ? ui->Pointer : nullptr;
+    if (!ui || ui->nType != type)
+        return nullptr;
+    return kUIKinds[type].inner && !isInner(ui->Pointer) ? nullptr : ui->Pointer;
 }
 
 bool isSelected(int nChain, int nRef, UI_TYPE type)
@@ -71,11 +122,13 @@ int createUI(int nChain, int nRef, UI_TYPE type)
     return CreateUIComponent(nChain, type, nRef);
 }
 
-int createDefaultUI(int nChain, int nRef, UI_TYPE type)
+int attachUI(GUI& gui, UI& ui, int nType)
 {
-    const int nResult = createUI(nChain, nRef, type);
-    if (nResult == 0)
-        ConfigUIComponent(nChain, nRef);
+    const int nResult = AttachComponentToUI(&ui, nType);
+    if (nResult == 0 && kUIKinds[nType].startsSet) {
+        ui.nUpdate = 1;
+        kUIKinds[nType].config(&gui, ui.Pointer);
+    }
     return nResult;
 }
 

@@ -4,14 +4,52 @@
 #ifndef KUL_UI_COMPONENT_HPP
 #define KUL_UI_COMPONENT_HPP
 
+#include <concepts>
+#include <cstddef>
+
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
 
 namespace kul {
 
+// Records that the library keeps more in than the public one shows: they derive from it and name it
+// as their Public. A program may hand in public records of its own, so one that was not made here
+// is never taken for such a record.
+template <typename Record>
+concept Inner = requires
+{
+    typename Record::Public;
+};
+
+template <typename Record>
+struct PublicOf {
+    using Type = Record;
+};
+
+template <Inner Record>
+struct PublicOf<Record> {
+    using Type = typename Record::Public;
+};
+
+// Cleared memory for a record, known as the library's until it is freed. Null without memory.
+void* newInner(std::size_t size);
+bool isInner(const void* record);
+
+// Frees a record, whoever made it.
+void freeRecord(void* record);
+
+// A record as the library made it; null for one of the program's.
+template <Inner Record>
+Record* innerOf(typename Record::Public* record)
+{
+    return isInner(record) ? static_cast<Record*>(record) : nullptr;
+}
+
 struct UIKind {
     int nTaken;                            // code for a number that is in use
     bool keepsTab;                         // leaves by Tab and Escape only where tabbing is on
+    bool startsSet;                        // has its defaults before its config call
+    bool inner;                            // its own records are Inner
     void* (*allocate)();                   // a cleared record
     int (*config)(GUI*, void*);            // sets the defaults
     void (*show)(GUI*, void*, int nFocus); // draws
@@ -22,27 +60,31 @@ struct UIKind {
     int (*focusColor)(void*);              // nColorFocus of the record
 };
 
-// A row of the table from the typed functions of a kind. Record may derive from the public one.
+// A row of the table from the functions of a kind, which take its public record.
 template <typename Record, auto Config, auto Show, auto Drop, auto Wipe, auto ExecKeys>
-constexpr UIKind uiRow(int nTaken, bool keepsTab)
+constexpr UIKind uiRow(int nTaken, bool keepsTab, bool startsSet)
 {
+    using Public = typename PublicOf<Record>::Type;
     return {
         nTaken,
         keepsTab,
-        []() -> void* { return allocate<Record>(); },
-        [](GUI* gui, void* record) { return Config(gui, static_cast<Record*>(record)); },
-        [](GUI* gui, void* record, int nFocus) { Show(gui, static_cast<Record*>(record), nFocus); },
-        [](void* record) { Drop(*static_cast<Record*>(record)); },
-        [](void* record) { return Wipe(static_cast<Record*>(record)); },
+        startsSet,
+        Inner<Record>,
+        []() -> void* { return Inner<Record> ? newInner(sizeof(Record)) : allocate<Record>(); },
+        [](GUI* gui, void* record) { return Config(gui, static_cast<Public*>(record)); },
+        [](GUI* gui, void* record, int nFocus) { Show(gui, static_cast<Public*>(record), nFocus); },
+        [](void* record) { Drop(*static_cast<Public*>(record)); },
+        [](void* record) { return Wipe(static_cast<Public*>(record)); },
         ExecKeys,
-        [](void* record) -> int& { return static_cast<Record*>(record)->nVisible; },
-        [](void* record) { return static_cast<Record*>(record)->nColorFocus; }};
+        [](void* record) -> int& { return static_cast<Public*>(record)->nVisible; },
+        [](void* record) { return static_cast<Public*>(record)->nColorFocus; }};
 }
 
 // The row of a kind; null for a number that is none.
 const UIKind* uiKind(int nType);
 
-// The record of a component; null when there is none or it is of another kind.
+// The record of a component; null when there is none, it is of another kind, or it is a program's
+// own where the library needs one of its making.
 void* findUIRecord(int nChain, int nRef, UI_TYPE type);
 
 template <typename Record>
@@ -65,9 +107,6 @@ bool isSelected(int nChain, int nRef, UI_TYPE type);
 
 // What the create calls of the kinds do.
 int createUI(int nChain, int nRef, UI_TYPE type);
-
-// The same for kinds that are to have their defaults from then on, not from their config call on.
-int createDefaultUI(int nChain, int nRef, UI_TYPE type);
 
 // The colours that every kind starts with.
 template <typename Record>

@@ -42,12 +42,6 @@ void dropDescrmenu(KULDESCRMENU& menu)
     dropAll(menu.Element);
 }
 
-void showDescrmenu(GUI* thisGUI, DescrMenu* thisMenu, int nFocus)
-{
-    if (thisGUI && thisMenu)
-        draw(thisGUI, *thisMenu, thisMenu->place, nFocus);
-}
-
 } // namespace kul
 
 KULDESCRMENUELEMENT* AddDescrmenuElement(KULDESCRMENUELEMENT* firstElement, int nEnable,
@@ -99,7 +93,7 @@ int WipeDescrmenuComponent(KULDESCRMENU* thisMenu)
 {
     if (thisMenu)
         kul::dropDescrmenu(*thisMenu);
-    std::free(thisMenu);
+    kul::freeRecord(thisMenu);
     return 0;
 }
 
@@ -159,9 +153,10 @@ KULDESCRMENUELEMENT* kuldescrmenu_getElement(int nChain, int nRef, int nElement)
 // The record may be the program's own, that remembers no place.
 void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus)
 {
-    kul::Place<KULDESCRMENUELEMENT> place{};
+    kul::Place<KULDESCRMENUELEMENT> start{};
+    auto* inner = kul::innerOf<kul::DescrMenu>(thisMenu);
     if (thisGUI && thisMenu)
-        draw(thisGUI, *thisMenu, place, nFocus);
+        draw(thisGUI, *thisMenu, inner ? inner->place : start, nFocus);
 }
 
 int kuldescrmenu_execKeys(int nChain, int nRef)

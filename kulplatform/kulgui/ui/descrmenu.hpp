@@ -8,11 +8,11 @@ namespace kul {
 
 // A description menu as it is allocated.
 struct DescrMenu : KULDESCRMENU {
+    using Public = KULDESCRMENU;
     Place<KULDESCRMENUELEMENT> place;
 };
 
 void dropDescrmenu(KULDESCRMENU& menu);
-void showDescrmenu(GUI* thisGUI, DescrMenu* thisMenu, int nFocus);
 
 } // namespace kul
 

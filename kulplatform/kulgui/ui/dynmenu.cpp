@@ -106,16 +106,11 @@ void draw(GUI* gui, const KULDYNMENU& menu, kul::MenuView& view, int nFocus)
 
 namespace kul {
 
-void dropDynmenu(DynMenu& menu)
+void dropDynmenu(KULDYNMENU& menu)
 {
     dropAll(menu.Element);
-    menu.view = {};
-}
-
-void showDynmenu(GUI* thisGUI, DynMenu* thisMenu, int nFocus)
-{
-    if (thisGUI && thisMenu)
-        draw(thisGUI, *thisMenu, thisMenu->view, nFocus);
+    if (auto* inner = innerOf<DynMenu>(&menu))
+        inner->view = {};
 }
 
 } // namespace kul
@@ -141,7 +136,7 @@ int WipeDynmenuComponent(KULDYNMENU* thisMenu)
 {
     if (thisMenu)
         kul::dropAll(thisMenu->Element);
-    std::free(thisMenu);
+    kul::freeRecord(thisMenu);
     return 0;
 }
 
@@ -206,9 +201,10 @@ KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElement)
 // The record may be the program's own, without a view: it is shown from its start.
 void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus)
 {
-    kul::MenuView view{};
+    kul::MenuView start{};
+    auto* inner = kul::innerOf<kul::DynMenu>(thisMenu);
     if (thisGUI && thisMenu)
-        draw(thisGUI, *thisMenu, view, nFocus);
+        draw(thisGUI, *thisMenu, inner ? inner->view : start, nFocus);
 }
 
 int kuldynmenu_execKeys(int nChain, int nRef)

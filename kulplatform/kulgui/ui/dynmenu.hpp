@@ -14,11 +14,11 @@ struct MenuView {
 
 // A dynamic menu as it is allocated.
 struct DynMenu : KULDYNMENU {
+    using Public = KULDYNMENU;
     MenuView view;
 };
 
-void dropDynmenu(DynMenu& menu);
-void showDynmenu(GUI* thisGUI, DynMenu* thisMenu, int nFocus);
+void dropDynmenu(KULDYNMENU& menu);
 
 } // namespace kul
 

@@ -119,7 +119,10 @@ bool keepUpAll(const GUI& dialog)
 {
     bool changed = false;
     for (const UI* ui = dialog.UserInterface; ui; ui = ui->Next) {
-        if (ui->nType == FILEVIEW && ui->Pointer && keepUp(*static_cast<FileView*>(ui->Pointer)))
+        if (ui->nType != FILEVIEW)
+            continue;
+        FileView* view = kul::innerOf<FileView>(static_cast<KULFILEVIEW*>(ui->Pointer));
+        if (view && keepUp(*view))
             changed = true;
     }
     return changed;
@@ -158,14 +161,16 @@ void showFile(FileView& view, const Loaded& loaded)
 
 namespace kul {
 
-void dropFileView(FileView& view)
+void dropFileView(KULFILEVIEW& view)
 {
-    FileText::close(view.text);
     std::free(view.szFileName);
-    view.text = nullptr;
     view.szFileName = nullptr;
-    view.top = 0;
-    view.atEnd = true;
+    if (auto* inner = innerOf<FileView>(&view)) {
+        FileText::close(inner->text);
+        inner->text = nullptr;
+        inner->top = 0;
+        inner->atEnd = true;
+    }
 }
 
 } // namespace kul
@@ -179,13 +184,16 @@ int ConfigFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView)
 {
     if (!thisGUI || !thisView)
         return -1;
-    auto* view = static_cast<FileView*>(thisView);
-    kul::dropFileView(*view);
-    kul::takeColors(*thisGUI, *view);
-    kul::setCallbacks(*view, nullptr, nullptr, nullptr, nullptr);
-    view->nVisible = T;
-    view->nBorder = NOBORDER;
-    view->following = false;
+    // What a record of the program's own holds may be anything.
+    if (auto* inner = kul::innerOf<FileView>(thisView)) {
+        kul::dropFileView(*inner);
+        inner->following = false;
+    }
+    kul::takeColors(*thisGUI, *thisView);
+    kul::setCallbacks(*thisView, nullptr, nullptr, nullptr, nullptr);
+    thisView->szFileName = nullptr;
+    thisView->nVisible = T;
+    thisView->nBorder = NOBORDER;
     return 0;
 }
 
@@ -193,9 +201,8 @@ int WipeFileviewComponent(KULFILEVIEW* thisView)
 {
     if (!thisView)
         return 0;
-    auto* view = static_cast<FileView*>(thisView);
-    kul::dropFileView(*view);
-    std::free(view);
+    kul::dropFileView(*thisView);
+    kul::freeRecord(thisView);
     return 0;
 }
 

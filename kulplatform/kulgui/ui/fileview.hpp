@@ -9,6 +9,7 @@ namespace kul {
 
 // The view is the start of its first row; rows are laid out when they are drawn.
 struct FileView : KULFILEVIEW {
+    using Public = KULFILEVIEW;
     FileText* text; // null: no file
     FilePlace top;
     int nColumns; // to which the row at the top was laid out
@@ -16,7 +17,7 @@ struct FileView : KULFILEVIEW {
     bool following;
 };
 
-void dropFileView(FileView& view);
+void dropFileView(KULFILEVIEW& view);
 
 // The box of the text: inside the frame, or left of the scroll bar.
 struct FileBox {

@@ -5,6 +5,7 @@
 
 #include "../file/file_rows.hpp"
 #include "../gui/draw.hpp"
+#include "component.hpp"
 #include "fileview.hpp"
 
 namespace kul {
@@ -111,7 +112,12 @@ void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
 {
     if (!thisGUI || !thisView || thisView->nVisible != T)
         return;
-    const auto& view = *static_cast<const FileView*>(thisView);
+    // One of the program's own has no file.
+    FileView bare{};
+    static_cast<KULFILEVIEW&>(bare) = *thisView;
+    bare.atEnd = true;
+    const auto* inner = kul::innerOf<FileView>(thisView);
+    const FileView& view = inner ? *inner : bare;
     WINDOW* win = thisGUI->winMain;
     FilePlace bottom = 0;
     {

@@ -5,7 +5,6 @@
 
 #include <utility>
 
-#include "../gui/chain.hpp"
 #include "../gui/keys.hpp"
 
 namespace kul {
@@ -13,28 +12,36 @@ namespace kul {
 namespace {
 
 unsigned nWaits = 0;
+bool callsHandler = false; // a loop calls one: the next to begin is no loop of its own
 
-bool take(int nChain, bool Dialog::*request)
+bool take(int nChain, bool Requests::*request)
 {
     Dialog* dialog = findDialog(nChain);
-    return dialog && std::exchange(dialog->*request, false);
+    return dialog && std::exchange(dialog->asked.*request, false);
 }
 
 } // namespace
 
-Loop::Loop(int nChain) : nChain_(nChain), onTop_(nChain)
+Loop::Loop(int nChain)
+    : nChain_(nChain), own_(!std::exchange(callsHandler, false)), outer_{}, onTop_(nChain)
 {
-    Dialog* dialog = findDialog(nChain);
-    if (dialog && dialog->nLoops++ == 0)
-        dialog->leaving = dialog->refocused = false;
+    Dialog* dialog = own_ ? findDialog(nChain) : nullptr;
+    if (dialog)
+        outer_ = std::exchange(dialog->asked, {});
 }
 
 Loop::~Loop()
 {
-    // A dialog that was destroyed meanwhile, and made anew, does not know this loop.
-    Dialog* dialog = findDialog(nChain_);
-    if (dialog && dialog->nLoops > 0)
-        --dialog->nLoops;
+    if (Dialog* dialog = own_ ? findDialog(nChain_) : nullptr)
+        dialog->asked = outer_;
+}
+
+int runHandler(const UIKind& kind, int nChain, int nRef)
+{
+    callsHandler = true;
+    const int nResult = kind.execKeys(nChain, nRef);
+    callsHandler = false; // a hidden one did not begin
+    return nResult;
 }
 
 int waitOnce()
@@ -54,12 +61,12 @@ unsigned waits()
 
 bool takeLeaving(int nChain)
 {
-    return take(nChain, &Dialog::leaving);
+    return take(nChain, &Requests::leaving);
 }
 
 bool takeRefocus(int nChain)
 {
-    return take(nChain, &Dialog::refocused);
+    return take(nChain, &Requests::refocused);
 }
 
 HandlerBase::HandlerBase(const CURRENT& start) : selection(start), loop_(start.nChain) {}
@@ -97,8 +104,8 @@ bool HandlerBase::isOver()
 {
     if (ended_ || !findRecord())
         return true;
-    const Dialog* dialog = findDialog(selection.nChain);
-    return dialog->leaving || dialog->refocused;
+    const Requests& asked = findDialog(selection.nChain)->asked;
+    return asked.leaving || asked.refocused;
 }
 
 bool HandlerBase::isTab(int nKey) const

@@ -11,13 +11,15 @@
 #ifndef KUL_UI_HANDLER_HPP
 #define KUL_UI_HANDLER_HPP
 
+#include "../gui/chain.hpp"
 #include "../gui/screen.hpp"
 #include "component.hpp"
 
 namespace kul {
 
-// A loop or handler of a dialog while it runs: the dialog stands on top, and what was asked of an
-// earlier loop is forgotten when the outermost one starts.
+// A loop of a dialog while it runs, or a handler that a program runs by itself: the dialog stands
+// on top. What callbacks ask is asked of the innermost loop, and of no other one: it begins without
+// requests, and those of the loop around it are there again after it.
 class Loop {
 public:
     explicit Loop(int nChain);
@@ -27,8 +29,13 @@ public:
 
 private:
     int nChain_;
+    bool own_; // not the handler of a loop, which shares that one's requests
+    Requests outer_;
     OnTop onTop_;
 };
+
+// Runs a component as the handler of the loop that calls this.
+int runHandler(const UIKind& kind, int nChain, int nRef);
 
 // Spends one wait for a key, and the poll pass if it is due. The key, or 0; waits are counted, so
 // that a loop without any can be noticed.

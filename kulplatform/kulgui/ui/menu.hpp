@@ -84,7 +84,7 @@ template <typename Record>
 int runMenu(int nChain, int nRef, const MenuKeys& keys)
 {
     const auto* start = findUI<Record>(nChain, nRef, keys.type);
-    if (!start)
+    if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
         return 10;
     Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
     handler.call(&Record::onFocus);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Option lists: one element is chosen, wherever the cursor is.
-#include "options.hpp"
+#include "ring_list.hpp"
 
 namespace {
 
@@ -23,15 +23,6 @@ void moved(Handler& handler)
 }
 
 } // namespace
-
-namespace kul {
-
-void dropOptions(OptionList& list)
-{
-    dropRing(list);
-}
-
-} // namespace kul
 
 KULOPTIONELEMENT* AddOptionElement(KULOPTIONELEMENT* firstElement, int nEnable, const char* szText,
                                    KULCALLBACK onSelect, KULCALLBACK onClick)
@@ -97,7 +88,7 @@ int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions)
 
 int kuloptions_create(int nChain, int nRef)
 {
-    return kul::createDefaultUI(nChain, nRef, OPTIONS);
+    return kul::createUI(nChain, nRef, OPTIONS);
 }
 
 int kuloptions_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int nColorDisable,

@@ -14,12 +14,14 @@ namespace kul {
 // Records and their settings.
 
 template <typename Record>
-void dropRing(RingList<Record>& list)
+void dropRing(Record& list)
 {
     wipeRing(list.Element);
     list.Element = list.FirstShowed = list.LastShowed = nullptr;
-    list.head = list.found = nullptr;
-    list.nRows = 0;
+    if (auto* inner = innerOf<RingList<Record>>(&list)) {
+        inner->head = inner->found = nullptr;
+        inner->nRows = 0;
+    }
 }
 
 template <typename Record>
@@ -46,7 +48,7 @@ int wipeList(Record* list)
     if (!list)
         return 0;
     const int nResult = wipeRing(list->Element);
-    std::free(list);
+    freeRecord(list);
     return nResult;
 }
 
@@ -100,27 +102,20 @@ void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
     }
 }
 
+// A record of the program's own is drawn as it is.
 template <typename Record, typename Marker>
 void showList(GUI* gui, Record* list, int nFocus, Marker marker)
 {
     if (!gui || !list || list->nVisible != T || list->nWidth < 1 || list->nHeight < 1)
         return;
+    if (auto* inner = innerOf<RingList<Record>>(list))
+        keepView(*inner);
     if (list->nBorder == BORDER)
         DrawBorder(gui->winMain, list->nY, list->nX, list->nHeight, list->nWidth,
                    list->nColorUnfocus);
     if (list->bScrollbar == T)
         drawScrollbar(gui, *list, list->nColorUnfocus);
     drawElements(gui->winMain, *list, nFocus, marker);
-}
-
-// Draws the list of a component. The public calls draw records of the program's own, too, and those
-// as they are.
-template <typename Record, void Show(GUI*, Record*, int)>
-void showRing(GUI* gui, RingList<Record>* list, int nFocus)
-{
-    if (list)
-        keepView(*list);
-    Show(gui, list, nFocus);
 }
 
 // Keys.

@@ -29,6 +29,7 @@ using ElementOf = std::remove_pointer_t<decltype(Record::Element)>;
 // last looked at.
 template <typename Record>
 struct RingList : Record {
+    using Public = Record;
     ElementOf<Record>* head;  // the list that the rest of this is about
     ElementOf<Record>* found; // the element that was looked for last, and its index
     int nFound;

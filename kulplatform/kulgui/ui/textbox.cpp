@@ -155,7 +155,7 @@ int WipeTextboxComponent(KULTEXTBOX* thisTB)
 
 int kultextbox_create(int nChain, int nRef)
 {
-    return kul::createDefaultUI(nChain, nRef, TEXTBOX);
+    return kul::createUI(nChain, nRef, TEXTBOX);
 }
 
 int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int nColorDisable,

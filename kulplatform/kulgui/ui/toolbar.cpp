@@ -118,12 +118,6 @@ void dropToolbar(KULTOOLBAR& toolbar)
     dropAll(toolbar.Button);
 }
 
-void showToolbar(GUI* thisGUI, Toolbar* thisTB, int nFocus)
-{
-    if (thisGUI && thisTB)
-        draw(thisGUI, *thisTB, thisTB->laidOut, nFocus);
-}
-
 } // namespace kul
 
 KULTOOLBARBUTTON* AddToolbarButton(KULTOOLBAR* thisTB, KULTOOLBARBUTTON* firstButton, int nEnable,
@@ -173,7 +167,7 @@ int WipeToolbarComponent(KULTOOLBAR* thisTB)
 {
     if (thisTB)
         kul::dropToolbar(*thisTB);
-    std::free(thisTB);
+    kul::freeRecord(thisTB);
     return 0;
 }
 
@@ -247,9 +241,10 @@ KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nButton)
 // The record may be the program's own, that remembers no layout.
 void ShowToolbarComponent(GUI* thisGUI, KULTOOLBAR* thisTB, int nFocus)
 {
-    kul::ToolbarLayout laidOut{};
+    kul::ToolbarLayout none{};
+    auto* inner = kul::innerOf<kul::Toolbar>(thisTB);
     if (thisGUI && thisTB)
-        draw(thisGUI, *thisTB, laidOut, nFocus);
+        draw(thisGUI, *thisTB, inner ? inner->laidOut : none, nFocus);
 }
 
 void ShowToolbarButtonComponent(GUI* thisGUI, KULTOOLBAR* thisTB, KULTOOLBARBUTTON* thisButton,

@@ -22,12 +22,12 @@ struct ToolbarLayout {
 
 // A toolbar as it is allocated.
 struct Toolbar : KULTOOLBAR {
+    using Public = KULTOOLBAR;
     Place<KULTOOLBARBUTTON> place;
     ToolbarLayout laidOut; // as the buttons' places are now
 };
 
 void dropToolbar(KULTOOLBAR& toolbar);
-void showToolbar(GUI* thisGUI, Toolbar* thisTB, int nFocus);
 
 } // namespace kul
 
