@@ -105,6 +105,21 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
     }
 }
 
+void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter)
+{
+    if (nX < 0 || letter.shown[0] == L'\0' || shifted(nX, letter.nColumns) > getmaxx(win))
+        return;
+#if NCURSES_WIDECHAR
+    cchar_t cell{};
+    if (letter.shown[0] >= L' ' && letter.shown[0] != 127 &&
+        setcchar(&cell, letter.shown, A_NORMAL, 0, nullptr) == OK) {
+        mvwadd_wch(win, nY, nX, &cell);
+        return;
+    }
+#endif
+    mvwaddch(win, nY, nX, static_cast<unsigned char>(letter.shown[0]));
+}
+
 void print(WINDOW* win, int nY, int nX, const char* szText)
 {
     const std::string_view text(szText);

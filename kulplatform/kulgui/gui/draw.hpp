@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "../kulgui.h"
+#include "columns.hpp"
 
 namespace kul {
 
@@ -62,6 +63,10 @@ constexpr bool isPlain(char character)
 // Draws plain characters as finished cells, which is far cheaper than to have curses decode them;
 // those outside of the window's row are skipped.
 void plainRun(WINDOW* win, int nY, int nX, std::string_view text);
+
+// Draws one letter at a place; one that does not lie in the window's row whole is left out. Control
+// characters are printed as curses does it.
+void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter);
 
 // Prints a text; what does not fit into the row goes on in the next one.
 void print(WINDOW* win, int nY, int nX, const char* szText);
