@@ -9,6 +9,7 @@
 #include <string_view>
 #include <utility>
 
+#include "gui/description.hpp"
 #include "ui/component.hpp"
 
 namespace {
@@ -34,7 +35,7 @@ void startCurses()
     setenv("LINES", "24", 1);
     setenv("COLUMNS", "80", 1);
     FILE* nothing = std::fopen("/dev/null", "r+");
-    screen = newterm("xterm-256color", nothing, nothing);
+    screen = kul::openScreen("xterm-256color", nothing, nothing);
     ASSERT_NE(screen, nullptr);
     start_color();
     InitializeColorSets();

@@ -18,6 +18,7 @@
 
 #include <term.h>
 
+#include "line.hpp"
 #include "memory.hpp"
 
 namespace kul {
@@ -215,6 +216,7 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     del_curterm(cur_term);
     if (!usable)
         return nullptr;
+    setOutput(output);
     if (!lean || digits.isFull())
         return newterm(szTerm, output, input);
     const Variable variable(digits.text());

@@ -5,7 +5,8 @@
 
 #include "chain.hpp"
 #include "frame.hpp"
-#include "terminal.hpp"
+#include "line.hpp"
+#include "signals.hpp"
 
 namespace kul {
 
@@ -51,6 +52,7 @@ void update()
         return;
     raiseFocused();
     const bool anew = resumed(); // the terminal shows something else now
+    forgetResumed();
     if (anew)
         clearok(curscr, TRUE);
     else if (!anyTouched())
@@ -64,8 +66,10 @@ void update()
         update_panels();
     }
     // What was drawn may be what was there before; curses would search the screen for blanks.
-    if (anew || is_wintouched(newscr) || is_cleared(newscr))
-        doupdate();
+    if (!anew && !is_wintouched(newscr) && !is_cleared(newscr))
+        return;
+    const Blocking blocking;
+    doupdate();
 }
 
 } // namespace

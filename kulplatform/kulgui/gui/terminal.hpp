@@ -6,8 +6,12 @@
 
 namespace kul {
 
-// True once after the process was stopped and continued: the screen has to be painted anew.
-bool resumed();
+// Brings the screen up to date with a terminal that has changed by itself: repaints it after the
+// process was stopped and continued. True when that was so.
+//
+// Whoever waits for keys calls this before it sleeps, when a signal has interrupted the sleep, and
+// once a second at least.
+bool lookAtTerminal();
 
 } // namespace kul
 

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "../gui/keys.hpp"
+#include "../gui/terminal.hpp"
 
 namespace kul {
 
@@ -48,6 +49,7 @@ int waitOnce()
 {
     const Pause pause;
     ++nWaits;
+    lookAtTerminal();
     const int nKey = Inkeys();
     if (nKey == 0)
         ExecPolling();

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: MIT
+//
+// A signal may come at any moment, also while curses is at work, so its handler does not call
+// curses: the bytes that leave and re-enter the screen and the terminal's modes are kept ready
+// from the time of opening, and a handler only writes and sets them.
+#include "line.hpp"
+
+#include <cerrno>
+#include <csignal>
+#include <initializer_list>
+
+#include <curses.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <term.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include "description.hpp"
+
+namespace kul {
+
+namespace {
+
+// A line that takes nothing gets this many chances to take the last bytes, so far apart.
+constexpr int kLastTries = 15;
+constexpr int kLastMilliseconds = 20;
+
+// What curses would send, captured.
+struct Bytes {
+    char text[256];
+    std::size_t size;
+};
+
+struct Modes {
+    termios tty;
+    bool known;
+    int nFlags; // of standard input's descriptor
+};
+
+int nOutput = STDOUT_FILENO;
+volatile sig_atomic_t nBlocking = 0;
+bool ownScreen = false;
+Modes outside; // as found
+Modes inside;  // as the open terminal has them
+Bytes leaving; // gives the screen back
+Bytes entering;
+Bytes* capture = nullptr;
+
+Modes currentModes()
+{
+    Modes modes{};
+    modes.nFlags = fcntl(STDIN_FILENO, F_GETFL);
+    modes.known = tcgetattr(STDOUT_FILENO, &modes.tty) == 0;
+    return modes;
+}
+
+void setModes(const Modes& modes)
+{
+    if (modes.known)
+        tcsetattr(STDOUT_FILENO, TCSANOW, &modes.tty);
+    if (modes.nFlags != -1)
+        fcntl(STDIN_FILENO, F_SETFL, modes.nFlags);
+}
+
+int captureByte(int c)
+{
+    if (capture->size < sizeof capture->text)
+        capture->text[capture->size++] = static_cast<char>(c);
+    return c;
+}
+
+void captureString(const char* szString)
+{
+    if (isString(szString))
+        tputs(szString, 1, captureByte);
+}
+
+void captureAll(Bytes& bytes, std::initializer_list<const char*> names)
+{
+    bytes.size = 0;
+    capture = &bytes;
+    for (const char* name : names)
+        captureString(tigetstr(name));
+}
+
+// Writes what a line takes that may be held, slow or hung up.
+void send(const Bytes& bytes)
+{
+    const int nFlags = fcntl(STDOUT_FILENO, F_GETFL);
+    fcntl(STDOUT_FILENO, F_SETFL, nFlags | O_NONBLOCK);
+    std::size_t sent = 0;
+    for (int nTries = 0; sent < bytes.size && nTries < kLastTries;) {
+        const ssize_t n = write(STDOUT_FILENO, bytes.text + sent, bytes.size - sent);
+        if (n > 0) {
+            sent += static_cast<std::size_t>(n);
+            continue;
+        }
+        // A slow line has room again long before poll() calls it writable.
+        pollfd line{STDOUT_FILENO, POLLOUT, 0};
+        ++nTries;
+        if (poll(&line, 1, kLastMilliseconds) == 1 && line.revents != POLLOUT)
+            break;
+    }
+    fcntl(STDOUT_FILENO, F_SETFL, nFlags);
+}
+
+} // namespace
+
+void setOutput(std::FILE* output)
+{
+    nOutput = fileno(output);
+}
+
+void writeAll(const char* bytes, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t n = write(nOutput, bytes, size);
+        if (n > 0) {
+            bytes += n;
+            size -= static_cast<std::size_t>(n);
+        } else if (n < 0 && errno == EAGAIN) {
+            pollfd line{nOutput, POLLOUT, 0};
+            poll(&line, 1, -1);
+        } else if (n == 0 || errno != EINTR) {
+            return;
+        }
+    }
+}
+
+Blocking::Blocking() : nFlags_(fcntl(nOutput, F_GETFL))
+{
+    if (nFlags_ == -1 || !(nFlags_ & O_NONBLOCK))
+        return;
+    ++nBlocking;
+    fcntl(nOutput, F_SETFL, nFlags_ & ~O_NONBLOCK);
+}
+
+Blocking::~Blocking()
+{
+    if (nFlags_ == -1 || !(nFlags_ & O_NONBLOCK))
+        return;
+    --nBlocking;
+    fcntl(nOutput, F_SETFL, nFlags_);
+}
+
+void noteOutside()
+{
+    outside = currentModes();
+}
+
+void noteInside()
+{
+    inside = currentModes();
+    ownScreen = isString(tigetstr("rmcup"));
+    captureAll(leaving, {"sgr0", "op", ownScreen ? "rmcup" : "clear", "cnorm"});
+    // Without a second screen to leave, what was drawn is cleared away.
+    if (!ownScreen)
+        captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
+    captureAll(entering, {"smcup", "civis"});
+}
+
+bool hasOwnScreen()
+{
+    return ownScreen;
+}
+
+void restoreFlags()
+{
+    if (outside.nFlags != -1)
+        fcntl(STDIN_FILENO, F_SETFL, outside.nFlags);
+}
+
+void leaveLine()
+{
+    send(leaving);
+    setModes(outside);
+}
+
+void enterLine()
+{
+    Modes modes = inside;
+    if (nBlocking && modes.nFlags != -1)
+        modes.nFlags &= ~O_NONBLOCK; // in the middle of a Blocking
+    setModes(modes);
+    send(entering);
+}
+
+} // namespace kul

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+//
+// A signal that ends the process ends it as before, with the same status and core dump, and one
+// that stops it stops it; but the terminal is given back first, and taken again when the process
+// is continued. A crash is such a signal too; its handler runs on a stack of its own, or it could
+// not tell of a stack that overflowed.
+#include "signals.hpp"
+
+#include <cerrno>
+#include <csignal>
+#include <iterator>
+
+#include <unistd.h>
+
+#include "line.hpp"
+
+namespace kul {
+
+namespace {
+
+// Those that neither end nor stop a process by default, that cannot be caught, or that tell a
+// process in the background to keep off the terminal.
+constexpr int kLeftAlone[] = {SIGKILL, SIGSTOP, SIGCHLD, SIGURG, SIGWINCH, SIGTTIN, SIGTTOU};
+
+bool ours[NSIG];
+volatile sig_atomic_t nResumed = 0;
+volatile sig_atomic_t nAway = 0; // given back to be stopped
+volatile pid_t owner = 0;
+alignas(16) char spareStack[16384];
+
+void onEnding(int nSignal);
+void onStop(int nSignal);
+void onContinue(int nSignal);
+
+using Action = void (*)(int);
+
+// What we do about a signal; null for none.
+Action actionOf(int nSignal)
+{
+    for (const int nOther : kLeftAlone) {
+        if (nSignal == nOther)
+            return nullptr;
+    }
+    if (nSignal == SIGTSTP)
+        return onStop;
+    return nSignal == SIGCONT ? onContinue : onEnding;
+}
+
+void setHandler(int nSignal, Action handler)
+{
+    struct sigaction action {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART | SA_ONSTACK;
+    // Nothing comes between giving the terminal back and the end.
+    if (handler == onEnding)
+        sigfillset(&action.sa_mask);
+    sigaction(nSignal, &action, nullptr);
+}
+
+bool isHandledBy(int nSignal, Action handler)
+{
+    struct sigaction action {};
+    return sigaction(nSignal, nullptr, &action) == 0 && !(action.sa_flags & SA_SIGINFO) &&
+           action.sa_handler == handler;
+}
+
+// In the background the terminal belongs to somebody else; setting its modes would stop the
+// process.
+void giveBack()
+{
+    const pid_t nGroup = isOwner() ? tcgetpgrp(STDOUT_FILENO) : 0;
+    if (nGroup == -1 || nGroup == getpgrp())
+        leaveLine();
+}
+
+// The default action, although the signal is blocked while its handler runs.
+void actByDefault(int nSignal)
+{
+    setHandler(nSignal, SIG_DFL);
+    sigset_t self;
+    sigset_t before;
+    sigemptyset(&self);
+    sigaddset(&self, nSignal);
+    raise(nSignal);
+    sigprocmask(SIG_UNBLOCK, &self, &before);
+    sigprocmask(SIG_SETMASK, &before, nullptr);
+}
+
+void enter()
+{
+    nAway = 0;
+    enterLine();
+    nResumed = 1;
+}
+
+void onEnding(int nSignal)
+{
+    giveBack();
+    actByDefault(nSignal);
+}
+
+void onStop(int nSignal)
+{
+    const int nError = errno;
+    giveBack();
+    nAway = 1;
+    actByDefault(nSignal);
+    setHandler(nSignal, onStop);
+    // Where the program handles its continuation itself.
+    if (nAway && isOwner())
+        enter();
+    errno = nError;
+}
+
+// Also after a stop that cannot be caught: the shell has put its own modes back meanwhile.
+void onContinue(int)
+{
+    const int nError = errno;
+    if (isOwner())
+        enter();
+    errno = nError;
+}
+
+} // namespace
+
+void findSignals()
+{
+    for (int nSignal = 1; nSignal < NSIG; ++nSignal)
+        ours[nSignal] = actionOf(nSignal) && isHandledBy(nSignal, SIG_DFL);
+}
+
+void takeSignals()
+{
+    owner = getpid();
+    nResumed = 0;
+    stack_t before{};
+    if (sigaltstack(nullptr, &before) == 0 && before.ss_flags & SS_DISABLE) {
+        stack_t own{};
+        own.ss_sp = spareStack;
+        own.ss_size = sizeof spareStack;
+        sigaltstack(&own, nullptr);
+    }
+    for (int nSignal = 1; nSignal < NSIG; ++nSignal) {
+        if (ours[nSignal])
+            setHandler(nSignal, actionOf(nSignal));
+    }
+}
+
+// Not those for which the program has set a handler meanwhile.
+void giveBackSignals()
+{
+    for (int nSignal = 1; nSignal < NSIG; ++nSignal) {
+        const Action action = actionOf(nSignal);
+        if (action && isHandledBy(nSignal, action))
+            setHandler(nSignal, SIG_DFL);
+    }
+    stack_t now{};
+    if (sigaltstack(nullptr, &now) == 0 && now.ss_sp == spareStack) {
+        now.ss_flags = SS_DISABLE;
+        sigaltstack(&now, nullptr);
+    }
+}
+
+bool isOwner()
+{
+    return owner == getpid();
+}
+
+bool resumed()
+{
+    return nResumed != 0;
+}
+
+void forgetResumed()
+{
+    nResumed = 0;
+}
+
+} // namespace kul
