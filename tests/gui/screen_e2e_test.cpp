@@ -85,6 +85,28 @@ TEST(Screen, MovesTheFocusAtTheCostOfOneCursesUpdateAtMost)
     }
 }
 
+// On a vt100, which cannot hide it, as well.
+TEST(Screen, ShowsTheCursorWhereTheUserIs)
+{
+    for (const char* term : {"linux", "vt100", "xterm-256color"}) {
+        SCOPED_TRACE(term);
+        Launch launch = program("dialogs", {"desktop", "behind", "second"});
+        launch.term = term;
+        Terminal terminal(launch);
+        ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
+        for (const int column : {15, 27, 38}) {
+            EXPECT_EQ(terminal.cursor().row, 10);
+            EXPECT_EQ(terminal.cursor().column, column);
+            EXPECT_TRUE(terminal.cursor().visible);
+            ASSERT_NO_FATAL_FAILURE(press(terminal, "\t"));
+        }
+        terminal.mark();
+        terminal.send("x");
+        ASSERT_TRUE(terminal.settle());
+        EXPECT_EQ(terminal.received(), "");
+    }
+}
+
 TEST(Screen, WritesNothingForAKeyThatChangesNothing)
 {
     Terminal terminal(program("dialogs", {"desktop", "behind"}));

@@ -6,6 +6,7 @@
  *   third     and a third one, which overlaps the second
  *   list      the dialog holds a check box list of ten in place of the buttons
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
+ *   second    in edition 2
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
 #include <kulgui.h>
@@ -61,6 +62,8 @@ int main(int argc, char** argv)
         third |= strcmp(argv[i], "third") == 0;
         list |= strcmp(argv[i], "list") == 0;
         poll |= strcmp(argv[i], "poll") == 0;
+        if (strcmp(argv[i], "second") == 0)
+            kulgui_setEdition(2);
     }
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL,

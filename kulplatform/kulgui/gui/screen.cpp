@@ -4,6 +4,7 @@
 #include "screen.hpp"
 
 #include "chain.hpp"
+#include "edition.hpp"
 #include "frame.hpp"
 #include "line.hpp"
 #include "signals.hpp"
@@ -14,6 +15,16 @@ namespace {
 
 int nPasses = 0;
 const OnTop* onTop = nullptr;
+
+// A cell of a window; without a window, none.
+struct Cell {
+    WINDOW* win;
+    int nY;
+    int nX;
+};
+
+Cell user;
+bool cursorSeen = false;
 
 // The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
 // above it, so that it can go out alone; the panel library would compare all that lies below too.
@@ -46,17 +57,48 @@ void raiseFocused()
         raisePanels(gui->pnlShadow, gui->pnlMain);
 }
 
-void update()
+// Where the terminal's cursor is to stand, as a cell of the whole screen; none where the user is
+// not seen.
+Cell cursorCell()
 {
-    if (!stdscr || isendwin())
-        return;
-    raiseFocused();
-    const bool anew = resumed(); // the terminal shows something else now
-    forgetResumed();
-    if (anew)
-        clearok(curscr, TRUE);
-    else if (!anyTouched())
-        return;
+    PANEL* top = panel_below(nullptr);
+    if (!user.win || user.win != (top ? panel_window(top) : stdscr))
+        return {};
+    if (user.nY < 0 || user.nY >= getmaxy(user.win) || user.nX < 0 || user.nX >= getmaxx(user.win))
+        return {};
+    const Cell cell{newscr, getbegy(user.win) + user.nY, getbegx(user.win) + user.nX};
+    return cell.nY < LINES && cell.nX < COLS ? cell : Cell{};
+}
+
+// Whether the terminal's cursor is not where it should be, as curses has it.
+bool cursorMoves()
+{
+    const Cell cell = cursorCell();
+    if (!cell.win)
+        return cursorSeen;
+    return is_leaveok(newscr) || getcury(newscr) != cell.nY || getcurx(newscr) != cell.nX;
+}
+
+// Updates the terminal; its cursor goes where the user is, and is seen only while it stands there.
+// Curses sends nothing for a cursor that stays as it is.
+void send()
+{
+    const Cell cell = cursorCell();
+    const Blocking blocking;
+    if (cell.win) {
+        leaveok(newscr, FALSE);
+        wmove(newscr, cell.nY, cell.nX);
+    } else if (cursorSeen) {
+        curs_set(0);
+    }
+    doupdate();
+    if (cell.win)
+        curs_set(1);
+    cursorSeen = cell.win != nullptr;
+}
+
+void compose()
+{
     if (WINDOW* top = onlyTopTouched()) {
         wnoutrefresh(top);
     } else {
@@ -65,11 +107,25 @@ void update()
             wnoutrefresh(stdscr);
         update_panels();
     }
-    // What was drawn may be what was there before; curses would search the screen for blanks.
-    if (!anew && !is_wintouched(newscr) && !is_cleared(newscr))
+}
+
+void update()
+{
+    if (!stdscr || isendwin())
         return;
-    const Blocking blocking;
-    doupdate();
+    raiseFocused();
+    const bool anew = resumed(); // the terminal shows something else now, and no cursor
+    forgetResumed();
+    if (anew) {
+        const Blocking blocking;
+        clearok(curscr, TRUE);
+        curs_set(0);
+    }
+    if (anew || anyTouched())
+        compose();
+    // What was drawn may be what was there before; curses would search the screen for blanks.
+    if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorMoves())
+        send();
 }
 
 } // namespace
@@ -104,6 +160,17 @@ OnTop::OnTop(int nChain) : nChain_(nChain), outer_(onTop)
 OnTop::~OnTop()
 {
     onTop = outer_;
+}
+
+void showCursorAt(WINDOW* win, int nY, int nX)
+{
+    if (isEdition2())
+        user = {win, nY, nX};
+}
+
+void forgetCursor()
+{
+    user = {};
 }
 
 } // namespace kul

@@ -7,6 +7,8 @@
 #ifndef KUL_GUI_SCREEN_HPP
 #define KUL_GUI_SCREEN_HPP
 
+#include "../kulgui.h"
+
 namespace kul {
 
 class Pass {
@@ -41,6 +43,14 @@ private:
     int nChain_;
     const OnTop* outer_;
 };
+
+// Where the user is, told by the draw function of the component that has the focus: the terminal's
+// own cursor stands there from the next update on, as long as the cell is seen and the window is
+// that of the dialog above all others. Does nothing in edition 1, which has no cursor.
+void showCursorAt(WINDOW* win, int nY, int nX);
+
+// Before the dialog in focus is drawn: nobody has told yet, and the cursor is hidden.
+void forgetCursor();
 
 } // namespace kul
 

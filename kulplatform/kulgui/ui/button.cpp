@@ -5,11 +5,18 @@
 #include "button.hpp"
 
 #include "../gui/draw.hpp"
+#include "../gui/screen.hpp"
 #include "handler.hpp"
 
 namespace {
 
 constexpr int kButtonHeight = 3;
+
+// The column where the text begins.
+int textColumn(int nX, int nWidth, const char* szText)
+{
+    return kul::shifted(nX, Offset(nWidth, kul::length(szText)));
+}
 
 // What the config calls of the variants do.
 int resetButton(int nChain, int nRef)
@@ -100,6 +107,10 @@ void ShowButtonComponent(GUI* thisGUI, KULBUTTON* thisButton, int nFocus)
         thisButton->nEnable == 1 ? thisButton->nColorUnfocus : thisButton->nColorDisable;
     DrawButton(thisGUI->winMain, thisButton->nY, thisButton->nX, kButtonHeight, thisButton->nWidth,
                nFocus == 1 ? thisButton->nColorFocus : nResting, thisButton->szText);
+    const char* szText = thisButton->szText ? thisButton->szText : "";
+    if (nFocus == 1)
+        kul::showCursorAt(thisGUI->winMain, kul::shifted(thisButton->nY, 1),
+                          textColumn(thisButton->nX, thisButton->nWidth, szText));
 }
 
 void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, const char* szName)
@@ -108,8 +119,7 @@ void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, con
     DrawBorder(win, nY, nX, kButtonHeight, nWidth, nColorSet);
     const kul::Attribute color(win, nColorSet);
     kul::hRun(win, kul::shifted(nY, 1), kul::shifted(nX, 1), nWidth - 2LL, ' ');
-    kul::print(win, kul::shifted(nY, 1), kul::shifted(nX, Offset(nWidth, kul::length(szText))),
-               szText);
+    kul::print(win, kul::shifted(nY, 1), textColumn(nX, nWidth, szText), szText);
 }
 
 int kulbutton_execKeys(int nChain, int nRef)

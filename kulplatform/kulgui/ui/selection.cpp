@@ -108,6 +108,7 @@ void ShowUIColors()
     if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
         return;
     const kul::Pass pass;
+    kul::forgetCursor();
     BackgroundDisplay(chain);
     ShowDisplayComponents(chain->Pointer);
     for (UI* ui = chain->Pointer->UserInterface; ui; ui = ui->Next) {
