@@ -27,7 +27,7 @@ diff "$exports" "$work/exported" >"$work/differs" || {
 "$readelf" -d "$library" >"$work/dynamic"
 for needed in $(sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p' "$work/dynamic"); do
     case $needed in
-    libc.so.* | libncursesw.so.* | libpanelw.so.* | libtinfo.so.* | ld-linux*) ;;
+    libc.so.* | libncurses*.so.* | libpanel*.so.* | libtinfo*.so.* | ld-linux*) ;;
     *) fail "needs $needed" ;;
     esac
 done

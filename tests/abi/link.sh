@@ -42,7 +42,7 @@ package() {
 {
     prepare shared
     "$cc" $(pkg-config --cflags kulgui) "$source/examples/hello.c" -o "$work/hello-shared" \
-        $(pkg-config --libs kulgui) $(pkg-config --libs ncursesw)
+        $(pkg-config --libs kulgui)
     starts "$work/hello-shared"
     package shared
 

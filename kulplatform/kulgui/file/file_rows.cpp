@@ -12,7 +12,9 @@ namespace kul {
 namespace {
 
 constexpr int kTab = 8;
-constexpr int kLongest = 8; // bytes of a character, at the most, in any encoding that is in use
+// Bytes of a character, at the most, in any encoding that is in use; without wide characters in
+// curses a byte is a character.
+constexpr int kLongest = NCURSES_WIDECHAR ? 8 : 1;
 
 } // namespace
 

@@ -36,8 +36,9 @@ Print nextPrint(const char* szText)
 {
     std::mbstate_t state{};
     wchar_t wide = 0;
-    const std::size_t size = std::mbrtowc(&wide, szText, MB_CUR_MAX, &state);
-    const int nColumns = size <= MB_CUR_MAX ? wcwidth(wide) : -1;
+    const std::size_t nLongest = NCURSES_WIDECHAR ? MB_CUR_MAX : 1;
+    const std::size_t size = std::mbrtowc(&wide, szText, nLongest, &state);
+    const int nColumns = size <= nLongest ? wcwidth(wide) : -1;
     if (nColumns >= 0)
         return {static_cast<int>(size), nColumns, '\0'};
     const auto byte = static_cast<unsigned char>(*szText);

@@ -59,8 +59,8 @@ void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const File
         const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
         place += now.nBytes;
         nColumn += now.nCells;
-        if (now.character != L' ' && nX >= 0 && nColumn <= nRight)
-            mvwaddnwstr(win, nY, nX, &now.character, 1);
+        if (now.character != L' ' && nColumn <= nRight)
+            kul::drawLetter(win, nY, nX, {1, now.nCells, {now.character}});
     }
 }
 
