@@ -41,17 +41,42 @@ int countComponents(int nChain)
     return nCount;
 }
 
+// The component in focus; in edition 2 the first one takes the place of one that is gone.
+const UI* findFocused(int nChain)
+{
+    const GUI* gui = kul::findDialog(nChain);
+    const UI* ui = gui ? GetUIComponentByRef(nChain, gui->nCurrentUI) : nullptr;
+    return ui || !gui || !kul::isEdition2() ? ui : gui->UserInterface;
+}
+
+const UI* neighbour(const GUI& gui, const UI& ui, bool forward)
+{
+    const UI* next = forward ? ui.Next : ui.Prev;
+    if (next)
+        return next;
+    return forward ? gui.UserInterface : GetLastUIComponent(&gui);
+}
+
+// The component from one on that can take the focus, round the list; null for none.
+const UI* findAble(const kul::Dialog& dialog, const UI& from, bool forward)
+{
+    const UI* ui = &from;
+    do {
+        if (kul::takesFocus(dialog, *ui))
+            return ui;
+        ui = neighbour(dialog, *ui, forward);
+    } while (ui != &from);
+    return nullptr;
+}
+
 // Moves the focus from a component to its neighbour, round the list. -10000 when it is gone.
 int moveFocus(int nChain, int nRef, bool forward)
 {
-    kul::Dialog* dialog = kul::findDialog(nChain);
     const UI* from = GetUIComponentByRef(nChain, nRef);
     if (!from)
         return -10000;
-    const UI* to = forward ? from->Next : from->Prev;
-    if (!to)
-        to = forward ? dialog->UserInterface : GetLastUIComponent(dialog);
-    dialog->nCurrentUI = to->nRef;
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    dialog->nCurrentUI = neighbour(*dialog, *from, forward)->nRef;
     return 0;
 }
 
@@ -71,12 +96,6 @@ void showFirst(int nChain, int nBefore)
         ShowUIComponentUnfocused(before, ui);
 }
 
-const UI* findFocused(int nChain)
-{
-    const GUI* gui = kul::findDialog(nChain);
-    return gui ? GetUIComponentByRef(nChain, gui->nCurrentUI) : nullptr;
-}
-
 // What ends a loop whatever its handler returned; 0 for nothing.
 int endOfLoop(int nChain)
 {
@@ -87,12 +106,19 @@ int endOfLoop(int nChain)
     return findFocused(nChain) ? 0 : -10000;
 }
 
-// Waits for a dialog in which no component did. Tab and Escape go on as from a component that gave
-// them back; the result goes on with other keys.
-int waitForAll(int nResult)
+// Waits for a dialog in which no component did. Tab and Escape do what they do in a component; the
+// result goes on with other keys.
+int waitForAll(int nChain, int nResult)
 {
-    const int nKey = kul::waitOnce();
-    return nKey == KS_TAB ? 10 : nKey == KS_ESC ? -10 : nResult;
+    const int nKey = kul::offerKey(nChain, kul::waitOnce());
+    if (nKey == KS_ESC)
+        return kul::isEdition2() ? KUL_CANCELLED : -10;
+    return nKey == KS_TAB ? 10 : nKey == KS_BACKTAB ? -10 : nResult;
+}
+
+bool isEnd(int nResult)
+{
+    return nResult == -10000 || nResult == KUL_LEFT || nResult == KUL_CANCELLED;
 }
 
 // Runs the handler of the component in focus, once. nStill counts components in a row that did not
@@ -100,20 +126,24 @@ int waitForAll(int nResult)
 // would spin without a key or a poll.
 int runFocused(int nChain, int nResult, int& nStill)
 {
+    kul::Dialog* dialog = kul::findDialog(nChain);
     const UI* ui = findFocused(nChain);
+    const UI* able = ui ? findAble(*dialog, *ui, nResult != -10) : nullptr;
+    if (able)
+        ui = able;
     const kul::UIKind* kind = ui ? kul::uiKind(ui->nType) : nullptr;
     if (!kind)
         return -10000;
-    const int nRef = ui->nRef;
+    const int nRef = dialog->nCurrentUI = ui->nRef;
     const unsigned nWaits = kul::waits();
-    const int nHandled = kul::runHandler(*kind, nChain, nRef);
+    const int nHandled = able ? kul::runHandler(*kind, nChain, nRef) : 0;
     if (nHandled != -1)
         nResult = nHandled;
     int nEnd = endOfLoop(nChain);
     nStill = kul::waits() == nWaits ? nStill + 1 : 0;
-    if (nEnd == 0 && nStill > 0 && nStill >= countComponents(nChain)) {
+    if (nEnd == 0 && nStill > 0 && (!able || nStill >= countComponents(nChain))) {
         nStill = 0;
-        nResult = waitForAll(nResult);
+        nResult = waitForAll(nChain, nResult);
         nEnd = endOfLoop(nChain);
     }
     if (nEnd != 0)
@@ -220,7 +250,7 @@ int kulgui_exec(int nChain)
     showFirst(nChain, nBefore);
     int nResult = 0;
     int nStill = 0;
-    while (nResult != -10000 && nResult != KUL_LEFT)
+    while (!isEnd(nResult))
         nResult = runFocused(nChain, nResult, nStill);
     ExecuteUnfocusFunction(kul::findDialog(nChain));
     SetActiveChain(nBefore);

@@ -64,6 +64,9 @@ KULGUI_API const char* kulgui_version(void);
 /** Keep the default (numeric settings), or: choose a number (kulgui_create). */
 #define KUL_KEEP (-11111)
 
+/** As nRef of kulgui_setUser and kulgui_getUser: the dialog itself. */
+#define KUL_DIALOG (-11113)
+
 /** Result of kulgui_exec and of key handlers: the dialog was left by kulgui_leave. */
 #define KUL_LEFT 123456
 
@@ -325,6 +328,71 @@ KULGUI_API int kulgui_setFocus(int nChain, int nRef);
  * or one without dialog. */
 KULGUI_API int kulgui_setTabbing(int nChain, int bTabbing);
 
+/** Moves the selection of a menu, description menu, dynamic menu or toolbar, or the cursor of a
+ * list, to the element at index nElement, from 0; a list shows it. No callback runs. Returns 0, -1
+ * for an unknown component, one without elements, or an index that has none. */
+KULGUI_API int kulgui_select(int nChain, int nRef, int nElement);
+
+/** With F the component is disabled: it is drawn in its nColorDisable (dim where there are no
+ * colours, else in parentheses), is passed over by the focus and gets no keys; one that has the
+ * focus loses it. T, the start, enables it. nEnable of the records is another thing: of a button or
+ * text box it says so too in edition 2, in edition 1 it is a colour alone. Returns 0, -1 for an
+ * unknown component or without memory. */
+KULGUI_API int kulgui_enable(int nChain, int nRef, int bEnable);
+
+/** Keeps a pointer of the program's for a component or item, or with KUL_DIALOG as nRef for the
+ * dialog; the library does nothing with it. kulgui_getUser gives it back, NULL where none was set.
+ * kulgui_setUser returns 0, -1 for an unknown chain or component or without memory. */
+KULGUI_API int kulgui_setUser(int nChain, int nRef, void* user);
+KULGUI_API void* kulgui_getUser(int nChain, int nRef);
+
+/** Has every key of a dialog come to onKey first, NULL for none; then hotkeys are looked for, then
+ * the component in focus gets it. In onKey kulgui_getKey says which key it is and kulgui_setKey
+ * gives the component another one, 0 for none. kulgui_getKey goes on to tell that key to the other
+ * callbacks that it leads to; before the first key it is 0. kulgui_setOnKey returns 0, -1 for an
+ * unknown chain or one without dialog; kulgui_setKey returns 0. */
+KULGUI_API int kulgui_setOnKey(int nChain, KULCALLBACK onKey);
+KULGUI_API int kulgui_getKey(void);
+KULGUI_API int kulgui_setKey(int nKey);
+
+/** Makes a key give the focus to a component from anywhere in its dialog, and click it if it is a
+ * button; 0 for no key. Letters are hotkeys as well, also where a text box would have taken them. A
+ * component that is hidden (edition 2) or disabled does not answer. Returns 0, -1 for an unknown
+ * component or without memory. */
+KULGUI_API int kulgui_setHotkey(int nChain, int nRef, int nKey);
+
+/* ---- Edition 2 ------------------------------------------------------------------------------ *
+ *
+ * kulgui_setEdition(2), before the terminal is opened, gives a program today's manners. A program
+ * that does not ask sees no difference. What differs:
+ *
+ *   Tab, Shift-Tab    to the next and the previous component, from every kind; hidden and disabled
+ *                     components are passed over. kulgui_setTabbing changes nothing.
+ *   Escape            leaves the dialog: kulgui_exec and the handlers return KUL_CANCELLED. With
+ *                     kulgui_setCancel it clicks that button instead.
+ *   Enter             in a component that does nothing with it (a text box, a menu or file viewer
+ *                     without onClick) clicks the button of kulgui_setDefault.
+ *   arrow keys        on a button go to the nearest button in that direction.
+ *   menus and lists   have no empty place; Home, End, PageUp and PageDown move as well; a letter
+ *                     goes to the next element that begins with it; disabled elements are passed
+ *                     over. A menu runs onSelect after a move, and at Enter its own onClick, then
+ *                     that of the element. Check lists end when they are hidden.
+ *   focus             a dialog whose component in focus is gone begins with its first one.
+ *   the cursor        of the terminal stands where the user is, for braille displays and screen
+ *                     readers.
+ *   colours           by default dialogs are black on white on a desktop of white on blue, the
+ *                     focus is white on blue, a text box without it black on cyan, and what is
+ *                     disabled blue on white. The line below the desktop's title has its colours.
+ */
+
+/** Says which button Enter clicks where the component in focus does nothing with it, and which one
+ * Escape; -1 for none, the start. The focus stays where it is while onClick runs, and the current
+ * selection names the button. One that is hidden or disabled is not clicked: Escape then leaves the
+ * dialog. The default button is marked by > and <. Edition 2 only: edition 1 keeps them for later.
+ * Return 0, -1 for an unknown chain, one without dialog, or an nRef that is no button. */
+KULGUI_API int kulgui_setDefault(int nChain, int nRef);
+KULGUI_API int kulgui_setCancel(int nChain, int nRef);
+
 /* ---- Buttons -------------------------------------------------------------------------------- *
  *
  *     ┌───────┐
@@ -467,6 +535,9 @@ KULGUI_API int kulmenu_remElement(int nChain, int nRef, int nSelection);
  * and negative ones give the element at 30. NULL for an unknown menu or when there is none. */
 KULGUI_API KULMENUELEMENT* kulmenu_getElement(int nChain, int nRef, int nElement);
 
+/** Number of its elements; -1 for an unknown menu. */
+KULGUI_API int kulmenu_count(int nChain, int nRef);
+
 /** Show or hide the component from the next drawing on. Always -1, also when all is well. */
 KULGUI_API int kulmenu_show(int nChain, int nRef);
 KULGUI_API int kulmenu_hide(int nChain, int nRef);
@@ -535,7 +606,11 @@ KULGUI_API KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElem
 KULGUI_API int kuldynmenu_show(int nChain, int nRef);
 KULGUI_API int kuldynmenu_hide(int nChain, int nRef);
 
-/** As kulmenu_execKeys; a hidden one gets the keys as well. */
+/** Number of its elements; -1 for an unknown dynamic menu. */
+KULGUI_API int kuldynmenu_count(int nChain, int nRef);
+
+/** As kulmenu_execKeys; a hidden one gets the keys as well, unless it is passed over: in edition 2
+ * and with kulgui_setTabbing. */
 KULGUI_API int kuldynmenu_execKeys(int nChain, int nRef);
 
 /* ---- Description menus ---------------------------------------------------------------------- *
@@ -606,6 +681,9 @@ KULGUI_API KULDESCRMENUELEMENT* kuldescrmenu_getElement(int nChain, int nRef, in
 /** Show or hide the component from the next drawing on. Always -1, also when all is well. */
 KULGUI_API int kuldescrmenu_show(int nChain, int nRef);
 KULGUI_API int kuldescrmenu_hide(int nChain, int nRef);
+
+/** Number of its elements; -1 for an unknown description menu. */
+KULGUI_API int kuldescrmenu_count(int nChain, int nRef);
 
 /** Gives a description menu the keys until it loses the focus, hidden or not. Returns 10 at once
  * when it is none; 10 or -10 when tabbing, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
@@ -688,6 +766,9 @@ KULGUI_API KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nBut
 /** Show or hide the component from the next drawing on. Always -1, also when all is well. */
 KULGUI_API int kultoolbar_show(int nChain, int nRef);
 KULGUI_API int kultoolbar_hide(int nChain, int nRef);
+
+/** Number of its buttons; -1 for an unknown toolbar. */
+KULGUI_API int kultoolbar_count(int nChain, int nRef);
 
 /** Gives a toolbar the keys until it loses the focus. An arrow key looks at 30 buttons at most for
  * an enabled one. Returns 10 after Tab and when it is hidden, -10 after Escape; -1 when it is no
@@ -871,6 +952,17 @@ KULGUI_API int kulcheckbox_getFocus(int nChain, int nRef);
 KULGUI_API int kulcheckbox_show(int nChain, int nRef);
 KULGUI_API int kulcheckbox_hide(int nChain, int nRef);
 
+/** Whether the element at an index from 0 is checked: 1, or 0 when it is not; -1 for an unknown
+ * list or when there is none. */
+KULGUI_API int kulcheckbox_isChecked(int nChain, int nRef, int nElement);
+
+/** Checks the element at an index from 0 with T, unchecks it with F; no callback runs. Returns 0,
+ * -1 for an unknown list or when there is none. */
+KULGUI_API int kulcheckbox_check(int nChain, int nRef, int nElement, int bChecked);
+
+/** Number of its elements; -1 for an unknown list. */
+KULGUI_API int kulcheckbox_count(int nChain, int nRef);
+
 /** Gives a list the keys until it loses the focus; one that a callback hides goes on unseen. Space
  * and Enter check any element, also those that setSelect cannot name. Returns 10 after Tab and -10
  * after Escape, 10 at once when it is hidden, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
@@ -968,6 +1060,16 @@ KULGUI_API int kuloptions_getSelected(int nChain, int nRef);
 /** Show or hide the list from the next drawing on. Always -1, also when all is well. */
 KULGUI_API int kuloptions_show(int nChain, int nRef);
 KULGUI_API int kuloptions_hide(int nChain, int nRef);
+
+/** Index from 0 of the chosen element; -1 for an unknown list or while none is. */
+KULGUI_API int kuloptions_getChosen(int nChain, int nRef);
+
+/** Chooses the element at an index from 0; no callback runs. Returns 0, -1 for an unknown list or
+ * when there is none. */
+KULGUI_API int kuloptions_choose(int nChain, int nRef, int nElement);
+
+/** Number of its elements; -1 for an unknown list. */
+KULGUI_API int kuloptions_count(int nChain, int nRef);
 
 /** As kulcheckbox_execKeys, but Space and Enter choose an element. Returns -1 at once when the list
  * is hidden, unknown or no option list, and 0 when a callback hides it. */

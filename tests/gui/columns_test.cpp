@@ -33,7 +33,9 @@ TEST(Columns, KnowLettersMarksAndWhatCannotBeShown)
         {"C.UTF-8", "\n\u0301\x7f\u0301", L"11\n 21? 11\x7f 21? "},
         {"C.UTF-8", "\u200b\u0301", L"30 21? "},
         {"C.UTF-8", "\ufeffa\u00adb\u200d\u0301", L"30 31a 61b\u0301 "},
-        {"C.UTF-8", "1\ufe0f\u20e3", L"71""1\u20e3 "},
+        {"C.UTF-8", "1\ufe0f\u20e3",
+         L"71"
+         "1\u20e3 "},
         {"C.UTF-8", "\u0085\u009b\u202e\u2066\u200f\u061c\u2028", L"21? 21? 31? 31? 31? 21? 31? "},
         {"C.UTF-8", "\xc2\xe4\xff\u0301\xed\xa0\x80\xe4\xb8", L"11? 11? 11? 21? 11? 11? 11? 11? 11? "},
         {"C", "a\xc3\x9f\x9b", L"11a 11? 11? 11? "},

@@ -11,6 +11,7 @@
 #include <climits>
 
 #include "frame.hpp"
+#include "marks.hpp"
 #include "memory.hpp"
 #include "screen.hpp"
 
@@ -103,11 +104,19 @@ Dialog* findDialog(int nChain)
     return chain ? static_cast<Dialog*>(chain->Pointer) : nullptr;
 }
 
+Dialog* findDialog(const GUI* thisGUI)
+{
+    CHAIN* chain = Primary;
+    while (chain && chain->Pointer != thisGUI)
+        chain = nextChain(chain);
+    return chain ? static_cast<Dialog*>(chain->Pointer) : nullptr;
+}
+
 Dialog* newDialog(CHAIN* thisChain)
 {
     Dialog* dialog = allocate<Dialog>();
     if (dialog) {
-        dialog->nCurrentUI = -1;
+        dialog->nCurrentUI = dialog->nDefault = dialog->nCancel = -1;
         thisChain->Pointer = dialog;
     }
     return dialog;
@@ -115,6 +124,9 @@ Dialog* newDialog(CHAIN* thisChain)
 
 void emptyDialog(GUI* thisGUI)
 {
+    auto* dialog = static_cast<Dialog*>(thisGUI);
+    dialog->nDefault = dialog->nCancel = -1;
+    freeMarks(*dialog);
     DI* items = thisGUI->Display;
     UI* components = thisGUI->UserInterface;
     thisGUI->Display = nullptr;

@@ -13,7 +13,10 @@ namespace kul {
 struct Requests {
     bool leaving;   // it shall end
     bool refocused; // its handler shall return to it
+    bool pressed;   // the button that has the focus then shall be clicked
 };
+
+struct Mark;
 
 // A dialog as it is allocated: the public record and what steers its loop.
 struct Dialog : GUI {
@@ -21,10 +24,18 @@ struct Dialog : GUI {
     Requests asked; // of the loop that runs now, the innermost one
     bool polled;    // in the poll pass that runs now
     bool due;       // to be drawn at its end
+    int nDefault;   // number of the button for Enter, -1 for none
+    int nCancel;    // and for Escape
+    KULCALLBACK onKey;
+    void* user;
+    Mark* marks;
 };
 
 // The dialog of a chain; null for an unknown chain or one without.
 Dialog* findDialog(int nChain);
+
+// The dialog that a record is; null for a record of the program's own.
+Dialog* findDialog(const GUI* thisGUI);
 
 // Gives a chain a new dialog record, cleared and without focus. Null without memory.
 Dialog* newDialog(CHAIN* thisChain);

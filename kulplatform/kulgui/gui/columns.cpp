@@ -97,7 +97,7 @@ Letter decodeLetter(std::string_view rest, int nWidth)
         return {head.nBytes, 1, {kStandIn}};
     if (head.kind != Kind::Letter)
         return letter;
-    for (int nShown = 1; letter.nBytes < rest.size(); ) {
+    for (int nShown = 1; letter.nBytes < rest.size();) {
         const char* behind = rest.data() + letter.nBytes;
         if (isAscii(*behind))
             break;

@@ -7,8 +7,15 @@
 
 namespace {
 
-constexpr int kNoMark = -1;
-int nMarked = kNoMark;
+int nMarked = kul::FocusMark::kNone;
+
+struct Disabled {
+    bool shown;
+    int nColorSet;
+    int nShownAs;
+};
+
+Disabled disabled;
 
 using Run = void (*)(WINDOW*, int, int, long long, chtype);
 
@@ -41,9 +48,12 @@ void fillReversed(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nCol
 
 namespace kul {
 
-Attribute::Attribute(WINDOW* win, int nColorSet)
-    : win_(win), attribute_(static_cast<attr_t>(rawAttribute(nColorSet)))
+Attribute::Attribute(WINDOW* win, int nColorSet) : win_(win)
 {
+    const bool instead = disabled.shown && nColorSet == disabled.nColorSet;
+    attribute_ = static_cast<attr_t>(rawAttribute(instead ? disabled.nShownAs : nColorSet));
+    if (instead && !has_colors() && !needsParentheses())
+        attribute_ |= A_DIM;
     if (nColorSet == nMarked)
         attribute_ |= A_REVERSE;
     wattr_on(win_, attribute_, nullptr);
@@ -56,12 +66,27 @@ Attribute::~Attribute()
 
 FocusMark::FocusMark(int nColorSet)
 {
-    nMarked = has_colors() ? kNoMark : nColorSet;
+    nMarked = has_colors() ? kNone : nColorSet;
 }
 
 FocusMark::~FocusMark()
 {
-    nMarked = kNoMark;
+    nMarked = kNone;
+}
+
+DisabledMark::DisabledMark(int nColorSet, int nShownAs)
+{
+    disabled = {true, nColorSet, nShownAs};
+}
+
+DisabledMark::~DisabledMark()
+{
+    disabled.shown = false;
+}
+
+bool needsParentheses()
+{
+    return !has_colors() && !(termattrs() & A_DIM);
 }
 
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)

@@ -44,11 +44,25 @@ private:
 // On a terminal without colours, shows one colour set in reverse video: the focus must be seen.
 class FocusMark {
 public:
+    static constexpr int kNone = -1;
     explicit FocusMark(int nColorSet);
     ~FocusMark();
     FocusMark(const FocusMark&) = delete;
     FocusMark& operator=(const FocusMark&) = delete;
 };
+
+// While it lives, one colour set shows as another, that of what is disabled; dim on a terminal
+// without colours.
+class DisabledMark {
+public:
+    DisabledMark(int nColorSet, int nShownAs);
+    ~DisabledMark();
+    DisabledMark(const DisabledMark&) = delete;
+    DisabledMark& operator=(const DisabledMark&) = delete;
+};
+
+// Whether the terminal can show what is disabled neither in a colour nor dim.
+bool needsParentheses();
 
 // Draws nCount cells to the right or down; those outside of the window are skipped.
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);

@@ -8,9 +8,24 @@
 
 #include "chain.hpp"
 #include "draw.hpp"
+#include "edition.hpp"
 #include "screen.hpp"
 
 namespace {
+
+struct DefaultColors {
+    int nStandard;
+    int nFocus;
+    int nUnfocus;
+    int nDisable;
+};
+
+// By edition, of the primary dialog and of the others.
+constexpr DefaultColors kDefaultColors[2][2] = {
+    {{BLACK_WHITE, CYAN_BLUE, BLUE_WHITE, CYAN_WHITE},
+     {RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN}},
+    {{WHITE_BLUE, WHITE_BLUE, BLACK_WHITE, BLUE_WHITE},
+     {BLACK_WHITE, WHITE_BLUE, BLACK_WHITE, BLUE_WHITE}}};
 
 constexpr int kShadowPair = GREEN_YELLOW;
 
@@ -122,10 +137,11 @@ int LoadGUIDefaults(GUI* thisGUI)
             return -1;
         thisGUI->szLangFile = primeGUI->szLangFile;
     }
-    thisGUI->nColorStandard = prime ? BLACK_WHITE : RED_BLUE;
-    thisGUI->nColorFocus = prime ? CYAN_BLUE : RED_MAGENTA;
-    thisGUI->nColorUnfocus = prime ? BLUE_WHITE : RED_WHITE;
-    thisGUI->nColorDisable = prime ? CYAN_WHITE : RED_CYAN;
+    const DefaultColors& colors = kDefaultColors[kul::isEdition2() ? 1 : 0][prime ? 0 : 1];
+    thisGUI->nColorStandard = colors.nStandard;
+    thisGUI->nColorFocus = colors.nFocus;
+    thisGUI->nColorUnfocus = colors.nUnfocus;
+    thisGUI->nColorDisable = colors.nDisable;
     thisGUI->nBorder = prime ? NOBORDER : BORDER;
     thisGUI->nVisible = prime ? F : T;
     thisGUI->szTitle = nullptr;
@@ -234,7 +250,10 @@ void BackgroundDisplay(CHAIN* thisChain)
     gui->nHeight = GetWindowHeight(stdscr);
     WinFill(stdscr, gui->nColorStandard);
     printTitle(stdscr, 0, gui->nColorStandard, gui->szTitle ? gui->szTitle : "");
-    // The line takes the finished attribute for a colour set and makes an attribute of it once
-    // more: it shows underlining and the like, as the number of the set has it, and no colour.
-    DrawHLine(stdscr, 1, 0, gui->nWidth - 1, kul::rawAttribute(gui->nColorStandard));
+    // In edition 1 the line takes the finished attribute for a colour set and makes an attribute of
+    // it once more: it shows underlining and the like, as the number of the set has it, and no
+    // colour.
+    const int nLine =
+        kul::isEdition2() ? gui->nColorStandard : kul::rawAttribute(gui->nColorStandard);
+    DrawHLine(stdscr, 1, 0, gui->nWidth - 1, nLine);
 }

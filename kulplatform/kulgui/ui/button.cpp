@@ -5,18 +5,11 @@
 #include "button.hpp"
 
 #include "../gui/draw.hpp"
+#include "../gui/edition.hpp"
 #include "../gui/screen.hpp"
 #include "handler.hpp"
 
 namespace {
-
-constexpr int kButtonHeight = 3;
-
-// The column where the text begins.
-int textColumn(int nX, int nWidth, const char* szText)
-{
-    return kul::shifted(nX, Offset(nWidth, kul::length(szText)));
-}
 
 // What the config calls of the variants do.
 int resetButton(int nChain, int nRef)
@@ -24,9 +17,64 @@ int resetButton(int nChain, int nRef)
     return kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON) ? 0 : -1;
 }
 
+// How far a button is from another one in the direction of an arrow key, along the rows and columns
+// and more so across them; -1 when it does not lie there.
+int distance(const KULBUTTON& from, const KULBUTTON& to, int nKey)
+{
+    const bool lateral = nKey == KS_LEFT || nKey == KS_RIGHT;
+    const bool back = nKey == KS_LEFT || nKey == KS_UP;
+    const auto gap = [=](const KULBUTTON& first, const KULBUTTON& second) {
+        return lateral ? second.nX - 0LL - first.nX - first.nWidth
+                       : second.nY - 0LL - first.nY - kul::kButtonHeight;
+    };
+    const long long along = back ? gap(to, from) : gap(from, to);
+    const long long across = std::abs(lateral ? to.nY - 0LL - from.nY : to.nX - 0LL - from.nX);
+    return along < 0 ? -1 : kul::shifted(0, along + (lateral ? 8 : 1) * across);
+}
+
+// Moves the focus to the nearest button in the direction of an arrow key, if there is one.
+void goToNearest(const CURRENT& at, int nKey)
+{
+    const kul::Dialog& dialog = *kul::findDialog(at.nChain);
+    const auto* from = kul::findUI<KULBUTTON>(at.nChain, at.nUserInterface, BUTTON);
+    const UI* nearest = nullptr;
+    int nNearest = -1;
+    for (const UI* ui = from ? dialog.UserInterface : nullptr; ui; ui = ui->Next) {
+        if (ui->nType != BUTTON || ui->Pointer == from || !kul::takesFocus(dialog, *ui))
+            continue;
+        const int nDistance = distance(*from, *static_cast<KULBUTTON*>(ui->Pointer), nKey);
+        if (nDistance >= 0 && (nNearest < 0 || nDistance < nNearest)) {
+            nearest = ui;
+            nNearest = nDistance;
+        }
+    }
+    if (nearest)
+        kulgui_setFocus(at.nChain, nearest->nRef);
+}
+
+bool isArrow(int nKey)
+{
+    return nKey >= KS_LEFT && nKey <= KS_RIGHT;
+}
+
 } // namespace
 
 namespace kul {
+
+int textColumn(int nX, int nWidth, const char* szText)
+{
+    return shifted(nX, Offset(nWidth, length(szText)));
+}
+
+void markDefault(const GUI& gui, const KULBUTTON& button, bool focused)
+{
+    if (button.nVisible != T || button.nWidth < 4)
+        return;
+    const int nY = shifted(button.nY, 1);
+    const Attribute color(gui.winMain, focused ? button.nColorFocus : button.nColorUnfocus);
+    hRun(gui.winMain, nY, shifted(button.nX, 1), 1, '>');
+    hRun(gui.winMain, nY, shifted(button.nX, button.nWidth - 2LL), 1, '<');
+}
 
 void dropButton(KULBUTTON& button)
 {
@@ -105,21 +153,22 @@ void ShowButtonComponent(GUI* thisGUI, KULBUTTON* thisButton, int nFocus)
         return;
     const int nResting =
         thisButton->nEnable == 1 ? thisButton->nColorUnfocus : thisButton->nColorDisable;
-    DrawButton(thisGUI->winMain, thisButton->nY, thisButton->nX, kButtonHeight, thisButton->nWidth,
-               nFocus == 1 ? thisButton->nColorFocus : nResting, thisButton->szText);
+    DrawButton(thisGUI->winMain, thisButton->nY, thisButton->nX, kul::kButtonHeight,
+               thisButton->nWidth, nFocus == 1 ? thisButton->nColorFocus : nResting,
+               thisButton->szText);
     const char* szText = thisButton->szText ? thisButton->szText : "";
     if (nFocus == 1)
         kul::showCursorAt(thisGUI->winMain, kul::shifted(thisButton->nY, 1),
-                          textColumn(thisButton->nX, thisButton->nWidth, szText));
+                          kul::textColumn(thisButton->nX, thisButton->nWidth, szText));
 }
 
 void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, const char* szName)
 {
     const char* szText = szName ? szName : "";
-    DrawBorder(win, nY, nX, kButtonHeight, nWidth, nColorSet);
+    DrawBorder(win, nY, nX, kul::kButtonHeight, nWidth, nColorSet);
     const kul::Attribute color(win, nColorSet);
     kul::hRun(win, kul::shifted(nY, 1), kul::shifted(nX, 1), nWidth - 2LL, ' ');
-    kul::print(win, kul::shifted(nY, 1), textColumn(nX, nWidth, szText), szText);
+    kul::print(win, kul::shifted(nY, 1), kul::textColumn(nX, nWidth, szText), szText);
 }
 
 int kulbutton_execKeys(int nChain, int nRef)
@@ -133,6 +182,8 @@ int kulbutton_execKeys(int nChain, int nRef)
     while (const int nKey = handler.key()) {
         if (nKey == KS_ENTER)
             handler.call(&KULBUTTON::onClick);
+        else if (kul::isEdition2() && isArrow(nKey))
+            goToNearest(handler.selection, nKey);
         handler.show();
     }
     return handler.finish(&KULBUTTON::onUnfocus);

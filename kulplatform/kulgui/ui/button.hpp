@@ -6,6 +6,14 @@
 
 namespace kul {
 
+constexpr int kButtonHeight = 3;
+
+// The column at which a button's text begins.
+int textColumn(int nX, int nWidth, const char* szText);
+
+// Draws what tells the dialog's default button.
+void markDefault(const GUI& gui, const KULBUTTON& button, bool focused);
+
 void dropButton(KULBUTTON& button);
 
 } // namespace kul

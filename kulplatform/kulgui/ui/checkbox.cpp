@@ -12,6 +12,13 @@ void toggle(KULCHECKELEMENT& element)
     element.nSelect = element.nSelect != 0 ? 0 : 1;
 }
 
+// The element at an index of a list of any length; null for none.
+KULCHECKELEMENT* anyElement(int nChain, int nRef, int nElement)
+{
+    auto* list = kul::findUI<kul::CheckList>(nChain, nRef, CHECKBOX);
+    return list ? kul::elementsOf(*list)(nElement) : nullptr;
+}
+
 // The element of a public call that changes or reads one; null when it cannot be named by it.
 KULCHECKELEMENT* findElement(int nChain, int nRef, int nElement)
 {
@@ -22,8 +29,11 @@ KULCHECKELEMENT* findElement(int nChain, int nRef, int nElement)
 void click(Handler& handler)
 {
     kul::CheckList* list = handler.record();
-    if (auto* element = list ? kul::cursorElement(*list) : nullptr)
+    if (auto* element = list ? kul::cursorElement(*list) : nullptr) {
+        if (!kul::isUsable(*element))
+            return;
         toggle(*element);
+    }
     handler.call(&KULCHECKBOX::onClick);
 }
 
@@ -153,6 +163,26 @@ int kulcheckbox_getSelect(int nChain, int nRef, int nElement)
     return element ? element->nSelect : -1;
 }
 
+int kulcheckbox_isChecked(int nChain, int nRef, int nElement)
+{
+    const KULCHECKELEMENT* element = anyElement(nChain, nRef, nElement);
+    return element ? element->nSelect == 1 : -1;
+}
+
+int kulcheckbox_check(int nChain, int nRef, int nElement, int bChecked)
+{
+    KULCHECKELEMENT* element = anyElement(nChain, nRef, nElement);
+    if (!element)
+        return -1;
+    element->nSelect = bChecked == T ? 1 : 0;
+    return 0;
+}
+
+int kulcheckbox_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::CheckList>(nChain, nRef, CHECKBOX);
+}
+
 int kulcheckbox_getFocus(int nChain, int nRef)
 {
     return kul::isSelected(nChain, nRef, CHECKBOX) ? GetCurrentSelection()->nSelect : -1;
@@ -182,5 +212,5 @@ int kulcheckbox_execKeys(int nChain, int nRef)
         return -10000;
     if (list->nVisible != T)
         return 10;
-    return kul::runList<KULCHECKBOX>(nChain, nRef, {CHECKBOX, false, click, moved});
+    return kul::runList<KULCHECKBOX>(nChain, nRef, {CHECKBOX, kul::isEdition2(), click, moved});
 }

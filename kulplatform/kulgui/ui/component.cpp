@@ -4,8 +4,9 @@
 // freeing them by the table of their kinds.
 #include "component.hpp"
 
-#include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
+#include "../gui/edition.hpp"
+#include "../gui/marks.hpp"
 #include "button.hpp"
 #include "descrmenu.hpp"
 #include "dynmenu.hpp"
@@ -19,26 +20,28 @@ namespace {
 
 // In the order of UI_TYPE; a kind that is not offered has an empty row.
 constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
-    kul::uiRow<KULMENU, ConfigMenuComponent, ShowMenuComponent, kul::dropMenu, WipeMenuComponent,
-               kulmenu_execKeys>(-10018, true, false),
+    kul::uiRow<kul::Menu, ConfigMenuComponent, ShowMenuComponent, kul::dropMenu, WipeMenuComponent,
+               kulmenu_execKeys>({.nTaken = -10018, .keepsTab = true}),
     kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, ShowDynmenuComponent, kul::dropDynmenu,
-               WipeDynmenuComponent, kuldynmenu_execKeys>(-10021, true, false),
+               WipeDynmenuComponent, kuldynmenu_execKeys>({.nTaken = -10021, .keepsTab = true}),
     kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, ShowDescrmenuComponent, kul::dropDescrmenu,
-               WipeDescrmenuComponent, kuldescrmenu_execKeys>(-10020, true, false),
+               WipeDescrmenuComponent, kuldescrmenu_execKeys>({.nTaken = -10020, .keepsTab = true}),
     kul::uiRow<KULBUTTON, ConfigButtonComponent, ShowButtonComponent, kul::dropButton,
-               WipeButtonComponent, kulbutton_execKeys>(-10022, true, false),
+               WipeButtonComponent, kulbutton_execKeys>(
+        {.nTaken = -10022, .keepsTab = true, .ownsEnter = true, .hasEnable = true}),
     kul::uiRow<kul::Toolbar, ConfigToolbarComponent, ShowToolbarComponent, kul::dropToolbar,
-               WipeToolbarComponent, kultoolbar_execKeys>(-10027, false, false),
+               WipeToolbarComponent, kultoolbar_execKeys>({.nTaken = -10027, .ownsEnter = true}),
     kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent,
                kul::dropRing<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
-        -10023, false, true),
+        {.nTaken = -10023, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent,
-               kul::dropRing<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(-10024, false,
-                                                                                     true),
+               kul::dropRing<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(
+        {.nTaken = -10024, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
-               WipeFileviewComponent, kulfileview_execKeys>(-10025, false, false),
+               WipeFileviewComponent, kulfileview_execKeys>({.nTaken = -10025}),
     kul::uiRow<KULTEXTBOX, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
-               WipeTextboxComponent, kultextbox_execKeys>(-10026, false, true),
+               WipeTextboxComponent, kultextbox_execKeys>(
+        {.nTaken = -10026, .startsSet = true, .hasEnable = true}),
 };
 
 // The records that the library keeps more in than the public one shows. A dialog has few of them,
@@ -62,6 +65,47 @@ Known* findKnown(const void* record)
         return knownRecords = known;
     }
     return nullptr;
+}
+
+// Puts a disabled component between parentheses, where the terminal has nothing else to tell it.
+void drawParentheses(WINDOW* win, const kul::Area& area, int nColor)
+{
+    const int nOutside = area.framed ? 0 : 1;
+    const int nY = kul::shifted(area.nY, area.framed ? 1 : 0);
+    const kul::Attribute color(win, nColor);
+    kul::hRun(win, nY, kul::shifted(area.nX, -nOutside), 1, '(');
+    if (area.nWidth > 0)
+        kul::hRun(win, nY, kul::shifted(area.nX, area.nWidth - 1LL + nOutside), 1, ')');
+}
+
+void showDisabled(GUI* gui, const kul::UIKind& kind, void* record)
+{
+    const int nColor = kind.disableColor(record);
+    {
+        const kul::DisabledMark mark(kind.unfocusColor(record), nColor);
+        kind.show(gui, record, 0);
+    }
+    if (kul::needsParentheses() && kind.visible(record) == T)
+        drawParentheses(gui->winMain, kind.area(record), nColor);
+}
+
+void show(GUI* gui, UI* ui, bool focused)
+{
+    const kul::UIKind* kind = gui && ui ? kul::uiKind(ui->nType) : nullptr;
+    if (!kind || !ui->Pointer)
+        return;
+    const kul::Dialog* dialog = kul::findDialog(gui);
+    if (dialog && kul::isDisabled(*dialog, *ui)) {
+        showDisabled(gui, *kind, ui->Pointer);
+        return;
+    }
+    {
+        const int nColor = focused ? kind->focusColor(ui->Pointer) : kul::FocusMark::kNone;
+        const kul::FocusMark mark(nColor);
+        kind->show(gui, ui->Pointer, focused ? 1 : 0);
+    }
+    if (dialog && ui->nType == BUTTON && ui->nRef == dialog->nDefault)
+        kul::markDefault(*gui, *static_cast<KULBUTTON*>(ui->Pointer), focused);
 }
 
 } // namespace
@@ -109,6 +153,54 @@ void* findUIRecord(int nChain, int nRef, UI_TYPE type)
     return kUIKinds[type].inner && !isInner(ui->Pointer) ? nullptr : ui->Pointer;
 }
 
+bool isDisabled(const Dialog& dialog, const UI& ui)
+{
+    const Mark* mark = findMark(dialog, ui.nRef);
+    if (mark && mark->disabled)
+        return true;
+    const UIKind* kind = uiKind(ui.nType);
+    return isEdition2() && kind && ui.Pointer && kind->traits.hasEnable &&
+           !kind->enabled(ui.Pointer);
+}
+
+bool takesFocus(const Dialog& dialog, const UI& ui)
+{
+    const UIKind* kind = uiKind(ui.nType);
+    const bool seen = !isEdition2() || !kind || !ui.Pointer || kind->visible(ui.Pointer) == T;
+    return seen && !isDisabled(dialog, ui);
+}
+
+Area areaOf(const KULMENU& menu)
+{
+    return {menu.nX, menu.nY, 0, 1, false};
+}
+
+Area areaOf(const KULDYNMENU& menu)
+{
+    return {menu.nX, menu.nY, shifted(menu.nWidth, 2), shifted(menu.nHeight, 2), true};
+}
+
+Area areaOf(const KULDESCRMENU& menu)
+{
+    return {menu.nX, menu.nY, menu.nBarLength, 1, false};
+}
+
+Area areaOf(const KULBUTTON& button)
+{
+    return {button.nX, button.nY, button.nWidth, kButtonHeight, true};
+}
+
+Area areaOf(const KULTOOLBAR& toolbar)
+{
+    const int nLength = shifted(toolbar.nMaxLength, 2);
+    const long long nMore = std::max(toolbar.nButtons, 1) - 1LL;
+    if (toolbar.nOrient == LATERAL)
+        return {toolbar.nX, toolbar.nY, shifted(nLength, nMore * (nLength + 1LL)), kButtonHeight,
+                true};
+    return {toolbar.nX, toolbar.nY, nLength, shifted(kButtonHeight, nMore * (kButtonHeight + 1)),
+            true};
+}
+
 bool isSelected(int nChain, int nRef, UI_TYPE type)
 {
     const CURRENT& current = *GetCurrentSelection();
@@ -118,14 +210,14 @@ bool isSelected(int nChain, int nRef, UI_TYPE type)
 int createUI(int nChain, int nRef, UI_TYPE type)
 {
     if (CheckUICompExistence(nChain, nRef) != -1)
-        return kUIKinds[type].nTaken;
+        return kUIKinds[type].traits.nTaken;
     return CreateUIComponent(nChain, type, nRef);
 }
 
 int attachUI(GUI& gui, UI& ui, int nType)
 {
     const int nResult = AttachComponentToUI(&ui, nType);
-    if (nResult == 0 && kUIKinds[nType].startsSet) {
+    if (nResult == 0 && kUIKinds[nType].traits.startsSet) {
         ui.nUpdate = 1;
         kUIKinds[nType].config(&gui, ui.Pointer);
     }
@@ -168,11 +260,12 @@ int SetUIVisibility(int nChain, int nRef, int nVisible)
     return -1;
 }
 
+// Edition 1 takes the number of what has the focus for its place in the list.
 void ShowUIComponents(GUI* thisGUI)
 {
     int nPosition = 0;
-    for (UI* ui = thisGUI ? thisGUI->UserInterface : nullptr; ui; ui = ui->Next) {
-        if (nPosition++ == thisGUI->nCurrentUI)
+    for (UI* ui = thisGUI ? thisGUI->UserInterface : nullptr; ui; ui = ui->Next, ++nPosition) {
+        if ((kul::isEdition2() ? ui->nRef : nPosition) == thisGUI->nCurrentUI)
             ShowUIComponentFocused(thisGUI, ui);
         else
             ShowUIComponentUnfocused(thisGUI, ui);
@@ -181,18 +274,12 @@ void ShowUIComponents(GUI* thisGUI)
 
 void ShowUIComponentFocused(GUI* thisGUI, UI* thisUI)
 {
-    const kul::UIKind* kind = thisGUI && thisUI ? kul::uiKind(thisUI->nType) : nullptr;
-    if (!kind || !thisUI->Pointer)
-        return;
-    const kul::FocusMark mark(kind->focusColor(thisUI->Pointer));
-    kind->show(thisGUI, thisUI->Pointer, 1);
+    show(thisGUI, thisUI, true);
 }
 
 void ShowUIComponentUnfocused(GUI* thisGUI, UI* thisUI)
 {
-    const kul::UIKind* kind = thisGUI && thisUI ? kul::uiKind(thisUI->nType) : nullptr;
-    if (kind && thisUI->Pointer)
-        kind->show(thisGUI, thisUI->Pointer, 0);
+    show(thisGUI, thisUI, false);
 }
 
 int WipeAllUIComponents(UI* firstUI)
@@ -208,4 +295,14 @@ int WipeAllUIComponents(UI* firstUI)
         firstUI = next;
     }
     return nResult;
+}
+
+int kulgui_select(int nChain, int nRef, int nElement)
+{
+    const UI* ui = GetUIComponentByRef(nChain, nRef);
+    const kul::UIKind* kind = ui ? kul::uiKind(ui->nType) : nullptr;
+    void* record = kind && kind->select
+                       ? kul::findUIRecord(nChain, nRef, static_cast<UI_TYPE>(ui->nType))
+                       : nullptr;
+    return record && kind->select(record, nElement) ? 0 : -1;
 }

@@ -7,6 +7,7 @@
 #include <concepts>
 #include <cstddef>
 
+#include "../gui/chain.hpp"
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
 
@@ -45,10 +46,35 @@ Record* innerOf(typename Record::Public* record)
     return isInner(record) ? static_cast<Record*>(record) : nullptr;
 }
 
+// Where a component is in its dialog's window. Menus go on to the right as far as they have texts.
+struct Area {
+    int nX, nY, nWidth, nHeight;
+    bool framed;
+};
+
+template <typename Record>
+Area areaOf(const Record& box)
+{
+    return {box.nX, box.nY, box.nWidth, box.nHeight, box.nBorder == BORDER};
+}
+
+Area areaOf(const KULMENU& menu);
+Area areaOf(const KULDYNMENU& menu);
+Area areaOf(const KULDESCRMENU& menu);
+Area areaOf(const KULBUTTON& button);
+Area areaOf(const KULTOOLBAR& toolbar);
+
+// What the kinds differ in without a function of their own.
+struct UITraits {
+    int nTaken;             // code for a number that is in use
+    bool keepsTab = false;  // leaves by Tab and Escape only where tabbing is on
+    bool startsSet = false; // has its defaults before its config call
+    bool ownsEnter = false; // does something at Enter, callback or not
+    bool hasEnable = false; // nEnable of its record says whether it can be used
+};
+
 struct UIKind {
-    int nTaken;                            // code for a number that is in use
-    bool keepsTab;                         // leaves by Tab and Escape only where tabbing is on
-    bool startsSet;                        // has its defaults before its config call
+    UITraits traits;
     bool inner;                            // its own records are Inner
     void* (*allocate)();                   // a cleared record
     int (*config)(GUI*, void*);            // sets the defaults
@@ -57,18 +83,28 @@ struct UIKind {
     int (*wipe)(void*);                    // the same, and the record
     int (*execKeys)(int nChain, int nRef); // runs it
     int& (*visible)(void*);                // nVisible of the record
-    int (*focusColor)(void*);              // nColorFocus of the record
+    bool (*enabled)(void*);                // by the record
+    bool (*clickable)(void*);              // something happens at Enter
+    Area (*area)(void*);
+    int (*focusColor)(void*); // nColorFocus of the record
+    int (*unfocusColor)(void*);
+    int (*disableColor)(void*);
+    bool (*select)(void*, int nElement);   // moves the selection; null for kinds without elements
+    bool (*accepts)(int nChain, int nRef); // whether the user may go on from it; null for always
 };
 
 // A row of the table from the functions of a kind, which take its public record.
 template <typename Record, auto Config, auto Show, auto Drop, auto Wipe, auto ExecKeys>
-constexpr UIKind uiRow(int nTaken, bool keepsTab, bool startsSet)
+constexpr UIKind uiRow(UITraits traits, bool (*accepts)(int, int) = nullptr)
 {
     using Public = typename PublicOf<Record>::Type;
+    bool (*select)(void*, int) = nullptr;
+    if constexpr (requires(Record & record) { selectElement(record, 0); })
+        select = [](void* record, int nElement) {
+            return selectElement(*static_cast<Record*>(record), nElement);
+        };
     return {
-        nTaken,
-        keepsTab,
-        startsSet,
+        traits,
         Inner<Record>,
         []() -> void* { return Inner<Record> ? newInner(sizeof(Record)) : allocate<Record>(); },
         [](GUI* gui, void* record) { return Config(gui, static_cast<Public*>(record)); },
@@ -77,7 +113,24 @@ constexpr UIKind uiRow(int nTaken, bool keepsTab, bool startsSet)
         [](void* record) { return Wipe(static_cast<Public*>(record)); },
         ExecKeys,
         [](void* record) -> int& { return static_cast<Public*>(record)->nVisible; },
-        [](void* record) { return static_cast<Public*>(record)->nColorFocus; }};
+        [](void* record) {
+            if constexpr (requires(Public * p) { p->nEnable; })
+                return static_cast<Public*>(record)->nEnable == 1;
+            return true;
+        },
+        [](void* record) {
+            if constexpr (requires(Record & own) { isClickable(own); })
+                return isClickable(*static_cast<Record*>(record));
+            else if constexpr (requires(Public * p) { p->onClick; })
+                return static_cast<Public*>(record)->onClick != nullptr;
+            return false;
+        },
+        [](void* record) { return areaOf(*static_cast<Public*>(record)); },
+        [](void* record) { return static_cast<Public*>(record)->nColorFocus; },
+        [](void* record) { return static_cast<Public*>(record)->nColorUnfocus; },
+        [](void* record) { return static_cast<Public*>(record)->nColorDisable; },
+        select,
+        accepts};
 }
 
 // The row of a kind; null for a number that is none.
@@ -93,6 +146,10 @@ Record* findUI(int nChain, int nRef, UI_TYPE type)
     return static_cast<Record*>(findUIRecord(nChain, nRef, type));
 }
 
+// Whether a component can be used by its user, and whether a loop may give it the keys.
+bool isDisabled(const Dialog& dialog, const UI& ui);
+bool takesFocus(const Dialog& dialog, const UI& ui);
+
 // What every kul<kind>_config begins with: the record, empty and with its defaults. Null when there
 // is none or it is of another kind.
 template <typename Record>
@@ -100,6 +157,14 @@ Record* resetUI(int nChain, int nRef, UI_TYPE type)
 {
     auto* record = findUI<Record>(nChain, nRef, type);
     return record && ConfigUIComponent(nChain, nRef) >= 0 ? record : nullptr;
+}
+
+// What the count calls of the kinds with elements do: their number, -1 for an unknown component.
+template <typename Record>
+int countUI(int nChain, int nRef, UI_TYPE type)
+{
+    auto* record = findUI<Record>(nChain, nRef, type);
+    return record ? countElements(*record) : -1;
 }
 
 // Whether the current selection names this component.

@@ -150,6 +150,11 @@ KULDESCRMENUELEMENT* kuldescrmenu_getElement(int nChain, int nRef, int nElement)
     return menu ? kul::cappedLookup(menu->Element, nElement) : nullptr;
 }
 
+int kuldescrmenu_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::DescrMenu>(nChain, nRef, DESCRMENU);
+}
+
 // The record may be the program's own, that remembers no place.
 void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus)
 {
@@ -161,5 +166,5 @@ void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus)
 
 int kuldescrmenu_execKeys(int nChain, int nRef)
 {
-    return kul::runMenu<KULDESCRMENU>(nChain, nRef, kDescrmenuKeys);
+    return kul::runMenu<kul::DescrMenu>(nChain, nRef, kDescrmenuKeys);
 }

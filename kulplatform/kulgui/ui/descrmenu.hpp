@@ -2,7 +2,7 @@
 #ifndef KUL_UI_DESCRMENU_HPP
 #define KUL_UI_DESCRMENU_HPP
 
-#include "element_list.hpp"
+#include "menu.hpp"
 
 namespace kul {
 
@@ -11,6 +11,16 @@ struct DescrMenu : KULDESCRMENU {
     using Public = KULDESCRMENU;
     Place<KULDESCRMENUELEMENT> place;
 };
+
+inline auto& placeOf(DescrMenu& menu)
+{
+    return menu.place;
+}
+
+inline int pageOf(const DescrMenu&)
+{
+    return INT_MAX / 2;
+}
 
 void dropDescrmenu(KULDESCRMENU& menu);
 

@@ -68,7 +68,10 @@ void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
         const int nY = kul::shifted(menu.nY, 1LL + i);
         if (nY >= getmaxy(win))
             break;
-        const int nColor = kul::elementColor(colors, *element, view.nFirst + i == menu.nSelect);
+        const bool selected = view.nFirst + i == menu.nSelect;
+        const int nColor = kul::elementColor(colors, *element, selected);
+        if (selected && colors.focused)
+            kul::showCursorAt(win, nY, nX);
         Fill(win, nY, nX, 1, menu.nWidth, nColor);
         const kul::Attribute color(win, nColor);
         drawCut(win, nY, nX, menu.nWidth, element->szText ? element->szText : "");
@@ -199,6 +202,11 @@ KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElement)
     return menu ? kul::cappedLookup(menu->Element, nElement) : nullptr;
 }
 
+int kuldynmenu_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::DynMenu>(nChain, nRef, DYNMENU);
+}
+
 // The record may be the program's own, without a view: it is shown from its start.
 void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus)
 {
@@ -210,5 +218,5 @@ void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus)
 
 int kuldynmenu_execKeys(int nChain, int nRef)
 {
-    return kul::runMenu<KULDYNMENU>(nChain, nRef, kDynmenuKeys);
+    return kul::runMenu<kul::DynMenu>(nChain, nRef, kDynmenuKeys);
 }

@@ -2,7 +2,7 @@
 #ifndef KUL_UI_DYNMENU_HPP
 #define KUL_UI_DYNMENU_HPP
 
-#include "element_list.hpp"
+#include "menu.hpp"
 
 namespace kul {
 
@@ -17,6 +17,16 @@ struct DynMenu : KULDYNMENU {
     using Public = KULDYNMENU;
     MenuView view;
 };
+
+inline auto& placeOf(DynMenu& menu)
+{
+    return menu.view.place;
+}
+
+inline int pageOf(const DynMenu& menu)
+{
+    return std::max(menu.nHeight - 1, 1);
+}
 
 void dropDynmenu(KULDYNMENU& menu);
 

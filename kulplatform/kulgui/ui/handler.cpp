@@ -106,14 +106,9 @@ bool HandlerBase::isOver()
 {
     if (ended_ || !findRecord())
         return true;
-    const Requests& asked = findDialog(selection.nChain)->asked;
-    return asked.leaving || asked.refocused;
-}
-
-bool HandlerBase::isTab(int nKey) const
-{
-    return uiKind(selection.nType)->keepsTab && findDialog(selection.nChain)->tabs &&
-           (nKey == KS_TAB || nKey == KS_ESC);
+    const Dialog& dialog = *findDialog(selection.nChain);
+    const UI& ui = *GetUIComponentByRef(selection.nChain, selection.nUserInterface);
+    return dialog.asked.leaving || dialog.asked.refocused || isDisabled(dialog, ui);
 }
 
 int HandlerBase::key(bool (*goOn)(const GUI&, const void* record))
@@ -121,15 +116,24 @@ int HandlerBase::key(bool (*goOn)(const GUI&, const void* record))
     while (!isOver()) {
         if (goOn && !goOn(*findDialog(selection.nChain), findRecord()))
             break;
-        if (const int nKey = waitOnce()) {
-            if (!isTab(nKey))
-                return nKey;
-            end(nKey == KS_TAB ? 10 : -10);
-        } else if (lineIsGone()) {
-            end(-10000);
-        }
+        const int nKey = nextKey();
+        const int nLeft = nKey != 0 && !isOver() ? navigate(nKey) : 0;
+        if (nLeft != 0)
+            return nLeft;
     }
     return 0;
+}
+
+// The key that a click from elsewhere stands for, or the next one that is typed; 0 for none.
+int HandlerBase::nextKey()
+{
+    Dialog& dialog = *findDialog(selection.nChain);
+    if (std::exchange(dialog.asked.pressed, false))
+        return KS_ENTER;
+    const int nKey = waitOnce();
+    if (nKey == 0 && lineIsGone())
+        end(-10000);
+    return offerKey(selection.nChain, nKey);
 }
 
 int HandlerBase::settle()

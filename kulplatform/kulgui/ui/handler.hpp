@@ -17,6 +17,21 @@
 
 namespace kul {
 
+// Lets the dialog's onKey see a key and exchange it. The key that is left, 0 for none.
+int offerKey(int nChain, int nKey);
+
+// Keeps the key that kulgui_getKey tells while another loop runs.
+class KeyKeeper {
+public:
+    KeyKeeper();
+    ~KeyKeeper();
+    KeyKeeper(const KeyKeeper&) = delete;
+    KeyKeeper& operator=(const KeyKeeper&) = delete;
+
+private:
+    int nKey_;
+};
+
 // A loop of a dialog while it runs, or a handler that a program runs by itself: the dialog stands
 // on top. What callbacks ask is asked of the innermost loop, and of no other one: it begins without
 // requests, and those of the loop around it are there again after it.
@@ -31,6 +46,7 @@ private:
     int nChain_;
     bool own_; // not the handler of a loop, which shares that one's requests
     Requests outer_;
+    KeyKeeper key_;
     OnTop onTop_;
 };
 
@@ -76,7 +92,14 @@ protected:
     bool isOver();
 
 private:
+    int nextKey();
+    int navigate(int nKey);
+    int followHotkey(int nKey);
     bool isTab(int nKey) const;
+    bool mayGoOn();
+    bool clickDefault();
+    void cancel();
+    void clickButton(int nRef, KULCALLBACK onClick);
 
     Pass pass_;
     Loop loop_;

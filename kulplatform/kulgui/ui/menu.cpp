@@ -58,7 +58,7 @@ int WipeMenuComponent(KULMENU* thisMenu)
 {
     if (thisMenu)
         kul::dropMenu(*thisMenu);
-    std::free(thisMenu);
+    kul::freeRecord(thisMenu);
     return 0;
 }
 
@@ -111,6 +111,11 @@ KULMENUELEMENT* kulmenu_getElement(int nChain, int nRef, int nElement)
     return menu ? kul::cappedLookup(menu->Element, nElement) : nullptr;
 }
 
+int kulmenu_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::Menu>(nChain, nRef, MENU);
+}
+
 void ShowMenuComponent(GUI* thisGUI, KULMENU* thisMenu, int nFocus)
 {
     if (!thisGUI || !thisMenu || thisMenu->nVisible != T)
@@ -124,5 +129,5 @@ int kulmenu_execKeys(int nChain, int nRef)
     const auto* menu = kul::findUI<KULMENU>(nChain, nRef, MENU);
     if (!menu || menu->nVisible != T)
         return 10;
-    return kul::runMenu<KULMENU>(nChain, nRef, kMenuKeys);
+    return kul::runMenu<kul::Menu>(nChain, nRef, kMenuKeys);
 }

@@ -4,10 +4,19 @@
 #ifndef KUL_UI_MENU_HPP
 #define KUL_UI_MENU_HPP
 
+#include "../gui/edition.hpp"
+#include "../gui/screen.hpp"
 #include "element_list.hpp"
 #include "handler.hpp"
+#include "steps.hpp"
 
 namespace kul {
+
+// A menu as it is allocated.
+struct Menu : KULMENU {
+    using Public = KULMENU;
+    Place<KULMENUELEMENT> place;
+};
 
 void dropMenu(KULMENU& menu);
 
@@ -15,14 +24,15 @@ struct MenuColors {
     int nSelected;
     int nEnabled;
     int nDisabled;
+    bool focused;
 };
 
 template <typename Record>
 MenuColors menuColors(const Record& menu, int nFocus)
 {
     if (nFocus == 1)
-        return {menu.nColorFocus, menu.nColorUnfocus, menu.nColorDisable};
-    return {menu.nColorUnfocus, menu.nColorUnfocus, menu.nColorUnfocus};
+        return {menu.nColorFocus, menu.nColorUnfocus, menu.nColorDisable, true};
+    return {menu.nColorUnfocus, menu.nColorUnfocus, menu.nColorUnfocus, false};
 }
 
 template <typename Element>
@@ -48,8 +58,11 @@ int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
             const Attribute color(win, elementColor(colors, *element, nPosition == nSelect));
             print(win, nY, nX, szText);
         }
-        if (nPosition == nSelect)
+        if (nPosition == nSelect) {
+            if (colors.focused)
+                showCursorAt(win, nY, nX);
             onSelected(*element);
+        }
         nX = shifted(nX, length(szText) + static_cast<long long>(kGap));
     }
     return nPosition;
@@ -79,24 +92,114 @@ inline bool nothingPending(const GUI&, const void*)
     return ExitUIorGUIorChains() == -1;
 }
 
+inline auto& placeOf(Menu& menu)
+{
+    return menu.place;
+}
+
+// Elements that a page goes over; a bar is one page.
+inline int pageOf(const Menu&)
+{
+    return INT_MAX / 2;
+}
+
+// The elements of a menu by index. Kinds keep their place in the list where it suits them.
+template <typename Record>
+auto elementsOf(Record& menu)
+{
+    return [&menu](int nIndex) { return placeOf(menu).find(menu.Element, nIndex); };
+}
+
+template <typename Record>
+requires requires(Record& menu)
+{
+    placeOf(menu);
+}
+int countElements(Record& menu)
+{
+    return placeOf(menu).count(menu.Element);
+}
+
+template <typename Record>
+requires requires(Record& menu)
+{
+    placeOf(menu);
+}
+bool selectElement(Record& menu, int nElement)
+{
+    if (nElement < 0 || nElement >= countElements(menu))
+        return false;
+    menu.nSelect = nElement;
+    return true;
+}
+
+// Whether Enter runs anything.
+template <typename Record>
+requires requires(Record& menu)
+{
+    placeOf(menu);
+}
+bool isClickable(Record& menu)
+{
+    const auto* element = elementsOf(menu)(menu.nSelect);
+    return menu.onClick || (element && element->onClick);
+}
+
+// Moves a menu's selection by a key. Whether the key is one that moves.
+template <typename Record>
+bool stepMenu(Record& menu, int nKey, const MenuKeys& keys)
+{
+    if (nKey != keys.nBack && nKey != keys.nForward)
+        return false;
+    const auto step = nKey == keys.nBack ? steppedBack : steppedForward;
+    menu.nSelect = step(menu.nSelect, menu.nElements);
+    return true;
+}
+
+// The menus' keys in edition 2, where all that callbacks are for runs.
+template <typename Record>
+void handleMenuKey(Handler<Record>& handler, int nKey, const MenuKeys& keys)
+{
+    Record* menu = handler.record();
+    if (!menu)
+        return;
+    const int nBefore = menu->nSelect;
+    if (nKey == KS_ENTER) {
+        handler.call(&Record::onClick);
+        menu = handler.record();
+        const auto* element = menu ? elementsOf(*menu)(nBefore) : nullptr;
+        if (element && element->nEnable == 1)
+            handler.run(element->onClick);
+        return;
+    }
+    const StepKeys steps = {keys.nBack, keys.nForward, pageOf(*menu)};
+    menu->nSelect = stepped(nBefore, nKey, steps, countElements(*menu), elementsOf(*menu));
+    handler.selection.nSelect = menu->nSelect;
+    if (menu->nSelect == nBefore)
+        return;
+    SetCurrentSelection(&handler.selection);
+    handler.call(&Record::onSelect);
+}
+
 // Gives a menu the keys until it loses the focus.
 template <typename Record>
 int runMenu(int nChain, int nRef, const MenuKeys& keys)
 {
-    const auto* start = findUI<Record>(nChain, nRef, keys.type);
+    auto* start = findUI<Record>(nChain, nRef, keys.type);
     if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
         return 10;
+    if (isEdition2())
+        start->nSelect = settled(start->nSelect, countElements(*start), elementsOf(*start));
     Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
     handler.call(&Record::onFocus);
     while (const int nKey = handler.key(keys.obeysControls ? nothingPending : nullptr)) {
         Record* menu = handler.record();
-        if (menu && (nKey == keys.nBack || nKey == keys.nForward)) {
-            const auto stepped = nKey == keys.nBack ? steppedBack : steppedForward;
-            menu->nSelect = stepped(menu->nSelect, menu->nElements);
+        if (isEdition2())
+            handleMenuKey(handler, nKey, keys);
+        else if (menu && stepMenu(*menu, nKey, keys))
             handler.selection.nSelect = menu->nSelect;
-        } else if (nKey == KS_ENTER) {
+        else if (nKey == KS_ENTER)
             handler.call(&Record::onClick);
-        }
         handler.show();
     }
     if (keys.obeysControls && ExitUIorGUIorChains() != -1)

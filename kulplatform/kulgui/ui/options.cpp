@@ -9,8 +9,12 @@ using Handler = kul::Handler<kul::OptionList>;
 
 void click(Handler& handler)
 {
-    if (kul::OptionList* list = handler.record())
+    if (kul::OptionList* list = handler.record()) {
+        const auto* element = kul::cursorElement(*list);
+        if (element && !kul::isUsable(*element))
+            return;
         list->nSelect = list->nPosition;
+    }
     kul::noteSelection(handler);
     handler.call(&KULOPTIONS::onClick);
     kul::callElement(handler, &KULOPTIONELEMENT::onClick);
@@ -140,6 +144,26 @@ int kuloptions_getClicked(int nChain, int nRef)
 {
     const auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
     return list ? list->nSelect : -1;
+}
+
+int kuloptions_getChosen(int nChain, int nRef)
+{
+    auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
+    return list && kul::elementsOf(*list)(list->nSelect) ? list->nSelect : -1;
+}
+
+int kuloptions_choose(int nChain, int nRef, int nElement)
+{
+    auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
+    if (!list || !kul::elementsOf(*list)(nElement))
+        return -1;
+    list->nSelect = nElement;
+    return 0;
+}
+
+int kuloptions_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::OptionList>(nChain, nRef, OPTIONS);
 }
 
 int kuloptions_getSelected(int nChain, int nRef)

@@ -5,9 +5,12 @@
 #ifndef KUL_UI_RING_LIST_HPP
 #define KUL_UI_RING_LIST_HPP
 
+#include "../gui/edition.hpp"
+#include "../gui/screen.hpp"
 #include "../gui/text.hpp"
 #include "handler.hpp"
 #include "ring_view.hpp"
+#include "steps.hpp"
 
 namespace kul {
 
@@ -70,6 +73,19 @@ void drawScrollbar(GUI* gui, Record& list, int nColor)
              ACS_DIAMOND | A_REVERSE);
 }
 
+// In edition 2 the cursor's element is one bar over the box, up to the scroll bar where that stands
+// inside of it, and the terminal's cursor is on its first letter.
+template <typename Record>
+void drawCursorBar(WINDOW* win, const Record& list, int nY, int nX, int nHeight)
+{
+    if (!isEdition2())
+        return;
+    const int nBar = list.nBorder != BORDER && list.bScrollbar == T ? 1 : 0;
+    for (int i = 0; i < nHeight; ++i)
+        hRun(win, shifted(nY, i), nX, textWidth(list) + 4LL - nBar, ' ');
+    showCursorAt(win, nY, shifted(nX, 4));
+}
+
 // Draws the elements in view; marker gives the three characters in front of each.
 template <typename Record, typename Marker>
 void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
@@ -93,6 +109,8 @@ void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
         const int nCut = std::min(nHeight, nRows - nUsed);
         {
             const Attribute color(win, nColor);
+            if (nFocus == 1 && i == cursorOf(list))
+                drawCursorBar(win, list, nTop, nX, nCut);
             drawText(win, nTop, nX, marker(*element, static_cast<int>(i)));
         }
         NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT,
@@ -140,6 +158,47 @@ void callElement(Handler<RingList<Record>>& handler, KULCALLBACK ElementOf<Recor
         handler.run(element->*callback);
 }
 
+// The elements of a list by index.
+template <typename Record>
+auto elementsOf(RingList<Record>& list)
+{
+    keepView(list);
+    return [&list](int nIndex) { return elementAt(list, nIndex); };
+}
+
+template <typename Record>
+int countElements(const RingList<Record>& list)
+{
+    return std::max(list.nElements, 0);
+}
+
+// Puts the cursor on an element and shows it. False when there is none.
+template <typename Record>
+bool selectElement(RingList<Record>& list, int nElement)
+{
+    if (!elementsOf(list)(nElement))
+        return false;
+    cursorOf(list) = nElement;
+    bringIntoView(list);
+    return true;
+}
+
+// Moves the cursor by a key. Whether the key is one that moves.
+template <typename Record>
+bool stepList(RingList<Record>& list, int nKey)
+{
+    if (!isEdition2()) {
+        if (nKey != KS_UP && nKey != KS_DOWN)
+            return false;
+        moveCursor(list, nKey);
+        return true;
+    }
+    const int nBefore = cursorOf(list);
+    const StepKeys keys = {KS_UP, KS_DOWN, std::max(list.nLastShowed - list.nFirstShowed, 1)};
+    const int nTo = stepped(nBefore, nKey, keys, countElements(list), elementsOf(list));
+    return nTo != nBefore && selectElement(list, nTo);
+}
+
 // What the lists' keys differ in.
 template <typename Record>
 struct ListKeys {
@@ -155,15 +214,15 @@ int runList(int nChain, int nRef, const ListKeys<Record>& keys)
 {
     auto& start = *findUI<RingList<Record>>(nChain, nRef, keys.type);
     keepView(start);
+    if (isEdition2())
+        cursorOf(start) = settled(cursorOf(start), countElements(start), elementsOf(start));
     bringIntoView(start);
     Handler<RingList<Record>> handler({nChain, nRef, keys.type, cursorOf(start), start.nSelect, 0});
     handler.call(&Record::onFocus);
     while (const int nKey = handler.key(keys.endsHidden ? isShown<RingList<Record>> : nullptr)) {
         if (nKey == KS_SPACE || nKey == KS_ENTER) {
             keys.click(handler);
-        } else if (nKey == KS_UP || nKey == KS_DOWN) {
-            if (RingList<Record>* list = handler.record())
-                moveCursor(*list, nKey);
+        } else if (RingList<Record>* list = handler.record(); list && stepList(*list, nKey)) {
             noteSelection(handler);
             keys.moved(handler);
         }

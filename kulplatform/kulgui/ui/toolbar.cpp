@@ -3,11 +3,14 @@
 // Toolbars: buttons of one size in a row or a column, one of them selected.
 #include "toolbar.hpp"
 
+#include "../gui/edition.hpp"
+#include "../gui/screen.hpp"
+#include "button.hpp"
 #include "handler.hpp"
+#include "steps.hpp"
 
 namespace {
 
-constexpr int kButtonHeight = 3;
 // Buttons that a key goes over at most in search of an enabled one.
 constexpr int kSearchSteps = 30;
 
@@ -20,7 +23,7 @@ kul::ToolbarLayout layoutOf(const KULTOOLBAR& toolbar)
             toolbar.nX,
             toolbar.nY,
             lateral ? kul::shifted(toolbar.nMaxLength, 3) : 0,
-            lateral ? 0 : kButtonHeight + 1,
+            lateral ? 0 : kul::kButtonHeight + 1,
             toolbar.nButtons};
 }
 
@@ -66,6 +69,17 @@ bool selectNext(kul::Toolbar& toolbar, bool forward)
     return false;
 }
 
+auto buttonsOf(kul::Toolbar& toolbar)
+{
+    return [&toolbar](int nIndex) { return toolbar.place.find(toolbar.Button, nIndex); };
+}
+
+kul::StepKeys stepKeys(const KULTOOLBAR& toolbar)
+{
+    const bool lateral = toolbar.nOrient == LATERAL;
+    return {lateral ? KS_LEFT : KS_UP, lateral ? KS_RIGHT : KS_DOWN, INT_MAX / 2};
+}
+
 // What a key asks of the toolbar's selection: 1 onwards, -1 back, 0 nothing.
 int direction(int nOrient, int nKey)
 {
@@ -85,7 +99,7 @@ void click(kul::Handler<kul::Toolbar>& handler)
     handler.call(&KULTOOLBAR::onClick);
     kul::Toolbar* toolbar = handler.record();
     const auto* button = toolbar ? toolbar->place.find(toolbar->Button, nSelect) : nullptr;
-    if (button)
+    if (button && kul::isUsable(*button))
         handler.run(button->onClick);
 }
 
@@ -94,8 +108,29 @@ bool bothShown(const GUI& gui, const void* record)
     return gui.nVisible != F && kul::isShown<kul::Toolbar>(gui, record);
 }
 
+// Moves the selection of edition 2; Enter is the same in both.
+bool step(kul::Handler<kul::Toolbar>& handler, int nKey)
+{
+    kul::Toolbar* toolbar = handler.record();
+    if (!toolbar || nKey == KS_ENTER)
+        return false;
+    const int nBefore = toolbar->nSelect;
+    toolbar->nSelect = kul::stepped(nBefore, nKey, stepKeys(*toolbar), kul::countElements(*toolbar),
+                                    buttonsOf(*toolbar));
+    handler.selection.nSelect = toolbar->nSelect;
+    if (toolbar->nSelect != nBefore) {
+        SetCurrentSelection(&handler.selection);
+        handler.call(&KULTOOLBAR::onSelect);
+    }
+    return true;
+}
+
 void handleKey(kul::Handler<kul::Toolbar>& handler, int nKey)
 {
+    if (kul::isEdition2() && step(handler, nKey)) {
+        handler.show();
+        return;
+    }
     kul::Toolbar* toolbar = handler.record();
     const int nDirection = toolbar ? direction(toolbar->nOrient, nKey) : 0;
     if (nDirection != 0) {
@@ -112,6 +147,19 @@ void handleKey(kul::Handler<kul::Toolbar>& handler, int nKey)
 } // namespace
 
 namespace kul {
+
+int countElements(Toolbar& toolbar)
+{
+    return toolbar.place.count(toolbar.Button);
+}
+
+bool selectElement(Toolbar& toolbar, int nElement)
+{
+    if (nElement < 0 || nElement >= countElements(toolbar))
+        return false;
+    toolbar.nSelect = nElement;
+    return true;
+}
 
 void dropToolbar(KULTOOLBAR& toolbar)
 {
@@ -238,6 +286,11 @@ KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nButton)
     return toolbar ? kul::cappedLookup(toolbar->Button, nButton) : nullptr;
 }
 
+int kultoolbar_count(int nChain, int nRef)
+{
+    return kul::countUI<kul::Toolbar>(nChain, nRef, TOOLBAR);
+}
+
 // The record may be the program's own, that remembers no layout.
 void ShowToolbarComponent(GUI* thisGUI, KULTOOLBAR* thisTB, int nFocus)
 {
@@ -253,18 +306,25 @@ void ShowToolbarButtonComponent(GUI* thisGUI, KULTOOLBAR* thisTB, KULTOOLBARBUTT
     if (!thisGUI || !thisTB || !thisButton)
         return;
     const int nResting = thisButton->nEnable == 1 ? thisTB->nColorUnfocus : thisTB->nColorDisable;
-    DrawButton(thisGUI->winMain, thisButton->nY, thisButton->nX, kButtonHeight,
+    DrawButton(thisGUI->winMain, thisButton->nY, thisButton->nX, kul::kButtonHeight,
                kul::shifted(thisTB->nMaxLength, 2), nFocus == 1 ? thisTB->nColorFocus : nResting,
                thisButton->szText);
+    if (nFocus == 1)
+        kul::showCursorAt(thisGUI->winMain, kul::shifted(thisButton->nY, 1),
+                          kul::textColumn(thisButton->nX, kul::shifted(thisTB->nMaxLength, 2),
+                                          thisButton->szText ? thisButton->szText : ""));
 }
 
 int kultoolbar_execKeys(int nChain, int nRef)
 {
-    const auto* toolbar = kul::findUI<kul::Toolbar>(nChain, nRef, TOOLBAR);
+    auto* toolbar = kul::findUI<kul::Toolbar>(nChain, nRef, TOOLBAR);
     if (!toolbar)
         return -1;
     if (toolbar->nVisible != T)
         return 10;
+    if (kul::isEdition2())
+        toolbar->nSelect =
+            kul::settled(toolbar->nSelect, kul::countElements(*toolbar), buttonsOf(*toolbar));
     kul::Handler<kul::Toolbar> handler({nChain, nRef, TOOLBAR, 0, toolbar->nSelect, 0});
     handler.call(&KULTOOLBAR::onFocus);
     while (const int nKey = handler.key(bothShown))

@@ -27,6 +27,8 @@ struct Toolbar : KULTOOLBAR {
     ToolbarLayout laidOut; // as the buttons' places are now
 };
 
+int countElements(Toolbar& toolbar);
+bool selectElement(Toolbar& toolbar, int nElement);
 void dropToolbar(KULTOOLBAR& toolbar);
 
 } // namespace kul
