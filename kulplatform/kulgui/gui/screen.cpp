@@ -76,7 +76,7 @@ bool cursorMoves()
     const Cell cell = cursorCell();
     if (!cell.win)
         return cursorSeen;
-    return is_leaveok(newscr) || getcury(newscr) != cell.nY || getcurx(newscr) != cell.nX;
+    return !cursorSeen || getcury(curscr) != cell.nY || getcurx(curscr) != cell.nX;
 }
 
 // Updates the terminal; its cursor goes where the user is, and is seen only while it stands there.

@@ -106,8 +106,8 @@ bool HandlerBase::clickDefault()
     return true;
 }
 
-// Gives the focus to the component of a hotkey, and clicks that if it is a button. 0 when the key is
-// none, -1 when it was one, the key to go on with when the component has the focus already.
+// Gives the focus to the component of a hotkey, and clicks that if it is a button. 0 when the key
+// is none, -1 when it was one, the key to go on with when the component has the focus already.
 int HandlerBase::followHotkey(int nKey)
 {
     const UI* ui = findHotkey(*findDialog(selection.nChain), nKey);

@@ -97,10 +97,11 @@ int stepped(int nSelect, int nKey, const StepKeys& keys, int nCount, At at)
     } else if (nKey == KS_HOME || nKey == KS_PAGEUP) {
         const int nAim = nKey == KS_HOME ? 0 : std::max(nFrom - keys.nPage, 0);
         nTo = seek(nAim, 1, std::max(nFrom, 0), at, any);
+        nTo = nTo >= 0 ? nTo : seek(nAim, -1, nCount, at, any);
     } else if (nKey == KS_END || nKey == KS_PAGEDOWN) {
         const int nAim = nKey == KS_END ? nCount - 1 : std::min(nCount - 1, nFrom + keys.nPage);
         nTo = seek(nAim, -1, nCount, at, any);
-        nTo = nTo > nFrom ? nTo : -1;
+        nTo = nTo > nFrom ? nTo : seek(std::max(nAim, 0), 1, nCount, at, any);
     } else if (const wint_t letter = letterOf(nKey)) {
         nTo = seekRound(nFrom + 1, 1, nCount, at,
                         [=](const auto& element) { return firstLetter(element.szText) == letter; });

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+//
+// Edition 2: the way through a dialog and out of it, selections, and what tells the user where he is.
+#include <climits>
+#include <string>
+
+#include "gui/screen.hpp"
+#include "support/window_test.hpp"
+
+namespace {
+
+using kultest::Rows;
+using kultest::typeKeys;
+
+std::string events;
+
+void note(const std::string& event)
+{
+    events += event + ' ';
+}
+
+const CURRENT& current()
+{
+    return *GetCurrentSelection();
+}
+
+class Edition2Test : public kultest::WindowTest {
+protected:
+    void SetUp() override
+    {
+        ASSERT_EQ(kulgui_setEdition(2), 0);
+        WindowTest::SetUp();
+        makeDialog(1);
+        events.clear();
+    }
+
+    static void addButton(int nRef, int nX, int nY, KULCALLBACK onClick = [] { note("click"); })
+    {
+        ASSERT_EQ(kulbutton_create(1, nRef), 0);
+        kulbutton_config(
+            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, 8, 1, "OK",
+            [] { note("+" + std::to_string(current().nUserInterface)); },
+            [] { note("-" + std::to_string(current().nUserInterface)); }, nullptr, onClick);
+    }
+
+    static void addBox(int nRef)
+    {
+        ASSERT_EQ(kultextbox_create(1, nRef), 0);
+        kultextbox_config(1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 5, 10, 1, NOBORDER, NOMASK, nullptr, nullptr,
+                          nullptr, nullptr);
+    }
+
+    static std::string run(const std::vector<int>& keys, int nExpected = KUL_LEFT,
+                           const std::vector<KULCALLBACK>& actions = {})
+    {
+        events.clear();
+        typeKeys(keys, actions);
+        EXPECT_EQ(kulgui_exec(1), nExpected);
+        return events;
+    }
+};
+
+// 1 at the top left, 2 right of it, 3 below 1, 4 far below and to the right; 5 hidden, 6 disabled
+// by its record, 7 by the program.
+TEST_F(Edition2Test, TheFocusGoesByTabsAndArrows)
+{
+    const struct {
+        int nX, nY;
+    } places[] = {{2, 2}, {12, 2}, {2, 6}, {20, 10}, {30, 2}, {30, 6}, {30, 10}};
+    for (int i = 0; i < 7; ++i)
+        addButton(i + 1, places[i].nX, places[i].nY);
+    kulbutton_hide(1, 5);
+    static_cast<KULBUTTON*>(GetUIComponentByRef(1, 6)->Pointer)->nEnable = 0;
+    EXPECT_EQ(kulgui_enable(1, 7, F), 0);
+    const struct {
+        std::vector<int> keys;
+        std::string_view events;
+    } rows[] = {
+        {{KS_TAB, KS_TAB, KS_TAB, KS_TAB}, "+1 -1 +2 -2 +3 -3 +4 -4 +1 -1 "},
+        {{KS_BACKTAB, KS_BACKTAB}, "+1 -1 +4 -4 +3 -3 "},
+        {{KS_LEFT, KS_UP, 'x'}, "+1 -1 "},
+        {{KS_RIGHT, KS_LEFT}, "+1 -1 +2 -2 +1 -1 "},
+        {{KS_DOWN, KS_DOWN, KS_UP}, "+1 -1 +3 -3 +4 -4 +2 -2 "},
+        {{KS_RIGHT, KS_RIGHT}, "+1 -1 +2 -2 +4 -4 "},
+        {{-2, 0, KS_ENTER}, "+1 -1 +2 click -2 "},
+    };
+    for (const auto& row : rows) {
+        kulgui_setFocus(1, 1);
+        EXPECT_EQ(run(row.keys, KUL_LEFT, {[] { kulgui_enable(1, 1, F); }}), row.events);
+        kulgui_enable(1, 1, T);
+    }
+    GetChain(1)->Pointer->nCurrentUI = 77;
+    EXPECT_EQ(run({}), "+1 -1 ") << "gone: the first one";
+    for (int nRef : {1, 2, 3, 4})
+        kulgui_enable(1, nRef, F);
+    EXPECT_EQ(run({KS_ENTER, KS_TAB, KS_ESC}, KUL_CANCELLED), "") << "nothing to focus, and not stuck";
+    EXPECT_EQ(kulgui_enable(1, 9, T) + kulgui_enable(9, 1, T), -2);
+    kulgui_setEdition(1);
+    kulgui_enable(1, 2, T);
+    kulgui_setTabbing(1, T);
+    EXPECT_EQ(run({KS_TAB, KS_ENTER}), "+2 -2 +6 click -6 ") << "a mark counts in edition 1, nEnable does not";
+}
+
+TEST_F(Edition2Test, EscapeEnterHotkeysAndOnKey)
+{
+    addBox(1);
+    addButton(2, 2, 2);
+    addButton(3, 12, 2, [] { note("cancel" + std::to_string(current().nUserInterface)); });
+    EXPECT_EQ(kulgui_setDefault(1, 1) + kulgui_setCancel(9, 2) + kulgui_setDefault(1, 9), -3);
+    EXPECT_EQ(run({KS_ENTER}), "+2 -2 ") << "without a default button on to the next";
+    kulgui_setFocus(1, 1);
+    EXPECT_EQ(run({KS_ESC}, KUL_CANCELLED), "");
+    EXPECT_EQ(kulgui_setDefault(1, 2) + kulgui_setCancel(1, 3), 0);
+    EXPECT_EQ(run({KS_ENTER, KS_ESC, KS_TAB, KS_ENTER}), "click cancel3 +2 click -2 ") << "the focus stays";
+    kulgui_setFocus(1, 1);
+    kulbutton_hide(1, 3);
+    EXPECT_EQ(run({KS_ESC}, KUL_CANCELLED), "") << "nobody is trapped";
+    kulbutton_show(1, 3);
+
+    EXPECT_EQ(kulgui_setHotkey(1, 3, KS_F1) + kulgui_setHotkey(1, 1, KS_F2), 0);
+    EXPECT_EQ(run({KS_F1, KS_F1, KS_F2, 'x'}), "+3 cancel3 cancel3 -3 ");
+    EXPECT_STREQ(kultextbox_getText(1, 1), "x");
+    kulgui_setOnKey(1, [] {
+        note("key" + std::to_string(kulgui_getKey()));
+        kulgui_setKey(kulgui_getKey() == 'a' ? 'b' : kulgui_getKey() == 'c' ? 0 : kulgui_getKey());
+    });
+    EXPECT_EQ(run({'a', 'c', KS_F1}), "key97 key99 key1000 +3 cancel3 -3 ");
+    EXPECT_EQ(std::string(kultextbox_getText(1, 1)).find_first_of("ac"), std::string::npos);
+    EXPECT_NE(std::string(kultextbox_getText(1, 1)).find('b'), std::string::npos);
+
+    int value = 0;
+    EXPECT_EQ(kulgui_setUser(1, KUL_DIALOG, &value) + kulgui_setUser(1, 2, &events), 0);
+    EXPECT_EQ(kulgui_getUser(1, KUL_DIALOG), &value);
+    EXPECT_EQ(kulgui_getUser(1, 2), &events);
+    EXPECT_EQ(kulgui_getUser(1, 1), nullptr);
+    EXPECT_EQ(kulgui_setUser(1, 9, nullptr), -1);
+}
+
+// The kinds with elements, each with "Ab", "ac" (disabled), "ba", "Bb" and "cc".
+constexpr struct {
+    int nType, nBack, nForward;
+    int (*count)(int, int);
+} kKinds[] = {{MENU, KS_LEFT, KS_RIGHT, kulmenu_count},       {DYNMENU, KS_UP, KS_DOWN, kuldynmenu_count},
+              {DESCRMENU, KS_LEFT, KS_RIGHT, kuldescrmenu_count}, {TOOLBAR, KS_LEFT, KS_RIGHT, kultoolbar_count},
+              {CHECKBOX, KS_UP, KS_DOWN, kulcheckbox_count},  {OPTIONS, KS_UP, KS_DOWN, kuloptions_count}};
+
+void addElements(int nType)
+{
+    CreateUIComponent(1, nType, 1);
+    if (nType == DYNMENU)
+        kuldynmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 10, 2, nullptr, nullptr, nullptr, nullptr);
+    else if (nType == CHECKBOX)
+        kulcheckbox_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 18, 5, BORDER, nullptr, nullptr, nullptr, nullptr);
+    else if (nType == OPTIONS)
+        kuloptions_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 18, 5, BORDER, 0, 0, nullptr, nullptr, nullptr,
+                          nullptr);
+    else
+        ConfigUIComponent(1, 1);
+    for (const char* szText : {"Ab", "ac", "ba", "Bb", "cc"}) {
+        const int nEnable = szText[1] != 'c' || szText[0] == 'c';
+        kulmenu_addElement(1, 1, szText, nEnable, nullptr, nullptr);
+        kuldynmenu_addElement(1, 1, szText, nullptr, nullptr, nEnable);
+        kuldescrmenu_addElement(1, 1, nEnable, szText, "", nullptr, nullptr);
+        kultoolbar_addButton(1, 1, szText, 0, nEnable, nullptr, nullptr);
+        kulcheckbox_addElement(1, 1, szText, 0, nEnable, nullptr, nullptr);
+        kuloptions_addElement(1, 1, szText, nEnable, nullptr, nullptr);
+    }
+}
+
+TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
+{
+    constexpr int kBack = -10, kForward = -11;
+    const struct {
+        int nStart;
+        std::vector<int> keys;
+        int nSelect;
+    } rows[] = {
+        {0, {kForward}, 2},         {0, {kBack}, 4},         {4, {kForward}, 0},   {2, {kBack}, 0},
+        {0, {KS_END}, 4},           {3, {KS_HOME}, 0},       {0, {'b'}, 2},        {0, {'b', 'B'}, 3},
+        {3, {'b'}, 2},              {4, {'a'}, 0},           {0, {'a', 'x'}, 0},   {0, {KS_PAGEDOWN, KS_PAGEDOWN, KS_PAGEDOWN}, 4},
+        {4, {KS_PAGEUP, KS_PAGEUP, KS_PAGEUP}, 0}, {1, {}, 2}, {4, {KS_END, KS_PAGEDOWN}, 4}};
+    for (const auto& kind : kKinds) {
+        SCOPED_TRACE(kind.nType);
+        kulgui_destroy(1);
+        makeDialog(1);
+        addElements(kind.nType);
+        EXPECT_EQ(kind.count(1, 1), 5);
+        EXPECT_EQ(kind.count(1, 9), -1);
+        EXPECT_EQ(kulgui_select(1, 1, 5) + kulgui_select(1, 1, -1) + kulgui_select(1, 9, 0), -3);
+        for (const auto& row : rows) {
+            std::vector<int> keys = row.keys;
+            for (int& nKey : keys)
+                nKey = nKey == kBack ? kind.nBack : nKey == kForward ? kind.nForward : nKey;
+            EXPECT_EQ(kulgui_select(1, 1, row.nStart), 0);
+            run(keys);
+            const int nSelect = kind.nType == OPTIONS ? current().nPosition : current().nSelect;
+            EXPECT_EQ(nSelect, row.nSelect) << "from " << row.nStart;
+        }
+        run({KS_SPACE, -2, 'x'}, KUL_LEFT, {[] { SetUIVisibility(1, 1, F); }});
+    }
+}
+
+TEST_F(Edition2Test, ElementsBeyondTheThirtieth)
+{
+    for (const int nType : {CHECKBOX, OPTIONS}) {
+        kulgui_destroy(1);
+        makeDialog(1);
+        addElements(nType);
+        for (int i = 5; i < 50; ++i)
+            nType == CHECKBOX ? kulcheckbox_addElement(1, 1, "more", 0, 1, nullptr, nullptr)
+                              : kuloptions_addElement(1, 1, "more", 1, nullptr, nullptr);
+        kulgui_select(1, 1, 49);
+        run({KS_SPACE});
+        if (nType == CHECKBOX) {
+            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), 1);
+            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 48), 0);
+            EXPECT_EQ(kulcheckbox_check(1, 1, 48, T) + kulcheckbox_check(1, 1, 49, F), 0);
+            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 48), 1);
+            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), 0);
+            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 50) + kulcheckbox_check(1, 1, -1, T), -2);
+        } else {
+            EXPECT_EQ(kuloptions_getChosen(1, 1), 49);
+            EXPECT_EQ(kuloptions_choose(1, 1, 50) + kuloptions_choose(1, 9, 0), -2);
+            EXPECT_EQ(kuloptions_choose(1, 1, 3), 0);
+            EXPECT_EQ(kuloptions_getChosen(1, 1), 3);
+            kuloptions_setClicked(1, 1, 99);
+            EXPECT_EQ(kuloptions_getChosen(1, 1), -1);
+        }
+    }
+}
+
+TEST_F(Edition2Test, ShowsWhereTheUserIs)
+{
+    addElements(CHECKBOX);
+    addButton(2, 1, 6);
+    addButton(3, 10, 6);
+    kulgui_setDefault(1, 2);
+    kulgui_enable(1, 3, F);
+    run({KS_DOWN});
+    WINDOW* win = window(1);
+    EXPECT_EQ(kultest::picture(win, 1, 1, 8, 18),
+              (Rows{"┌──────────────── ", "│[ ] Ab           ", "│[ ] ac           ", "│[ ] ba           ",
+                    "└──────────────── ", "┌──────┐ ┌──────┐ ", "│> OK <│ │  OK  │ ", "└──────┘ └──────┘ "}));
+    EXPECT_EQ(kultest::colors(win, 2, 1, 6, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}, {'d', BLUE_WHITE}}),
+              (Rows{"..................", ".ddd.dd...........", ".ffffffffffffffff.", "..................",
+                    ".........dddddddd.", ".........dddddddd."}));
+    kulgui_show(0);
+    EXPECT_EQ(kultest::cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
+    EXPECT_EQ(kulgui_setEdition(3), -1);
+}
+
+} // namespace
