@@ -1091,6 +1091,14 @@ KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
  * onKey runs after every key, whether the box has a use for it or not. A text is bytes, one a cell,
  * row by row; blanks at the start of a row after the first are skipped, unless they fill all but
  * its last cell.
+ *
+ * In edition 2 a character is a letter of the locale with the marks on it, and may take two
+ * columns: the keys, the limit, the cursor and the character set count these. nLength and
+ * nCursorPos of the record are places in szText, in bytes. Letters are inserted; Insert switches to
+ * overwriting and back. PageUp and PageDown move by as many rows as the box has. Control with A and
+ * E goes to the start and the end, with K and U clears the text behind and before the cursor, with
+ * W the word before it. A text that is longer than the box scrolls in it. No blanks are skipped.
+ * The terminal's own cursor stands at the place of the next letter.
  */
 
 typedef enum masking { NOMASK = -1, MASK = 0 } MASKING;
@@ -1107,9 +1115,9 @@ typedef struct kultextbox {
     int nBorder;           /* BORDERS */
     int nCursor;           /* CURSOR; for DrawTextBox */
     int nCursorPos;        /* index into the text */
-    int nLength;           /* of the text */
-    int nMaxLength;        /* cells inside the border */
-    char* szText;          /* nMaxLength + 1 bytes; NULL before kultextbox_config */
+    int nLength;           /* of the text, in bytes */
+    int nMaxLength;        /* cells inside the border, or the limit */
+    char* szText;          /* nMaxLength + 1 bytes at least; NULL before kultextbox_config */
     const char* szCharSet; /* the program's */
     int nMask;             /* MASKING */
     int nVisible;
@@ -1136,13 +1144,32 @@ KULGUI_API int kultextbox_config(int nChain, int nRef, int nColorFocus, int nCol
                                  KULCALLBACK onUnfocus, KULCALLBACK onKey);
 
 /** Copies a text into the box. The cursor stays at its index, or goes to the end of a text that is
- * shorter. Returns 0, -1 for an unknown component, one that was not set up or NULL, and for a text
- * that has nMaxLength characters or more: then the box is empty. */
+ * shorter; in edition 2 it goes behind the text. Returns 0, -1 for an unknown component, one that
+ * was not set up or NULL, and for a text that is too long: then the box is empty. Too long is one
+ * of nMaxLength characters or more, in edition 2 one of more than nMaxLength. */
 KULGUI_API int kultextbox_setText(int nChain, int nRef, const char* szText);
 
-/** The text, the library's own, until the box is set up again or destroyed; NULL for an unknown
- * component or one that was not set up. */
+/** The text in the locale's bytes, the library's own, until the box is set up again, gets another
+ * limit or is destroyed; its memory is cleared then. NULL for an unknown component or one that was
+ * not set up. */
 KULGUI_API char* kultextbox_getText(int nChain, int nRef);
+
+/** How many characters may be entered, 65,535 at the most, in place of the cells inside the border;
+ * until the next kultextbox_config. In edition 2 a longer text scrolls in the box. Returns 0; -1
+ * for an unknown component, one that was not set up, a number out of range, less than the text has
+ * already, and without memory: then nothing has changed. */
+KULGUI_API int kultextbox_setLimit(int nChain, int nRef, int nCharacters);
+
+/** What judges the text when the user goes on to another component or to the default button, until
+ * the next kultextbox_config; NULL for none. 0 lets him go, anything else keeps the focus in the
+ * box; onCheck can say why in a label or a dialog. It is not asked on Escape, for the cancel
+ * button, by kulgui_leave or kulgui_setFocus, so that a wrong text traps nobody. szText is the
+ * library's own. Returns 0, -1 for an unknown component. */
+KULGUI_API int kultextbox_setCheck(int nChain, int nRef, int (*onCheck)(const char* szText));
+
+/** Puts the cursor on a character, counted from 0; as many as the text has put it behind the last
+ * one. Returns 0, -1 for an unknown component or a number out of range. */
+KULGUI_API int kultextbox_setCursor(int nChain, int nRef, int nCharacter);
 
 /** Show or hide the box from the next drawing on. Always -1, also when all is well. */
 KULGUI_API int kultextbox_show(int nChain, int nRef);
@@ -1153,8 +1180,9 @@ KULGUI_API int kultextbox_hide(int nChain, int nRef);
  * kulgui_leave, -10000 when it is gone or no text box, or the line was hung up. */
 KULGUI_API int kultextbox_execKeys(int nChain, int nRef);
 
-/** The steps of editing. They change the record and draw nothing. Up and Down move by a row where
- * the box has more than one, Delete at the end of the text takes off its last character. */
+/** The steps of editing, in the manners of the edition that runs. They change the record and draw
+ * nothing. Up and Down move by a row where the box has more than one, Delete at the end of the text
+ * takes off its last character. */
 KULGUI_API void TextBoxGoHome(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxGoEnd(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxGoRight(KULTEXTBOX* thisBox);
@@ -1165,12 +1193,13 @@ KULGUI_API void TextBoxBackspace(KULTEXTBOX* thisBox);
 KULGUI_API void TextBoxDelete(KULTEXTBOX* thisBox);
 
 /** Writes the character of a key over the one at the cursor, if it is allowed and there is room.
- * With a character set the low byte of the key counts; without one 32 to 255 are allowed. */
+ * With a character set the low byte of the key counts; without one 32 to 255 are allowed. In
+ * edition 2 the character is inserted; without a set all that print are allowed. */
 KULGUI_API void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke);
 
-/** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. With a border
- * its rows go over the right side of it; with MASK the end of the text shows as one more asterisk.
- * The boxes of dialogs are not drawn by it. */
+/** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. In edition 1
+ * with a border its rows go over the right side of it, and with MASK the end of the text shows as
+ * one more asterisk. The boxes of dialogs are not drawn by it. */
 KULGUI_API void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor);
 
 /** Index of the first such character in a text; -1 for none or NULL. */

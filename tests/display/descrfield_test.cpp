@@ -67,7 +67,7 @@ TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
     for (int nLength = 0; nLength < 20; ++nLength)
         text += "\303\251";
     add((text + "and a long tail").c_str(), "");
-    EXPECT_EQ(drawn(1, 1, 2, 29), "." + std::string(20, '\351') + "and a lo|.┌──────────┐        ........|");
+    EXPECT_EQ(drawn(1, 1, 2, 29), "." + text + "and a lo|.┌──────────┐        ........|");
     std::setlocale(LC_ALL, "C");
 }
 

@@ -16,6 +16,9 @@ namespace {
 
 std::deque<int> script;
 std::vector<KULCALLBACK> scriptActions;
+const void* watched = nullptr;
+std::size_t watchedBytes = 0;
+bool hadColors = true;
 std::time_t clockNow = 1000000;
 int goodAllocations = INT_MAX;
 int nUpdates = INT_MIN; // since a key was given; far below while none was
@@ -79,16 +82,26 @@ void* __real_malloc(std::size_t size);
 void* __real_calloc(std::size_t count, std::size_t size);
 char* __real_strdup(const char* text);
 int __real_doupdate();
+void __real_free(void* memory);
 
 // clang-format off
 void* __wrap_malloc(std::size_t size) { return allocationFails() ? nullptr : __real_malloc(size); }
 char* __wrap_strdup(const char* text) { return allocationFails() ? nullptr : __real_strdup(text); }
 int __wrap_NCursesEnv(int) { return 0; }
+bool __wrap_has_colors() { return hadColors; }
 // clang-format on
 
 void* __wrap_calloc(std::size_t count, std::size_t size)
 {
     return allocationFails() ? nullptr : __real_calloc(count, size);
+}
+
+void __wrap_free(void* memory)
+{
+    const auto* bytes = static_cast<const char*>(memory);
+    if (memory && memory == watched && std::all_of(bytes, bytes + watchedBytes, [](char byte) { return byte == 0; }))
+        watched = nullptr;
+    __real_free(memory);
 }
 
 std::time_t __wrap_time(std::time_t* result)
@@ -128,8 +141,17 @@ namespace kultest {
 Cell cellOf(WINDOW* win, int y, int x)
 {
     const chtype cell = mvwinch(win, y, x);
-    const char letter = static_cast<char>(cell & A_CHARTEXT);
-    return {cell & A_ALTCHARSET ? lineGlyph(letter) : std::string(1, letter),
+    cchar_t wide{};
+    wchar_t letters[CCHARW_MAX + 1] = {};
+    attr_t attributes = 0;
+    short pair = 0;
+    mvwin_wch(win, y, x, &wide);
+    getcchar(&wide, letters, &attributes, &pair, nullptr);
+    char bytes[(CCHARW_MAX + 1) * MB_LEN_MAX] = {};
+    const bool secondHalf = (wide.attr & A_CHARTEXT) > 1;
+    if (!secondHalf && std::wcstombs(bytes, letters, sizeof bytes) == static_cast<std::size_t>(-1))
+        bytes[0] = '?';
+    return {cell & A_ALTCHARSET ? lineGlyph(static_cast<char>(cell & A_CHARTEXT)) : bytes,
             static_cast<int>(PAIR_NUMBER(static_cast<int>(cell))),
             cell & A_ATTRIBUTES & ~static_cast<chtype>(A_COLOR | A_ALTCHARSET)};
 }
@@ -169,6 +191,27 @@ FailingMemory::FailingMemory(int nGood)
 FailingMemory::~FailingMemory()
 {
     goodAllocations = INT_MAX;
+}
+
+void watchFree(const void* memory, std::size_t nBytes)
+{
+    watched = memory;
+    watchedBytes = nBytes;
+}
+
+bool wasFreedClear()
+{
+    return !watched;
+}
+
+NoColors::NoColors()
+{
+    hadColors = false;
+}
+
+NoColors::~NoColors()
+{
+    hadColors = true;
 }
 
 void WindowTest::SetUp()

@@ -17,8 +17,8 @@ namespace kultest {
 
 using Rows = std::vector<std::string>;
 
-// What a cell shows: its character (line drawing as Unicode), its colour pair and attributes
-// without both.
+// What a cell shows: its character in the locale (line drawing as Unicode, nothing for the second
+// half of a wide one), its colour pair and attributes without both.
 struct Cell {
     std::string glyph;
     int pair;
@@ -52,6 +52,17 @@ class FailingMemory {
 public:
     explicit FailingMemory(int nGood);
     ~FailingMemory();
+};
+
+// Looks out for memory until it is freed with all of its bytes cleared.
+void watchFree(const void* memory, std::size_t nBytes);
+bool wasFreedClear();
+
+// While it lives, the terminal has no colours.
+class NoColors {
+public:
+    NoColors();
+    ~NoColors();
 };
 
 // 80 x 24 cells, a primary dialog 0 in its default colours, and nothing else. Frees all after.

@@ -2,7 +2,9 @@
 #include "support/window_test.hpp"
 
 #include <climits>
+#include <clocale>
 #include <cstring>
+#include <cwchar>
 
 namespace {
 
@@ -284,6 +286,223 @@ TEST_F(TextboxTest, Searches)
     };
     for (const auto& row : rows)
         EXPECT_EQ(FindString(row.szStr, row.szIn), row.nPlace);
+}
+
+// Edition 2: characters are letters.
+
+class LetterBoxTest : public TextboxTest {
+protected:
+    void SetUp() override
+    {
+        kulgui_setEdition(2);
+        setlocale(LC_CTYPE, "C.UTF-8");
+        TextboxTest::SetUp();
+    }
+
+    void TearDown() override
+    {
+        TextboxTest::TearDown();
+        setlocale(LC_CTYPE, "C");
+        kulgui_setEdition(1);
+    }
+
+    // The keys of a text's letters, and some more.
+    static std::vector<int> keysOf(const char* szText, const std::vector<int>& more)
+    {
+        std::vector<int> keys;
+        for (std::string_view rest = szText; !rest.empty();) {
+            wchar_t character = 0;
+            std::mbstate_t state{};
+            rest.remove_prefix(std::mbrtowc(&character, rest.data(), rest.size(), &state));
+            keys.push_back(character < 128 ? character : KUL_CHARACTER + character);
+        }
+        keys.insert(keys.end(), more.begin(), more.end());
+        return keys;
+    }
+};
+
+TEST_F(LetterBoxTest, Edits)
+{
+    const Box line{6, 1}, rows{4, 3}, two{4, 2}, framed{6, 4, BORDER}, masked{6, 1, NOBORDER, MASK};
+    const Box set{6, 1, NOBORDER, NOMASK, "äöü中"};
+    const auto control = [](char letter) { return letter - '@'; };
+    const int kInsert = KS_INSERT, kPageUp = KS_PAGEUP, kPageDown = KS_PAGEDOWN;
+    const struct {
+        Box box;
+        int nLimit; // -1: none
+        const char *szText, *szTyped;
+        std::vector<int> keys;
+        const char* szAfter;
+        Rows shown;
+        std::pair<int, int> cursor; // row and column in the box
+    } scripts[] = {
+        {line, -1, "Gr", "öße", {}, "Größe", {"Größe "}, {0, 5}},
+        {line, -1, "ac", "", {L, 'b'}, "abc", {"abc   "}, {0, 2}},
+        {line, -1, "中b", "", {kHome, kInsert, 'x', kInsert, 'y'}, "xyb", {"xyb   "}, {0, 2}},
+        {line, -1, "a", "", {kInsert, 'b', L, kInsert, 'x'}, "axb", {"axb   "}, {0, 2}},
+        {line, -1, "abcde", "fg", {}, "abcdef", {"abcdef"}, {0, 5}}, // full: on the last cell
+        {line, 9, "", "äöüäöü中中中中", {}, "äöüäöü中中中", {"中    "}, {0, 2}},
+        {line, 9, "", "abcdefg", {}, "abcdefg", {"efg   "}, {0, 3}},
+        {line, 9, "abcdefg", "", {L, L, L}, "abcdefg", {"bcdefg"}, {0, 3}},
+        {line, 9, "abcdefg", "", {kHome}, "abcdefg", {"abcdef"}, {0, 0}},
+        {line, 9, "abcdefg", "", {kHome, R, R, R, R, R, R}, "abcdefg", {"defg  "}, {0, 3}},
+        {{2, 1}, 9, "a中", "", {L}, "a中", {"中"}, {0, 0}},
+        {line, 9, "abcd中", "", {kHome, R, R, R, R}, "abcd中", {"abcd中"}, {0, 4}},
+        {line, -1, "xa\u0308b", "", {L, kBack}, "xb", {"xb    "}, {0, 1}},
+        {line, -1, "a\u0308b", "", {kHome, kDelete}, "b", {"b     "}, {0, 0}},
+        {line, -1, "中b", "", {kDelete, kDelete, 'c'}, "c", {"c     "}, {0, 1}},
+        {line, -1, "", "\u0308u\u0308\u0301", {L, R, R}, "u\u0308\u0301", {"u\u0308\u0301     "}, {0, 1}},
+        {{3, 1},
+         -1,
+         "",
+         "a\u0308b\u0308c\u0308d\u0308",
+         {},
+         "a\u0308b\u0308c\u0308",
+         {"a\u0308b\u0308c\u0308"},
+         {0, 2}},
+        {set, -1, "", "aäxö中", {KS_F1}, "äö中", {"äö中  "}, {0, 4}},
+        {masked, -1, "", "中b\u0308", {}, "中b\u0308", {"**    "}, {0, 2}},
+        {line, -1, "a b  ", "", {control('W')}, "a ", {"a     "}, {0, 2}},
+        {line, -1, "abc", "", {L, control('U')}, "c", {"c     "}, {0, 0}},
+        {line, -1, "abc", "", {L, control('K')}, "ab", {"ab    "}, {0, 2}},
+        {line, -1, "b", "", {control('A'), 'a', control('E'), 'c'}, "abc", {"abc   "}, {0, 3}},
+        {line,
+         -1,
+         "a",
+         "\u202e\u0085\u2028",
+         {2, 31, 127 + 1, 255, 256, KS_ALT + 'x', -28, KUL_CHARACTER, INT_MAX},
+         "a",
+         {"a     "},
+         {0, 1}},
+        {line, 0, "", "a", {}, "", {"      "}, {0, 0}},
+        {rows, -1, "", "abcd  ef", {}, "abcd  ef", {"abcd", "  ef", "    "}, {2, 0}},
+        {two, -1, "", "abc中de", {}, "abc中de", {"abc ", "中de"}, {1, 3}},
+        {two, 99, "", "abcdefghi", {}, "abcdefghi", {"efgh", "i   "}, {1, 1}},
+        {two, 99, "abcdefghi", "", {U, U}, "abcdefghi", {"abcd", "efgh"}, {0, 1}},
+        {two, 99, "abcdefghi", "", {U, U, U, D}, "abcdefghi", {"abcd", "efgh"}, {1, 1}},
+        {two, 99, "abcdefghijklm", "", {kPageUp, kPageUp}, "abcdefghijklm", {"abcd", "efgh"}, {0, 1}},
+        {two, 99, "abcdefghi", "", {kHome, R, R, kPageDown}, "abcdefghi", {"efgh", "i   "}, {1, 1}},
+        {two, 99, "abcdefghi", "", {kBack}, "abcdefgh", {"abcd", "efgh"}, {1, 3}},
+        {two, 99, "abcdefghijkl", "", {control('W')}, "", {"    ", "    "}, {0, 0}},
+        {two, -1, "abcdef", "", {kHome, R, R, R, D, D}, "abcdef", {"abcd", "ef  "}, {1, 2}},
+        {{1, 3}, -1, "中a", "", {}, "中a", {"?", "a", " "}, {2, 0}},
+        {framed, -1, "äbcde", "", {U}, "äbcde", {"┌────┐", "│äbcd│", "│e   │", "└────┘"}, {1, 2}},
+        {line, -1, "a\tb\xc3", "", {}, "a\tb\xc3", {"a b?  "}, {0, 4}},
+    };
+    for (const auto& script : scripts) {
+        SCOPED_TRACE(std::string(script.szText) + "+" + script.szTyped + "->" + script.szAfter);
+        renew();
+        kultextbox_create(1, kRef);
+        config(script.box, nullptr);
+        if (script.nLimit >= 0) {
+            EXPECT_EQ(kultextbox_setLimit(1, kRef, script.nLimit), 0);
+        }
+        EXPECT_EQ(kultextbox_setText(1, kRef, script.szText), 0);
+        EXPECT_EQ(press(keysOf(script.szTyped, script.keys)), KUL_LEFT);
+        EXPECT_STREQ(kultextbox_getText(1, kRef), script.szAfter);
+        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(script.szAfter)));
+        EXPECT_EQ(shown(2, 2, script.box.nHeight, script.box.nWidth), script.shown);
+        EXPECT_EQ(std::pair(getcury(newscr) - 2, getcurx(newscr) - 2), script.cursor);
+    }
+}
+
+TEST_F(LetterBoxTest, TakesTextsAndLimits)
+{
+    config({3, 1}, nullptr);
+    for (const auto& [szText, nResult] : {std::pair("äöü", 0), {"中b\u0308c", 0}, {"äöüx", -1}, {"", 0}, {"äöü", 0}}) {
+        EXPECT_EQ(kultextbox_setText(1, kRef, szText), nResult) << szText;
+        EXPECT_STREQ(kultextbox_getText(1, kRef), nResult == 0 ? szText : "");
+        EXPECT_EQ(box().nCursorPos, box().nLength);
+    }
+    for (const auto& [nLimit, nResult] : {std::pair(2, -1), {-1, -1}, {65536, -1}, {65535, 0}, {INT_MIN, -1}, {4, 0}})
+        EXPECT_EQ(kultextbox_setLimit(1, kRef, nLimit), nResult) << nLimit;
+    EXPECT_STREQ(kultextbox_getText(1, kRef), "äöü");
+    EXPECT_EQ(box().nMaxLength, 4);
+    for (const auto& [nCharacter, nPlace] : {std::pair(0, 0), {2, 4}, {3, 6}, {4, -1}, {-1, -1}, {INT_MAX, -1}}) {
+        EXPECT_EQ(kultextbox_setCursor(1, kRef, nCharacter), nPlace < 0 ? -1 : 0);
+        EXPECT_EQ(box().nCursorPos, nPlace < 0 ? 6 : nPlace);
+    }
+    config({3, 1}, nullptr);
+    kultextbox_setText(1, kRef, "äöü");
+    const FailingMemory failing(0);
+    EXPECT_EQ(kultextbox_setLimit(1, kRef, 1000), -1);
+    EXPECT_STREQ(kultextbox_getText(1, kRef), "äöü");
+}
+
+// A long paste into a box that is full soon, and what is then behind the view.
+TEST_F(LetterBoxTest, TakesALongPaste)
+{
+    config({5, 1}, nullptr);
+    kultextbox_setLimit(1, kRef, 20000);
+    std::vector<int> keys(20100, KUL_CHARACTER + L'中');
+    keys.insert(keys.end(), {kHome, kEnd, L, kBack});
+    press(keys);
+    EXPECT_EQ(box().nLength, 3 * 19999);
+    EXPECT_EQ(shown(2, 2, 1, 5), (Rows{"中中 "}));
+}
+
+TEST_F(TextboxTest, AsksBeforeTheUserGoesOn)
+{
+    config({9, 1}, nullptr);
+    const auto check = [](const char* szText) {
+        note(szText);
+        return std::strcmp(szText, "ok");
+    };
+    EXPECT_EQ(kultextbox_setCheck(1, kRef, check), 0);
+    EXPECT_EQ(press({'o', kTab, KS_ENTER, 'k', kTab, 'x'}), 10);
+    EXPECT_EQ(events, "focus0 o0 o0 ok0 unfocus0 ");
+    EXPECT_EQ(press({'x', KS_ESC}), -10);
+    EXPECT_EQ(press({'x'}), KUL_LEFT);
+    kultextbox_setCheck(1, kRef, [](const char*) {
+        kulgui_destroy(1);
+        return 1;
+    });
+    EXPECT_EQ(press({kTab}), -10000);
+    for (const auto result :
+         {kultextbox_setCheck(1, kRef, check), kultextbox_setLimit(1, kRef, 1), kultextbox_setCursor(1, kRef, 0)})
+        EXPECT_EQ(result, -1);
+}
+
+TEST_F(TextboxTest, ClearsItsTextFromMemory)
+{
+    const KULCALLBACK ways[] = {
+        [] {
+            config({8, 1, NOBORDER, MASK});
+        },
+        [] { kultextbox_setLimit(1, kRef, 1000); },
+        [] { kulgui_destroy(1); },
+        [] {
+            kultextbox_setText(1, kRef, "");
+            press({'a', 'b', kBack, kBack});
+            kulgui_destroy(1);
+        },
+    };
+    for (const auto way : ways) {
+        renew();
+        kultextbox_create(1, kRef);
+        fill({8, 1, NOBORDER, MASK}, "secret", 0);
+        const char* szText = kultextbox_getText(1, kRef);
+        watchFree(szText, 7);
+        way();
+        EXPECT_TRUE(wasFreedClear());
+    }
+    renew();
+    kultextbox_create(1, kRef);
+    fill({8, 1, NOBORDER, MASK}, "secret", 0);
+    kultextbox_setText(1, kRef, "x");
+    EXPECT_EQ(std::string(kultextbox_getText(1, kRef), 6), std::string("x\0\0\0\0\0", 6));
+}
+
+TEST_F(LetterBoxTest, IsUnderlinedWithoutColours)
+{
+    const NoColors none;
+    fill({4, 3, BORDER}, "a", 0);
+    GetChain(1)->Pointer->nCurrentUI = -1;
+    kulgui_show(1);
+    for (int nX = 0; nX < 4; ++nX)
+        EXPECT_EQ(cellOf(window(1), 3, 2 + nX).attributes, nX % 3 == 0 ? A_NORMAL : A_UNDERLINE);
+    press({});
+    EXPECT_EQ(cellOf(window(1), 3, 3).attributes, A_REVERSE);
 }
 
 } // namespace

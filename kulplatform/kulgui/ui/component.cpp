@@ -39,9 +39,9 @@ constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
         {.nTaken = -10024, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
                WipeFileviewComponent, kulfileview_execKeys>({.nTaken = -10025}),
-    kul::uiRow<KULTEXTBOX, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
+    kul::uiRow<kul::TextBox, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
                WipeTextboxComponent, kultextbox_execKeys>(
-        {.nTaken = -10026, .startsSet = true, .hasEnable = true}),
+        {.nTaken = -10026, .startsSet = true, .hasEnable = true}, kul::textboxAccepts),
 };
 
 // The records that the library keeps more in than the public one shows. A dialog has few of them,

@@ -62,10 +62,14 @@ KeyKeeper::~KeyKeeper()
     nKeyNow = nKey_;
 }
 
+// Whether the component lets the user go on; what its check did is drawn if not.
 bool HandlerBase::mayGoOn()
 {
     const UIKind& kind = *uiKind(selection.nType);
-    return !kind.accepts || kind.accepts(selection.nChain, selection.nUserInterface);
+    if (!kind.accepts || kind.accepts(selection.nChain, selection.nUserInterface))
+        return true;
+    show();
+    return false;
 }
 
 // Runs a button's onClick as if it had the focus.
@@ -142,8 +146,6 @@ int HandlerBase::navigate(int nKey)
     if (nKey == KS_TAB || nKey == KS_BACKTAB) {
         if (mayGoOn())
             end(nKey == KS_TAB ? 10 : -10);
-        else
-            show();
         return 0;
     }
     if (nKey == KS_ESC)

@@ -1,99 +1,69 @@
 // SPDX-License-Identifier: MIT
 //
-// Text boxes: a text that is typed over, in a box of one or more rows, with a cursor in it.
+// Text boxes: a text that is typed, in a box of one or more rows, with a cursor in it.
 #include "textbox.hpp"
 
-#include "../gui/draw.hpp"
 #include "../gui/text.hpp"
 #include "handler.hpp"
 
 namespace {
 
 // More cells than any screen has; a box beyond is a mistake.
-constexpr long long kMaxCells = 1 << 24;
+constexpr long long kMostCells = 1 << 24;
+
+// The highest limit that a program can set.
+constexpr int kMostCharacters = 65535;
+
+// Frees the text of a box, cleared. Of one that the program has set only the text is known.
+void freeText(KULTEXTBOX& box)
+{
+    const kul::TextState* state = kul::stateOf(box);
+    if (box.szText && state && state->szOwn == box.szText)
+        explicit_bzero(box.szText, static_cast<std::size_t>(state->nRoom));
+    else if (box.szText)
+        explicit_bzero(box.szText, std::strlen(box.szText));
+    std::free(box.szText);
+    box.szText = nullptr;
+}
+
+// Gives the box memory for so many characters, with the text that it has. False without memory,
+// then it is as it was.
+bool makeRoom(kul::TextBox& box, int nCharacters)
+{
+    const int nRoom = nCharacters * kul::textManners().nRoom;
+    if (!box.szText || nRoom > kul::roomOf(box)) {
+        const std::string_view text = kul::textOf(box);
+        auto* szText = static_cast<char*>(std::calloc(static_cast<std::size_t>(nRoom) + 1, 1));
+        if (!szText)
+            return false;
+        std::copy(text.begin(), text.end(), szText);
+        freeText(box);
+        box.szText = box.state.szOwn = szText;
+        box.state.nRoom = nRoom;
+    }
+    box.nMaxLength = nCharacters;
+    return true;
+}
 
 // Gives the box an empty text with room for the inner cells, counted as the product of the sides:
 // two that are negative give room that is not seen. False without memory.
-bool makeBuffer(KULTEXTBOX& box, int nWidth, int nHeight)
+bool makeText(kul::TextBox& box, int nWidth, int nHeight)
 {
     const long long width = kul::innerSize(nWidth, box.nBorder);
     const long long cells = width * kul::innerSize(nHeight, box.nBorder);
-    if (cells < 0 || cells > kMaxCells)
-        return false;
-    box.szText = static_cast<char*>(std::calloc(static_cast<std::size_t>(cells) + 1, 1));
-    box.nMaxLength = box.szText ? static_cast<int>(cells) : 0;
-    return box.szText != nullptr;
+    const kul::TextManners& manners = kul::textManners();
+    return cells >= 0 && cells <= kMostCells &&
+           makeRoom(box, static_cast<int>(std::min<long long>(cells, manners.nMost)));
 }
-
-// Drawing.
-
-// What a character shows as: one cell, whatever it does on a terminal.
-chtype shownAs(char character, bool masked)
-{
-    const auto byte = static_cast<unsigned char>(character);
-    if (masked)
-        return '*';
-    if (byte < ' ' || byte == KS_BACKSPACE)
-        return ' ';
-    return unctrl(byte)[1] == '\0' ? byte : '?';
-}
-
-void drawCell(WINDOW* win, int nY, int nX, chtype cell)
-{
-    mvwaddch(win, nY, nX, cell);
-}
-
-// Draws the cell of the cursor in reverse video. On a terminal without colours the whole box may be
-// so: then the cursor is what is not.
-void drawCursor(WINDOW* win, int nY, int nX, chtype cell)
-{
-    const bool reversed = getattrs(win) & static_cast<int>(A_REVERSE);
-    (reversed ? wattr_off : wattr_on)(win, A_REVERSE, nullptr);
-    mvwaddch(win, nY, nX, cell);
-    (reversed ? wattr_on : wattr_off)(win, A_REVERSE, nullptr);
-}
-
-// The places of a text that a row of the box holds, the cursor's, -1 for none, and what stands at
-// the end of the text.
-struct Row {
-    int nFirst;
-    int nCount;
-    int nCursor;
-    bool masked;
-    chtype end;
-};
-
-// Draws a row up to and with the end of the text. False when that was reached.
-bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
-{
-    const char* szText = box.szText ? box.szText : "";
-    const int nLength = box.szText ? box.nLength : 0;
-    for (int i = 0; i < row.nCount && row.nFirst + i <= nLength; ++i) {
-        const int nPlace = row.nFirst + i;
-        const bool atEnd = szText[nPlace] == '\0';
-        const chtype cell = atEnd ? row.end : shownAs(szText[nPlace], row.masked);
-        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, kul::shifted(nX, i), cell);
-        if (atEnd)
-            return false;
-    }
-    return row.nFirst + static_cast<long long>(row.nCount) <= nLength;
-}
-
-// Keys.
-
-constexpr struct {
-    int nKey;
-    void (*edit)(KULTEXTBOX*);
-} kEdits[] = {
-    {KS_BACKSPACE, TextBoxBackspace}, {KS_DELETE, TextBoxDelete}, {KS_HOME, TextBoxGoHome},
-    {KS_END, TextBoxGoEnd},           {KS_LEFT, TextBoxGoLeft},   {KS_UP, TextBoxGoUp},
-    {KS_DOWN, TextBoxGoDown},         {KS_RIGHT, TextBoxGoRight}, {KS_F1, [](KULTEXTBOX*) {}},
-};
 
 void edit(KULTEXTBOX* box, int nKey)
 {
-    for (const auto& row : kEdits) {
+    if (!kul::hasCursor(box))
+        return;
+    for (const auto& row : kul::textManners().keys) {
         if (row.nKey == nKey) {
+            if (kul::TextState* state = kul::stateOf(*box))
+                state->refused = false;
             row.edit(box);
             return;
         }
@@ -113,9 +83,22 @@ namespace kul {
 
 void dropTextbox(KULTEXTBOX& box)
 {
-    std::free(box.szText);
-    box.szText = nullptr;
+    freeText(box);
     box.nMaxLength = 0;
+    if (TextState* state = stateOf(box))
+        *state = {};
+}
+
+bool textboxAccepts(int nChain, int nRef)
+{
+    const auto* box = findUI<TextBox>(nChain, nRef, TEXTBOX);
+    if (!box || !box->state.onCheck || !box->szText)
+        return true;
+    const Pause pause;
+    const CURRENT before = *GetCurrentSelection();
+    const bool accepted = box->state.onCheck(box->szText) == 0;
+    SetCurrentSelection(&before);
+    return accepted;
 }
 
 } // namespace kul
@@ -149,7 +132,7 @@ int WipeTextboxComponent(KULTEXTBOX* thisTB)
         return -1;
     const bool hadText = thisTB->szText;
     kul::dropTextbox(*thisTB);
-    std::free(thisTB);
+    kul::freeRecord(thisTB);
     return hadText ? 0 : -1;
 }
 
@@ -163,11 +146,11 @@ int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       const char* szCharSet, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                       KULCALLBACK onKey)
 {
-    auto* box = kul::resetUI<KULTEXTBOX>(nChain, nRef, TEXTBOX);
+    auto* box = kul::resetUI<kul::TextBox>(nChain, nRef, TEXTBOX);
     if (!box)
         return -1;
     box->nBorder = nBorder == BORDER ? BORDER : NOBORDER;
-    if (!makeBuffer(*box, nWidth, nHeight))
+    if (!makeText(*box, nWidth, nHeight))
         return -1;
     kul::setBox(*box, nX, nY, nWidth, nHeight, nBorder);
     kul::setColors(*box, nColorFocus, nColorUnfocus, nColorDisable);
@@ -182,22 +165,53 @@ int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
 // The text may be the box's own.
 int kultextbox_setText(int nChain, int nRef, const char* szText)
 {
-    auto* box = kul::findUI<KULTEXTBOX>(nChain, nRef, TEXTBOX);
+    auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
     if (!szText || !box || !box->szText)
         return -1;
-    const int nLength = kul::length(szText);
-    const bool fits = nLength < box->nMaxLength;
-    box->nLength = fits ? nLength : 0;
-    std::memmove(box->szText, szText, static_cast<std::size_t>(box->nLength));
-    box->szText[box->nLength] = '\0';
-    box->nCursorPos = std::clamp(box->nCursorPos, 0, box->nLength);
+    const std::string_view text = kul::viewOf(szText);
+    const bool fits = kul::textManners().fits(*box, text);
+    const int nCursor = box->nCursorPos;
+    box->nLength = std::clamp(box->nLength, 0, kul::roomOf(*box));
+    kul::replaceText(*box, 0, box->nLength, fits ? text : std::string_view());
+    if (!kul::textManners().behind)
+        box->nCursorPos = std::clamp(nCursor, 0, box->nLength);
+    box->state.nFirst = 0;
     return fits ? 0 : -1;
 }
 
 char* kultextbox_getText(int nChain, int nRef)
 {
-    const auto* box = kul::findUI<KULTEXTBOX>(nChain, nRef, TEXTBOX);
+    const auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
     return box ? box->szText : nullptr;
+}
+
+int kultextbox_setLimit(int nChain, int nRef, int nCharacters)
+{
+    auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
+    if (!box || !box->szText || nCharacters < 0 || nCharacters > kMostCharacters)
+        return -1;
+    const bool fits = kul::textManners().placeOf(kul::textOf(*box), nCharacters + 1) < 0;
+    return fits && makeRoom(*box, nCharacters) ? 0 : -1;
+}
+
+int kultextbox_setCheck(int nChain, int nRef, int (*onCheck)(const char* szText))
+{
+    auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
+    if (!box)
+        return -1;
+    box->state.onCheck = onCheck;
+    return 0;
+}
+
+int kultextbox_setCursor(int nChain, int nRef, int nCharacter)
+{
+    auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
+    const int nPlace =
+        box && nCharacter >= 0 ? kul::textManners().placeOf(kul::textOf(*box), nCharacter) : -1;
+    if (nPlace < 0)
+        return -1;
+    box->nCursorPos = nPlace;
+    return 0;
 }
 
 int kultextbox_show(int nChain, int nRef)
@@ -221,47 +235,40 @@ void ShowTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB, int nFocus)
     Fill(win, box.nY, box.nX, box.nHeight, box.nWidth, nColor);
     if (box.nBorder == BORDER)
         DrawBorder(win, box.nY, box.nX, box.nHeight, box.nWidth, nColor);
-    const int nEdge = box.nBorder == BORDER ? 1 : 0;
     const int nWidth = kul::innerSize(box.nWidth, box.nBorder);
-    const bool masked = box.nMask != NOMASK && box.nMask != KUL_KEEP;
-    const std::string_view text = kul::viewOf(box.szText);
-    const kul::Attribute color(win, nColor);
-    Row row = {0, nWidth, nFocus == 1 ? box.nCursorPos : -1, masked, ' '};
-    for (int i = 0; nWidth > 0 && i < kul::innerSize(box.nHeight, box.nBorder); ++i) {
-        if (!drawRow(win, kul::shifted(box.nY, nEdge + i), kul::shifted(box.nX, nEdge), box, row))
-            break;
-        row.nFirst = kul::lineStart(text, row.nFirst + nWidth, nWidth - 1);
+    const int nHeight = kul::innerSize(box.nHeight, box.nBorder);
+    if (nWidth < 1 || nHeight < 1)
+        return;
+    const attr_t extent = nFocus == 1 || has_colors() ? A_NORMAL : kul::textManners().extent;
+    wattr_on(win, extent, nullptr);
+    if (extent != A_NORMAL) {
+        const int nEdge = box.nBorder == BORDER ? 1 : 0;
+        Fill(win, kul::shifted(box.nY, nEdge), kul::shifted(box.nX, nEdge), nHeight, nWidth,
+             nColor);
     }
+    {
+        const kul::Attribute color(win, nColor);
+        kul::textManners().draw(win, *thisTB, nFocus == 1);
+    }
+    wattr_off(win, extent, nullptr);
 }
 
-// Its rows hold one character more than those of ShowTextboxComponent where there is a border, no
-// blanks are skipped between them, and the mask covers the end of the text too.
 void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor)
 {
     if (!thisGUI || !thisBox)
         return;
-    const int nEdge = thisBox->nBorder == BORDER ? 1 : 0;
-    const int nWidth = kul::shifted(thisBox->nWidth, -nEdge);
-    const int nCursor = thisBox->nCursor == SHOWCURSOR ? thisBox->nCursorPos : -1;
     const kul::Attribute color(thisGUI->winMain, nColor);
-    const bool masked = thisBox->nMask == MASK;
-    Row row = {0, nWidth, nCursor, masked, static_cast<chtype>(masked ? '*' : ' ')};
-    for (int i = 0; nWidth > 0 && i < kul::innerSize(thisBox->nHeight, thisBox->nBorder); ++i) {
-        if (!drawRow(thisGUI->winMain, kul::shifted(thisBox->nY, nEdge + i),
-                     kul::shifted(thisBox->nX, nEdge), *thisBox, row))
-            break;
-        row.nFirst += nWidth;
-    }
+    kul::textManners().drawAlone(thisGUI->winMain, *thisBox);
 }
 
 int kultextbox_execKeys(int nChain, int nRef)
 {
-    const auto* box = kul::findUI<KULTEXTBOX>(nChain, nRef, TEXTBOX);
+    const auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
     if (!box)
         return -10000;
     if (box->nVisible != T)
         return 10;
-    kul::Handler<KULTEXTBOX> handler({nChain, nRef, TEXTBOX, 0, 0, 0});
+    kul::Handler<kul::TextBox> handler({nChain, nRef, TEXTBOX, 0, 0, 0});
     handler.call(&KULTEXTBOX::onFocus);
     while (const int nKey = handler.key(kul::isShown<KULTEXTBOX>)) {
         const int nLeave = leavesWith(nKey);
@@ -269,8 +276,11 @@ int kultextbox_execKeys(int nChain, int nRef)
             edit(handler.record(), nKey);
         handler.call(&KULTEXTBOX::onKey);
         handler.show();
-        if (nLeave != 0)
+        // A wrong text traps nobody: Escape goes without a question.
+        if (nLeave != 0 && (nKey == KS_ESC || kul::textboxAccepts(nChain, nRef)))
             handler.end(nLeave);
+        else if (nLeave != 0)
+            handler.show();
     }
     return handler.finish(&KULTEXTBOX::onUnfocus);
 }

@@ -1,69 +1,76 @@
 // SPDX-License-Identifier: MIT
 //
 // The steps of editing a text box, and the searches. They change the record and draw nothing.
-#include <algorithm>
-
 #include "../gui/text.hpp"
 #include "textbox.hpp"
 
 namespace {
 
-// Whether the cursor can move. Brings one that the program moved back into the text.
-bool hasCursor(KULTEXTBOX* box)
-{
-    if (!box || box->nLength < 0)
-        return false;
-    box->nCursorPos = std::clamp(box->nCursorPos, 0, box->nLength);
-    return true;
-}
-
 bool isEditable(KULTEXTBOX* box)
 {
-    return hasCursor(box) && box->szText;
+    return kul::hasCursor(box) && box->szText;
 }
 
 void moveRows(KULTEXTBOX* box, int nRows)
 {
-    if (!hasCursor(box) || box->nHeight <= 1)
-        return;
-    const long long width = std::max(kul::innerSize(box->nWidth, box->nBorder), 0);
-    const long long place = box->nCursorPos + nRows * width;
-    if (place >= 0 && place <= box->nLength)
-        box->nCursorPos = static_cast<int>(place);
-}
-
-// Takes the character at a place out of the text.
-void removeAt(KULTEXTBOX& box, int nPlace)
-{
-    std::memmove(box.szText + nPlace, box.szText + nPlace + 1,
-                 static_cast<std::size_t>(box.nLength - nPlace - 1));
-    box.szText[--box.nLength] = '\0';
+    if (kul::hasCursor(box))
+        box->nCursorPos = kul::textManners().moved(*box, nRows);
 }
 
 } // namespace
 
+namespace kul {
+
+bool hasCursor(KULTEXTBOX* box)
+{
+    if (!box || box->nLength < 0)
+        return false;
+    const TextState* state = stateOf(*box);
+    if (state && state->szOwn == box->szText)
+        box->nLength = std::min(box->nLength, state->nRoom);
+    box->nCursorPos = std::clamp(box->nCursorPos, 0, box->nLength);
+    return true;
+}
+
+void replaceText(KULTEXTBOX& box, int nFrom, int nTo, std::string_view bytes)
+{
+    const int nEnd = nFrom + static_cast<int>(bytes.size());
+    const int nRest = box.nLength - nTo;
+    std::memmove(box.szText + nEnd, box.szText + nTo, static_cast<std::size_t>(nRest));
+    std::memmove(box.szText + nFrom, bytes.data(), bytes.size());
+    // All behind the new end that was text.
+    const int nOver = std::max(nTo - nEnd, 0);
+    explicit_bzero(box.szText + nEnd + nRest, static_cast<std::size_t>(nOver) + 1);
+    box.nLength = nEnd + nRest;
+    box.nCursorPos = nEnd;
+    if (TextState* state = stateOf(box))
+        state->nLetters = -1;
+}
+
+} // namespace kul
+
 void TextBoxGoHome(KULTEXTBOX* thisBox)
 {
-    if (hasCursor(thisBox))
+    if (kul::hasCursor(thisBox))
         thisBox->nCursorPos = 0;
 }
 
 void TextBoxGoEnd(KULTEXTBOX* thisBox)
 {
-    if (hasCursor(thisBox))
+    if (kul::hasCursor(thisBox))
         thisBox->nCursorPos = thisBox->nLength;
 }
 
 void TextBoxGoRight(KULTEXTBOX* thisBox)
 {
-    if (hasCursor(thisBox) && thisBox->nCursorPos < thisBox->nLength)
-        ++thisBox->nCursorPos;
+    if (kul::hasCursor(thisBox) && thisBox->nCursorPos < thisBox->nLength)
+        thisBox->nCursorPos = kul::textManners().after(*thisBox);
 }
 
 void TextBoxGoLeft(KULTEXTBOX* thisBox)
 {
-    if (hasCursor(thisBox) && thisBox->nCursorPos > 0)
-        --thisBox->nCursorPos;
+    if (kul::hasCursor(thisBox) && thisBox->nCursorPos > 0)
+        thisBox->nCursorPos = kul::textManners().before(*thisBox);
 }
 
 void TextBoxGoUp(KULTEXTBOX* thisBox)
@@ -80,34 +87,25 @@ void TextBoxBackspace(KULTEXTBOX* thisBox)
 {
     if (!isEditable(thisBox))
         return;
-    if (thisBox->nCursorPos > 0)
-        removeAt(*thisBox, --thisBox->nCursorPos);
-    else
-        thisBox->szText[thisBox->nLength] = '\0';
+    const int nTo = thisBox->nCursorPos;
+    kul::replaceText(*thisBox, nTo > 0 ? kul::textManners().before(*thisBox) : 0, nTo, {});
 }
 
 void TextBoxDelete(KULTEXTBOX* thisBox)
 {
     if (!isEditable(thisBox))
         return;
-    if (thisBox->nCursorPos == thisBox->nLength)
+    const int nFrom = thisBox->nCursorPos;
+    if (nFrom == thisBox->nLength)
         TextBoxBackspace(thisBox);
     else
-        removeAt(*thisBox, thisBox->nCursorPos);
+        kul::replaceText(*thisBox, nFrom, kul::textManners().after(*thisBox), {});
 }
 
 void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke)
 {
-    if (!isEditable(thisBox) || thisBox->nCursorPos >= thisBox->nMaxLength)
-        return;
-    const char character = static_cast<char>(szKeystroke);
-    const bool allowed = thisBox->szCharSet ? FindChar(character, thisBox->szCharSet) != -1
-                                            : szKeystroke >= ' ' && szKeystroke <= 255;
-    if (!allowed)
-        return;
-    thisBox->szText[thisBox->nCursorPos++] = character;
-    if (thisBox->nCursorPos > thisBox->nLength)
-        thisBox->szText[++thisBox->nLength] = '\0';
+    if (isEditable(thisBox))
+        kul::textManners().type(*thisBox, szKeystroke);
 }
 
 int FindChar(char cOneChar, const char* szWholeString)
