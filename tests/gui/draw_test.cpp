@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "gui/draw.hpp"
 
-#include <cstring>
 #include <functional>
 
 #include "support/window_test.hpp"
@@ -99,35 +98,6 @@ TEST(Layout, CentresAndFills)
     FillString(buffer, INT_MIN, '?');
     FillString(nullptr, 3, '?');
     EXPECT_STREQ(buffer, "###...");
-}
-
-// Finished cells are the same as what curses makes of a text, also over a background.
-TEST_F(DrawTest, PrintsWhatCursesPrints)
-{
-    const chtype cyan = static_cast<chtype>(COLOR_PAIR(RED_CYAN));
-    for (const chtype background : {chtype{' '}, '.' | A_UNDERLINE | cyan}) {
-        for (const int nAttributes : {0, int{A_BOLD}, kul::rawAttribute(RED_BLUE), kul::rawAttribute(-1)}) {
-            for (const int nX : {INT_MIN, -1, 0, 2, 3, 6, INT_MAX}) {
-                for (const char* szText : {"", "a c~", "two rows", "a\tb\n", "\x01\xff"}) {
-                    cchar_t cells[2][4][7] = {};
-                    for (const auto how : {0, 1}) {
-                        wbkgdset(win_, ' ');
-                        clear();
-                        wbkgdset(win_, background);
-                        wattrset(win_, nAttributes);
-                        if (how == 0)
-                            mvwaddstr(win_, 1, nX, szText);
-                        else
-                            kul::print(win_, 1, nX, szText);
-                        wattrset(win_, 0);
-                        for (int y = 0; y < 4; ++y)
-                            mvwin_wchnstr(win_, y, 0, cells[how][y], 6);
-                    }
-                    EXPECT_EQ(std::memcmp(cells[0], cells[1], sizeof cells[0]), 0) << szText << ' ' << nX;
-                }
-            }
-        }
-    }
 }
 
 } // namespace

@@ -30,6 +30,17 @@ Cell cellOf(WINDOW* win, int y, int x);
 // The characters of a rectangle of a window.
 Rows picture(WINDOW* win, int y, int x, int height, int width);
 
+// The same for letters of any width, each with its marks, in a UTF-8 locale. A half of one that lost
+// its other half shows as '#'.
+Rows letters(WINDOW* win, int y, int x, int height, int width);
+
+// Edition 2 and a UTF-8 locale, while it lives.
+class InColumns {
+public:
+    InColumns();
+    ~InColumns();
+};
+
 // What stands for a colour pair in a picture of colours; reverse cells are upper case.
 struct Legend {
     char letter;

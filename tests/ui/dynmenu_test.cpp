@@ -108,6 +108,9 @@ TEST_F(DynmenuTest, CutsTextsByTheColumnsOfTheLocale)
     press({});
     EXPECT_EQ(shown(2, 34, 2, 6), (Rows{" │abcd", " │ijkl"}));
     EXPECT_EQ(shown(2, 0, 3, 6), (Rows{"│     ", "│     ", "│     "}));
+    fill(-4, 1, 20, 2, {"abcdefgh", "ij\tk"}); // or begins later
+    press({});
+    EXPECT_EQ(shown(2, 0, 2, 6), (Rows{"defgh ", "k     "}));
 }
 
 TEST_F(DynmenuTest, AnySizeAndPlace)

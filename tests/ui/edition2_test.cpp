@@ -34,7 +34,8 @@ protected:
         events.clear();
     }
 
-    static void addButton(int nRef, int nX, int nY, KULCALLBACK onClick = [] { note("click"); })
+    static void addButton(
+        int nRef, int nX, int nY, KULCALLBACK onClick = [] { note("click"); })
     {
         ASSERT_EQ(kulbutton_create(1, nRef), 0);
         kulbutton_config(
@@ -140,9 +141,9 @@ TEST_F(Edition2Test, EscapeEnterHotkeysAndOnKey)
 constexpr struct {
     int nType, nBack, nForward;
     int (*count)(int, int);
-} kKinds[] = {{MENU, KS_LEFT, KS_RIGHT, kulmenu_count},       {DYNMENU, KS_UP, KS_DOWN, kuldynmenu_count},
+} kKinds[] = {{MENU, KS_LEFT, KS_RIGHT, kulmenu_count},           {DYNMENU, KS_UP, KS_DOWN, kuldynmenu_count},
               {DESCRMENU, KS_LEFT, KS_RIGHT, kuldescrmenu_count}, {TOOLBAR, KS_LEFT, KS_RIGHT, kultoolbar_count},
-              {CHECKBOX, KS_UP, KS_DOWN, kulcheckbox_count},  {OPTIONS, KS_UP, KS_DOWN, kuloptions_count}};
+              {CHECKBOX, KS_UP, KS_DOWN, kulcheckbox_count},      {OPTIONS, KS_UP, KS_DOWN, kuloptions_count}};
 
 void addElements(int nType)
 {
@@ -174,11 +175,21 @@ TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
         int nStart;
         std::vector<int> keys;
         int nSelect;
-    } rows[] = {
-        {0, {kForward}, 2},         {0, {kBack}, 4},         {4, {kForward}, 0},   {2, {kBack}, 0},
-        {0, {KS_END}, 4},           {3, {KS_HOME}, 0},       {0, {'b'}, 2},        {0, {'b', 'B'}, 3},
-        {3, {'b'}, 2},              {4, {'a'}, 0},           {0, {'a', 'x'}, 0},   {0, {KS_PAGEDOWN, KS_PAGEDOWN, KS_PAGEDOWN}, 4},
-        {4, {KS_PAGEUP, KS_PAGEUP, KS_PAGEUP}, 0}, {1, {}, 2}, {4, {KS_END, KS_PAGEDOWN}, 4}};
+    } rows[] = {{0, {kForward}, 2},
+                {0, {kBack}, 4},
+                {4, {kForward}, 0},
+                {2, {kBack}, 0},
+                {0, {KS_END}, 4},
+                {3, {KS_HOME}, 0},
+                {0, {'b'}, 2},
+                {0, {'b', 'B'}, 3},
+                {3, {'b'}, 2},
+                {4, {'a'}, 0},
+                {0, {'a', 'x'}, 0},
+                {0, {KS_PAGEDOWN, KS_PAGEDOWN, KS_PAGEDOWN}, 4},
+                {4, {KS_PAGEUP, KS_PAGEUP, KS_PAGEUP}, 0},
+                {1, {}, 2},
+                {4, {KS_END, KS_PAGEDOWN}, 4}};
     for (const auto& kind : kKinds) {
         SCOPED_TRACE(kind.nType);
         kulgui_destroy(1);

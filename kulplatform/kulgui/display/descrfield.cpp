@@ -6,7 +6,7 @@
 //     nY + 1   ┌────────────────┐          the bar, nBarLength wide, under the frame
 //     nY + 2   │ box text       │
 //              └────────────────┘
-#include "../gui/draw.hpp"
+#include "../gui/print.hpp"
 #include "../gui/text.hpp"
 #include "elements.hpp"
 #include "item.hpp"
@@ -16,7 +16,7 @@ namespace {
 constexpr int kFrame = 2;
 constexpr int kGap = 3;
 
-// Number of characters that a box text has at the most: what fits into the frame.
+// Number of columns that a box text has at the most: what fits into the frame.
 long long boxCapacity(const KULDESCRFIELD& field)
 {
     return kul::area(kul::shifted(field.nRefWidth, -kFrame),
@@ -46,7 +46,7 @@ void drawElements(WINDOW* win, const KULDESCRFIELD& field)
     int nPosition = 0;
     for (const KULDESCRFLDELEMENT* element = field.Element; element; element = element->Next) {
         drawElement(win, field, *element, nX, nPosition++ == field.nSelect);
-        nX = kul::shifted(nX, (element->szText ? kul::length(element->szText) : 0LL) + kGap);
+        nX = kul::shifted(nX, kul::widthOf(element->szText) + static_cast<long long>(kGap));
     }
 }
 
@@ -127,12 +127,12 @@ int kuldescrfield_config(int nChain, int nRef, int nColorSelect, int nColorBack,
 
 int kuldescrfield_addElement(int nChain, int nRef, const char* szText, const char* szBoxText)
 {
-    auto* field = kul::findDI<KULDESCRFIELD>(nChain, nRef, DESCRFIELD);
+    auto* field = kul::findDI<kul::DescrField>(nChain, nRef, DESCRFIELD);
     if (!field)
         return -1;
     kul::markChanged(nChain, nRef);
     const bool first = !field->Element;
-    KULDESCRFLDELEMENT* element = kul::appendElement(field->Element);
+    KULDESCRFLDELEMENT* element = kul::appendElement(field->Element, field->tail);
     if (!element)
         return -1;
     if (first)
@@ -153,17 +153,19 @@ int kuldescrfield_setElement(int nChain, int nRef, int nSelect, const char* szTe
     if (!element)
         return 0;
     const long long capacity = boxCapacity(*field);
-    if (szBoxText && (!element->szBoxText || kul::length(szBoxText) > capacity))
+    if (szBoxText && (!element->szBoxText || kul::widthOf(szBoxText) > capacity))
         return -1;
     // A text of the same length as before is not taken: that is how the call is defined.
     char* copy = nullptr;
-    if (szText && (!element->szText || std::strlen(szText) != std::strlen(element->szText))) {
+    if (szText && (!element->szText || kul::widthOf(szText) != kul::widthOf(element->szText))) {
         copy = kul::copyText(szText);
         if (!copy)
             return -1;
     }
-    if (szBoxText)
-        kul::setText(element->szBoxText, capacity, szBoxText);
+    if (szBoxText && !kul::setText(element->szBoxText, capacity, szBoxText)) {
+        std::free(copy);
+        return -1;
+    }
     if (copy) { // only now: the box text may have been the text before
         std::free(element->szText);
         element->szText = copy;

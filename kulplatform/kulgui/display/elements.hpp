@@ -17,14 +17,32 @@ Element* elementAt(Element* element, int nPosition)
     return element;
 }
 
+// Counts what was taken out of any list: who remembers an element must then look for it anew.
+inline unsigned nItemRemovals = 0;
+
+// The last element of a list, so that adding one is a step. Cleared memory is a new one. It notices
+// by itself what happened to the list.
+template <typename Element>
+struct Tail {
+    Element* head;
+    Element* last;
+    unsigned nRemovals;
+};
+
 // Adds a cleared element at the end. Null without memory.
 template <typename Element>
-Element* appendElement(Element*& head)
+Element* appendElement(Element*& head, Tail<Element>& tail)
 {
-    Element** link = &head;
-    while (*link)
-        link = &(*link)->Next;
-    return *link = allocate<Element>();
+    if (tail.head != head || tail.nRemovals != nItemRemovals)
+        tail = {head, head, nItemRemovals};
+    while (tail.last && tail.last->Next)
+        tail.last = tail.last->Next;
+    auto* added = allocate<Element>();
+    if (!added)
+        return nullptr;
+    (tail.last ? tail.last->Next : head) = added;
+    tail = {head, added, nItemRemovals};
+    return added;
 }
 
 // Takes the last element off and frees it with what it owns. False when there is none.
@@ -33,6 +51,7 @@ bool removeLastElement(Element*& head, void (*drop)(Element&))
 {
     if (!head)
         return false;
+    ++nItemRemovals;
     Element** link = &head;
     while ((*link)->Next)
         link = &(*link)->Next;
@@ -46,6 +65,7 @@ bool removeLastElement(Element*& head, void (*drop)(Element&))
 template <typename Element>
 void freeElements(Element* element, void (*drop)(Element&))
 {
+    ++nItemRemovals;
     while (element) {
         Element* next = element->Next;
         drop(*element);

@@ -4,20 +4,23 @@
 // them by the table of their kinds.
 #include "item.hpp"
 
+#include <utility>
+
 #include "../gui/chain.hpp"
+#include "../gui/text.hpp"
 
 namespace {
 
 // In the order of DI_TYPE.
 constexpr kul::DIKind kDIKinds[LABEL + 1] = {
-    kul::diRow<KULSTATBAR, ConfigStatbarComponent, ShowStatusBarComponent, UpdateStatbarComponent,
-               kul::dropStatbar, WipeStatbarComponent>(-10012),
+    kul::diRow<kul::StatusBar, ConfigStatbarComponent, ShowStatusBarComponent,
+               UpdateStatbarComponent, kul::dropStatbar, WipeStatbarComponent>(-10012),
     kul::diRow<KULGAUGEBAR, ConfigScrollbarComponent, ShowScrollbarComponent,
                UpdateScrollbarComponent, kul::dropNothing<KULGAUGEBAR>, WipeScrollbarComponent>(
         -10016),
     kul::diRow<KULGAUGEBAR, ConfigProgbarComponent, ShowProgBarComponent, UpdateProgbarComponent,
                kul::dropNothing<KULGAUGEBAR>, WipeProgbarComponent>(-10017),
-    kul::diRow<KULDESCRFIELD, ConfigDescrfieldComponent, ShowDescrfieldComponent,
+    kul::diRow<kul::DescrField, ConfigDescrfieldComponent, ShowDescrfieldComponent,
                UpdateDescrfieldComponent, kul::dropDescrfield, WipeDescrfieldComponent>(-10012),
     kul::diRow<KULBOX, ConfigBoxComponent, ShowBoxComponent, UpdateBoxComponent,
                kul::dropNothing<KULBOX>, WipeBoxComponent>(-10013),
@@ -57,6 +60,32 @@ int createDI(int nChain, int nRef, DI_TYPE type)
     if (CheckDICompExistence(nChain, nRef) != -1)
         return kDIKinds[type].nTaken;
     return CreateDIComponent(nChain, type, nRef);
+}
+
+char* newText(long long nCapacity, const char* szText)
+{
+    if (nCapacity > INT_MAX)
+        return nullptr;
+    const std::string_view text = cutText(szText, nCapacity);
+    const std::size_t nMost = std::max(text.size(), static_cast<std::size_t>(nCapacity));
+    char* szBuffer = static_cast<char*>(std::calloc(nMost + 1, 1));
+    if (szBuffer)
+        std::copy(text.begin(), text.end(), szBuffer);
+    return szBuffer;
+}
+
+bool setText(char*& szBuffer, long long nCapacity, const char* szText)
+{
+    const std::string_view text = cutText(szText, nCapacity);
+    if (static_cast<long long>(text.size()) <= nCapacity) {
+        std::memmove(szBuffer, text.data(), text.size());
+        szBuffer[text.size()] = '\0';
+        return true;
+    }
+    char* szNew = newText(nCapacity, szText);
+    if (szNew)
+        std::free(std::exchange(szBuffer, szNew));
+    return szNew != nullptr;
 }
 
 void markChanged(int nChain, int nRef)

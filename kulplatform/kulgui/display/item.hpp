@@ -9,6 +9,7 @@
 
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
+#include "elements.hpp"
 
 namespace kul {
 
@@ -66,6 +67,15 @@ int createDI(int nChain, int nRef, DI_TYPE type);
 // Has the next update pass draw the item.
 void markChanged(int nChain, int nRef);
 
+// Status bars and description fields as they are allocated.
+struct StatusBar : KULSTATBAR {
+    Tail<KULSTATELEMENT> tail;
+};
+
+struct DescrField : KULDESCRFIELD {
+    Tail<KULDESCRFLDELEMENT> tail;
+};
+
 // Free what a record owns and leave it empty.
 template <typename Record>
 void dropNothing(Record&)
@@ -92,25 +102,13 @@ constexpr long long area(int nWidth, int nHeight)
     return std::max<long long>(nWidth, 0) * std::max(nHeight, 0);
 }
 
-// Copies as much of a text as nCapacity allows, and ends it. NULL counts as the empty text; the
-// text may lie in the buffer.
-inline void setText(char* szBuffer, long long nCapacity, const char* szText)
-{
-    const std::size_t size = szText ? strnlen(szText, static_cast<std::size_t>(nCapacity)) : 0;
-    std::memmove(szBuffer, szText ? szText : "", size);
-    szBuffer[size] = '\0';
-}
+// A buffer for nCapacity characters, or columns of them, that holds the text, cut to that; NULL
+// counts as the empty text. Null without memory.
+char* newText(long long nCapacity, const char* szText);
 
-// A buffer for nCapacity characters that holds the text, cut to that. Null without memory.
-inline char* newText(long long nCapacity, const char* szText)
-{
-    if (nCapacity > INT_MAX)
-        return nullptr;
-    char* szBuffer = static_cast<char*>(std::calloc(static_cast<std::size_t>(nCapacity) + 1, 1));
-    if (szBuffer)
-        setText(szBuffer, nCapacity, szText);
-    return szBuffer;
-}
+// Puts another text into such a buffer, or makes another one where columns take more bytes than it
+// has. The text may lie in the buffer. False without memory, and nothing is changed.
+bool setText(char*& szBuffer, long long nCapacity, const char* szText);
 
 } // namespace kul
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "../gui/draw.hpp"
+#include "../gui/print.hpp"
 #include "../gui/text.hpp"
 #include "item.hpp"
 
@@ -45,16 +45,16 @@ bool isGap(char character)
     return character == ' ' || character == '\n';
 }
 
-// Draws the words of a row; the fill shows through the gaps between them.
-void drawWords(WINDOW* win, int nY, int nX, std::string_view row)
+// Draws the words of a row of nWidth columns; the fill shows through the gaps between them.
+void drawWords(WINDOW* win, int nY, int nX, std::string_view row, int nWidth)
 {
-    const char* first = row.data();
-    const char* end = first + row.size();
-    for (const char* word = first; word < end;) {
+    const char* end = row.data() + row.size();
+    for (const char* word = row.data(); word < end;) {
         const char* gap = std::find_if(word, end, isGap);
-        kul::drawText(win, nY, kul::shifted(nX, word - first),
-                      std::string_view(word, static_cast<std::size_t>(gap - word)));
+        const std::string_view text(word, static_cast<std::size_t>(gap - word));
+        kul::drawText(win, nY, nX, text, nWidth);
         word = std::find_if_not(gap, end, isGap);
+        nX = kul::shifted(nX, kul::widthOf(text) + (word - gap));
     }
 }
 
@@ -67,9 +67,10 @@ void drawRows(WINDOW* win, const TextArea& area, int nAlignment, std::string_vie
         const int nStart = nPlace;
         const int nEnd = kul::lineEnd(text, nStart, area.nSpan);
         if (nEnd >= nStart) {
-            drawWords(win, area.nY + nRow, rowColumn(area, nAlignment, nEnd - nStart),
-                      std::string_view(text.data() + nStart,
-                                       static_cast<std::size_t>(nEnd - nStart + 1)));
+            const std::string_view row(text.data() + nStart,
+                                       static_cast<std::size_t>(nEnd - nStart + 1));
+            drawWords(win, area.nY + nRow, rowColumn(area, nAlignment, kul::widthOf(row) - 1), row,
+                      area.nSpan);
             nPlace = nEnd + 1;
         }
         nPlace = kul::lineStart(text, nPlace, area.nSpan);
@@ -78,7 +79,7 @@ void drawRows(WINDOW* win, const TextArea& area, int nAlignment, std::string_vie
     }
 }
 
-// Number of characters that a label holds.
+// Number of columns that a label holds.
 long long capacity(const KULLABEL& label, bool framed)
 {
     const int nFrame = framed ? kFrame : 0;
@@ -149,7 +150,7 @@ int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int n
     SetVar(&label->nAlignment, nAlignment);
     SetVar(&label->nBorder, nBorder);
     // A text that is longer than the label is kept whole.
-    const long long nLength = szText ? kul::length(szText) : 0;
+    const long long nLength = kul::widthOf(szText);
     label->szText = kul::newText(std::max(capacity(*label, nBorder == BORDER), nLength), szText);
     std::free(szBefore);
     kul::markChanged(nChain, nRef);
@@ -162,9 +163,8 @@ int kullabel_setText(int nChain, int nRef, const char* szText)
     if (!label || !label->szText)
         return -1;
     const long long nCapacity = capacity(*label, label->nBorder == BORDER);
-    if (szText && kul::length(szText) > nCapacity)
+    if (kul::widthOf(szText) > nCapacity || !kul::setText(label->szText, nCapacity, szText))
         return -1;
-    kul::setText(label->szText, nCapacity, szText);
     kul::markChanged(nChain, nRef);
     return 0;
 }

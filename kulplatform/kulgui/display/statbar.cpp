@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Status bars: the bottom row of a dialog in reverse video, with fields of text.
-#include "../gui/draw.hpp"
+#include "../gui/print.hpp"
+#include "../gui/text.hpp"
 #include "elements.hpp"
 #include "item.hpp"
 
@@ -15,7 +16,7 @@ void dropElement(KULSTATELEMENT& element)
 // The column where a field's text starts.
 int textColumn(const KULSTATELEMENT& element)
 {
-    const int nLength = kul::length(element.szText);
+    const int nLength = kul::widthOf(element.szText);
     switch (element.nAlignment) {
     case CENTER:
         return kul::shifted(element.nX, Offset(element.nWidth, nLength));
@@ -84,8 +85,8 @@ int kulstatbar_config(int nChain, int nRef, int nColor, KULCALLBACK)
 int kulstatbar_addElement(int nChain, int nRef, int nX, int nWidth, const char* szText,
                           int nAlignment, KULCALLBACK onUpdate)
 {
-    auto* bar = kul::findDI<KULSTATBAR>(nChain, nRef, STATBAR);
-    auto* element = bar && nWidth >= 0 ? kul::appendElement(bar->Element) : nullptr;
+    auto* bar = kul::findDI<kul::StatusBar>(nChain, nRef, STATBAR);
+    auto* element = bar && nWidth >= 0 ? kul::appendElement(bar->Element, bar->tail) : nullptr;
     if (!element)
         return -1;
     kul::markChanged(nChain, nRef);
@@ -98,7 +99,8 @@ int kulstatbar_setElement(int nChain, int nRef, int nElement, const char* szText
     KULSTATELEMENT* element = GetStatbarElementByRef(nChain, nRef, nElement);
     if (!element || !element->szText)
         return -1;
-    kul::setText(element->szText, element->nWidth, szText);
+    if (!kul::setText(element->szText, element->nWidth, szText))
+        return -1;
     kul::markChanged(nChain, nRef);
     return 0;
 }

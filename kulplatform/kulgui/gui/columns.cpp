@@ -71,6 +71,22 @@ Character decode(std::string_view rest)
 }
 #endif
 
+// Adds the marks at the front of a text to a letter, as many as a cell holds. Returns their bytes.
+std::size_t addMarks(Letter& letter, std::string_view text)
+{
+    int nShown = 1;
+    std::string_view rest = text;
+    while (!rest.empty() && !isAscii(rest.front())) {
+        const Character next = decode(rest);
+        if (next.kind != Kind::Mark && next.kind != Kind::LeftOut)
+            break;
+        if (next.kind == Kind::Mark && nShown < kMostInCell)
+            letter.shown[nShown++] = next.character;
+        rest.remove_prefix(next.nBytes);
+    }
+    return text.size() - rest.size();
+}
+
 } // namespace
 
 bool isAscii(std::string_view text)
@@ -86,27 +102,24 @@ bool isAscii(std::string_view text)
     return std::all_of(at, end, [](char character) { return isAscii(character); });
 }
 
+std::size_t marksAt(std::string_view text)
+{
+    Letter none{};
+    return addMarks(none, text);
+}
+
 Letter decodeLetter(std::string_view rest, int nWidth)
 {
     const char first = rest.front();
-    if (isAscii(first) && isControl(first))
+    if (isAscii(first) && (isControl(first) || first == ' '))
         return {1, 1, {static_cast<wchar_t>(first)}};
     const Character head = decode(rest);
     Letter letter = {head.nBytes, head.nColumns, {head.character}};
     if (head.kind == Kind::Mark)
         return {head.nBytes, 1, {kStandIn}};
-    if (head.kind != Kind::Letter)
-        return letter;
-    for (int nShown = 1; letter.nBytes < rest.size();) {
-        const char* behind = rest.data() + letter.nBytes;
-        if (isAscii(*behind))
-            break;
-        const Character next = decode({behind, rest.size() - letter.nBytes});
-        if (next.kind != Kind::Mark && next.kind != Kind::LeftOut)
-            break;
-        if (next.kind == Kind::Mark && nShown < kMostInCell)
-            letter.shown[nShown++] = next.character;
-        letter.nBytes += next.nBytes;
+    if (head.kind == Kind::Letter) {
+        rest.remove_prefix(head.nBytes);
+        letter.nBytes += addMarks(letter, rest);
     }
     return letter.nColumns > nWidth ? Letter{letter.nBytes, 1, {kStandIn}} : letter;
 }
@@ -130,7 +143,7 @@ std::string_view fitting(std::string_view text, int nColumns)
     long long left = nColumns;
     std::string_view rest = text;
     while (!rest.empty()) {
-        const Letter letter = nextLetter(rest);
+        const Letter letter = nextLetter(rest, nColumns);
         left -= letter.nColumns;
         if (left < 0)
             break;

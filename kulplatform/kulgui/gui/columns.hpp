@@ -27,9 +27,9 @@ constexpr int kMostInCell = 5;
 // A letter together with the combining marks behind it, which are never parted from it.
 //
 // The stand-in of one column takes the place of an invalid byte, of a character that the locale
-// cannot print (C1 as well), of a mark without a letter before it, and of a mark that turns the
-// direction of writing. What has neither width nor picture is left out: it goes with the letter
-// before it, or stands alone with no column and nothing to show.
+// cannot print (C1 as well), of a mark without a letter before it (a blank is none), and of a mark
+// that turns the direction of writing. What has neither width nor picture is left out: it goes with
+// the letter before it, or stands alone with no column and nothing to show.
 struct Letter {
     std::size_t nBytes; // 1 at the least
     int nColumns;       // 0, 1 or 2
@@ -59,10 +59,14 @@ inline Letter nextLetter(std::string_view rest, int nWidth = 2)
     return decodeLetter(rest, nWidth);
 }
 
+// Bytes of the combining marks, and of what is left out, at the front of a text. They belong to the
+// letter before it.
+std::size_t marksAt(std::string_view text);
+
 // Columns of a text; INT_MAX at the most.
 int columnsOf(std::string_view text);
 
-// The letters at the front of a text that fit into nColumns columns.
+// The letters at the front of a text that fit into a row of nColumns columns.
 std::string_view fitting(std::string_view text, int nColumns);
 
 } // namespace kul

@@ -145,17 +145,6 @@ void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter)
     mvwaddch(win, nY, nX, static_cast<unsigned char>(letter.shown[0]));
 }
 
-void print(WINDOW* win, int nY, int nX, const char* szText)
-{
-    const std::string_view text(szText);
-    const long long room = getmaxx(win) - static_cast<long long>(nX);
-    if (nX >= 0 && static_cast<long long>(text.size()) <= room &&
-        std::all_of(text.begin(), text.end(), isPlain))
-        plainRun(win, nY, nX, text);
-    else
-        mvwaddstr(win, nY, nX, szText);
-}
-
 } // namespace kul
 
 void DrawBorder(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nBackColor)

@@ -82,9 +82,6 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text);
 // characters are printed as curses does it.
 void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter);
 
-// Prints a text; what does not fit into the row goes on in the next one.
-void print(WINDOW* win, int nY, int nX, const char* szText);
-
 // Length of a text as an int, however long.
 inline int length(const char* szText)
 {

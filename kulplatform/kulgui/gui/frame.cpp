@@ -7,9 +7,10 @@
 #include <algorithm>
 
 #include "chain.hpp"
-#include "draw.hpp"
 #include "edition.hpp"
+#include "print.hpp"
 #include "screen.hpp"
+#include "text.hpp"
 
 namespace {
 
@@ -67,6 +68,20 @@ void printTitle(WINDOW* win, int nX, int nColor, const char* szTitle)
 {
     const kul::Attribute color(win, nColor);
     kul::print(win, 0, nX, szTitle);
+}
+
+// In edition 2 the corners of the frame stay, however long the title is.
+void printFrameTitle(const GUI& gui)
+{
+    const char* szTitle = gui.szTitle ? gui.szTitle : "";
+    const int nX = gui.nWidth / 2 - kul::widthOf(szTitle) / 2 - 1;
+    if (!kul::isEdition2()) {
+        printTitle(gui.winMain, nX, gui.nColorStandard, szTitle);
+        return;
+    }
+    const kul::Attribute color(gui.winMain, gui.nColorStandard);
+    kul::printLetters(gui.winMain, 0, std::max(nX, 1), kul::shifted(gui.nWidth, -1), szTitle,
+                      kul::Controls::Whole);
 }
 
 void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))
@@ -191,14 +206,12 @@ void DlgBox(GUI* thisGUI)
     if (!thisGUI->winMain && stdscr)
         makeWindows(thisGUI);
     const int nColor = thisGUI->nColorStandard;
-    const char* szTitle = thisGUI->szTitle ? thisGUI->szTitle : "";
     WinFill(thisGUI->winMain, nColor);
     // Nothing but this line draws into the shadow; untouched it still is what it was.
     if (is_wintouched(thisGUI->winShadow))
         WinFill(thisGUI->winShadow, kShadowPair);
     DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);
-    printTitle(thisGUI->winMain, thisGUI->nWidth / 2 - kul::length(szTitle) / 2 - 1, nColor,
-               szTitle);
+    printFrameTitle(*thisGUI);
     kul::raisePanels(thisGUI->pnlShadow, thisGUI->pnlMain);
     thisGUI->nVisible = T;
 }

@@ -5,18 +5,24 @@
 // that fills a row is taken off from its front, an empty row for each character, until the rest
 // fits; heights of lists are reckoned by these rows.
 //
-//     "two words", 6 columns     "two words", 4 columns
-//     two                        two_       the space fills the row
-//     words                                 w
-//                                           o
+//     "two words", 6 columns     "two words", 4 columns     "zwei Wörter", 4 columns
+//     two                        two_                       zwei
+//     words                                 w               Wört
+//                                           o               er
 //                                rds
+//
+// A word with a letter beyond ASCII is not taken apart so: it breaks between letters, and all of it
+// is shown.
 #include "text.hpp"
 
 #include <algorithm>
 #include <climits>
+#include <clocale>
 #include <cstring>
 
-#include "draw.hpp"
+#include "columns.hpp"
+#include "edition.hpp"
+#include "print.hpp"
 
 namespace {
 
@@ -43,66 +49,160 @@ void swapFirst(char* str, std::size_t nCount, char this_char, char that_char)
     std::replace(str, str + nCount, this_char, that_char);
 }
 
+// Bytes of a line of nLength columns, or one more than the rest of the text has if that is shorter.
+int lineBytes(std::string_view text, int nStart, int nLength)
+{
+    const std::string_view rest(text.data() + nStart,
+                                text.size() - static_cast<std::size_t>(nStart));
+    const std::size_t nLooked = static_cast<std::size_t>(std::max(nLength, 0)) + 1;
+    if (kul::isAscii({rest.data(), std::min(rest.size(), nLooked)}))
+        return nLength;
+    const std::string_view line = kul::fitting(rest, nLength);
+    const bool isShorter = line.size() == rest.size() && kul::columnsOf(line) < nLength;
+    return static_cast<int>(line.size()) + (isShorter ? 1 : 0);
+}
+
+// Whether the word at a place has a letter beyond ASCII.
+bool isBroken(std::string_view text, int nPlace)
+{
+    const auto isLetter = [=](long long nAt) {
+        return at(text, nAt) > ' ' || !kul::isAscii(at(text, nAt));
+    };
+    long long first = nPlace;
+    long long end = nPlace;
+    while (isLetter(first - 1))
+        --first;
+    while (isLetter(end))
+        ++end;
+    return !kul::isAscii({text.data() + first, static_cast<std::size_t>(end - first)});
+}
+
 } // namespace
 
 namespace kul {
 
 RowWalk::RowWalk(const char* szText, int nWidth)
-    : row_(nWidth > 0 ? szText : nullptr), ahead_(row_), space_(row_), width_(nWidth)
+    : row_(nWidth > 0 ? szText : nullptr), ahead_(row_), space_(row_), wordEnd_(row_),
+      end_(nullptr), width_(nWidth), used_(0), spaceUsed_(0), wordBroken_(false)
 {
+}
+
+// Looks ahead until the row is full, or the line ends. Whether it is full.
+bool RowWalk::fill()
+{
+    while (true) {
+        const char* from = ahead_;
+        const std::ptrdiff_t room = width_ - used_;
+        std::ptrdiff_t n = 0;
+        for (; n<room&& static_cast<signed char>(from[n])> '\n'; ++n)
+            space_ = from[n] == ' ' ? from + n : space_;
+        ahead_ += n;
+        if (space_ >= from)
+            spaceUsed_ = used_ + (space_ - from) + 1;
+        used_ += n;
+        if (!isAscii(*ahead_) && countsColumns()) {
+            if (!takeLetter())
+                return true;
+            continue;
+        }
+        if (used_ == width_)
+            return true;
+        if (*ahead_ == '\n' || *ahead_ == '\0')
+            return false;
+        ++ahead_;
+        ++used_;
+    }
+}
+
+// Takes a letter, or the marks on the one before, if there is room for them in the row.
+bool RowWalk::takeLetter()
+{
+    if (!end_)
+        end_ = ahead_ + std::strlen(ahead_);
+    const std::string_view rest(ahead_, static_cast<std::size_t>(end_ - ahead_));
+    const std::size_t nMarks = ahead_ > row_ && isWordOrEnd(ahead_[-1]) ? marksAt(rest) : 0;
+    if (nMarks > 0) {
+        ahead_ += nMarks;
+        return true;
+    }
+    if (used_ == width_)
+        return false;
+    const Letter letter = nextLetter(rest, static_cast<int>(width_));
+    if (used_ + letter.nColumns > width_)
+        return false;
+    ahead_ += letter.nBytes;
+    used_ += letter.nColumns;
+    return true;
+}
+
+// Whether the word that fills the row has a letter beyond ASCII, wherever.
+bool RowWalk::isBrokenWord()
+{
+    if (row_ >= wordEnd_) {
+        wordBroken_ = false;
+        wordEnd_ = row_ + (*row_ == ' ' ? 1 : 0);
+        for (; !isBlank(*wordEnd_) && *wordEnd_ != '\n'; ++wordEnd_)
+            wordBroken_ = wordBroken_ || !isAscii(*wordEnd_);
+    }
+    return wordBroken_ && countsColumns();
 }
 
 std::optional<std::string_view> RowWalk::next()
 {
     if (!row_)
         return std::nullopt;
-    for (; ahead_ - row_ < width_ && *ahead_ != '\n' && *ahead_ != '\0'; ++ahead_)
-        space_ = *ahead_ == ' ' ? ahead_ : space_;
     const char* start = row_;
     const char* end = start;
-    if (ahead_ - start < width_) { // the line ends here
+    if (!fill()) { // the line ends here
         end = ahead_;
         row_ = *end == '\0' ? nullptr : ++ahead_;
+        used_ = 0;
     } else if (ahead_[-1] == ' ') {
         end = ahead_;
         row_ = end;
+        used_ = 0;
     } else if (space_ > start) { // a word is cut: it goes to the next row
         end = space_;
         row_ = end + 1;
+        used_ -= spaceUsed_;
+    } else if (isBrokenWord()) {
+        end = ahead_;
+        if (isBlank(*end) || *end == '\n') // the word ends here, too
+            ++ahead_;
+        row_ = *end == '\0' ? nullptr : ahead_;
+        used_ = 0;
     } else {
         ++row_;
+        --used_;
     }
     return std::string_view(start, static_cast<std::size_t>(end - start));
 }
 
-void drawText(WINDOW* win, int nY, int nX, std::string_view text)
+bool countsColumns()
 {
-    const char* cells = text.data();
-    const long long last =
-        std::min(static_cast<long long>(text.size()), getmaxx(win) - static_cast<long long>(nX));
-    for (long long first = std::max(0LL, -static_cast<long long>(nX)); first < last;) {
-        long long end = first + 1;
-        while (isPlain(cells[first]) && end < last && isPlain(cells[end]))
-            ++end;
-        const std::string_view run(cells + first, static_cast<std::size_t>(end - first));
-        if (isPlain(run.front()))
-            plainRun(win, nY, static_cast<int>(nX + first), run);
-        else
-            mvwaddnstr(win, nY, static_cast<int>(nX + first), run.data(), 1);
-        first = end;
-    }
+#if NCURSES_WIDECHAR
+    const char* szLocale = isEdition2() ? std::setlocale(LC_CTYPE, nullptr) : nullptr;
+    return szLocale && std::strcmp(szLocale, "C") != 0 && std::strcmp(szLocale, "POSIX") != 0;
+#else
+    return false;
+#endif
 }
 
-void printOnRow(WINDOW* win, int nY, int nX, const char* szText)
+int widthOf(std::string_view text)
 {
-    if (wmove(win, nY, nX) == ERR)
-        return;
-    // Byte by byte, for only curses knows how many cells they take. Past the last cell of the row
-    // the cursor is in the next one, and below the last row there is an error.
-    while (*szText != '\0' && getcury(win) == nY) {
-        if (waddch(win, static_cast<unsigned char>(*szText++)) == ERR)
-            return;
-    }
+    if (!isAscii(text) && countsColumns())
+        return columnsOf(text);
+    return static_cast<int>(std::min<std::size_t>(text.size(), INT_MAX));
+}
+
+std::string_view cutText(const char* szText, long long nColumns)
+{
+    const std::string_view text = viewOf(szText);
+    const auto nMost = static_cast<std::size_t>(std::clamp(nColumns, 0LL, 1LL * INT_MAX));
+    const std::string_view first(text.data(), std::min(text.size(), nMost));
+    // A mark may stand behind.
+    const std::string_view looked(text.data(), std::min(text.size(), nMost + 1));
+    return isAscii(looked) || !countsColumns() ? first : fitting(text, static_cast<int>(nMost));
 }
 
 std::string_view viewOf(const char* szText)
@@ -127,19 +227,27 @@ int lineEnd(std::string_view text, int nStart, int nLength)
         return static_cast<int>(size - 1);
     if (size < nStart || nStart < 0)
         return -1;
-    if (size < static_cast<long long>(nStart) + nLength)
+    const bool columns = countsColumns();
+    const int nBytes = columns ? lineBytes(text, nStart, nLength) : nLength;
+    if (size < static_cast<long long>(nStart) + nBytes)
         return static_cast<int>(size - 1);
-    int nEnd = shifted(nStart, nLength - 1LL);
-    if (nEnd <= nStart)
-        return nEnd;
+    const int nLast = std::max(shifted(nStart, nBytes - 1LL), -1);
+    if (nLast <= nStart)
+        return nLast;
     const char* cells = text.data();
     const void* newline =
-        std::memchr(cells + nStart, '\n', static_cast<std::size_t>(nEnd - nStart));
+        std::memchr(cells + nStart, '\n', static_cast<std::size_t>(nLast - nStart));
     if (newline)
         return static_cast<int>(static_cast<const char*>(newline) - cells);
-    if (at(text, nEnd + 1LL) != ' ') {
-        while (nEnd > nStart && isWordOrEnd(cells[nEnd]))
+    const auto isCut = [=](int nPlace) {
+        return isWordOrEnd(cells[nPlace]) || (columns && !isAscii(cells[nPlace]));
+    };
+    int nEnd = nLast;
+    if (at(text, nLast + 1LL) != ' ') {
+        while (nEnd > nStart && isCut(nEnd))
             --nEnd;
+        if (nEnd == nStart && columns && isBroken(text, nStart))
+            return nLast;
     } else if (isBlank(cells[nEnd])) {
         do {
             --nEnd;
@@ -155,7 +263,7 @@ int WrapText(WINDOW* win, int nXPos, int nYPos, int nWidth, int nColor, const ch
     const kul::Attribute color(win, nColor);
     int nRows = 0;
     for (kul::RowWalk walk(szText, nWidth); const auto row = walk.next();) {
-        kul::drawText(win, kul::shifted(nYPos, nRows), nXPos, *row);
+        kul::drawText(win, kul::shifted(nYPos, nRows), nXPos, *row, nWidth);
         nRows = kul::shifted(nRows, 1);
     }
     return nRows;
@@ -173,7 +281,7 @@ void NewStrToBox(WINDOW* win, int nXPos, int nYPos, int nWidth, int nHeight, int
         const auto row = walk.next();
         if (!row)
             break;
-        kul::drawText(win, nYPos + nRow, nXPos, *row);
+        kul::drawText(win, nYPos + nRow, nXPos, *row, nWidth);
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Text in rows: the one walk that wraps a text to a width, the scanners for lines that wrap at
-// blanks only, and the drawing of a row. All but the drawing is pure.
+// blanks only, and what texts measure. All of it is pure.
 #ifndef KUL_GUI_TEXT_HPP
 #define KUL_GUI_TEXT_HPP
 
@@ -12,6 +12,9 @@
 #include "../kulgui.h"
 
 namespace kul {
+
+// A text and its length; empty for NULL.
+std::string_view viewOf(const char* szText);
 
 // Gives a text row by row, each as what it shows. The text must stay while the walk goes on.
 //
@@ -26,25 +29,38 @@ public:
     std::optional<std::string_view> next();
 
 private:
-    const char* row_;   // where the next row starts; null after the last
-    const char* ahead_; // the first character that was not looked at
-    const char* space_; // the last space before that; what lies before row_ does not count
-    std::ptrdiff_t width_;
+    bool fill();
+    bool takeLetter();
+    bool isBrokenWord();
+
+    const char* row_;          // where the next row starts; null after the last
+    const char* ahead_;        // the first character that was not looked at
+    const char* space_;        // the last space before that; what lies before row_ does not count
+    const char* wordEnd_;      // behind the word that was looked at last
+    const char* end_;          // of the text, when it is known
+    std::ptrdiff_t width_;     // in columns, as are
+    std::ptrdiff_t used_;      // what lies from row_ to ahead_
+    std::ptrdiff_t spaceUsed_; // and to behind space_
+    bool wordBroken_;          // whether the word breaks between letters
 };
 
-// Draws a character a column from nX on, in runs. The cells are those that a print of its own for
-// each character gives: what takes two cells ("^A") loses the second one to the next character, a
-// tab blanks the cells up to its stop, and what starts outside of the window is not printed.
-void drawText(WINDOW* win, int nY, int nX, std::string_view text);
+// Whether texts are laid out by columns: in edition 2 and in a locale, with a curses that knows
+// wide characters. Else every byte is a column.
+bool countsColumns();
 
-// Prints a text whole, but for what does not fit into the window's row.
-void printOnRow(WINDOW* win, int nY, int nX, const char* szText);
+// Columns of a text, whether these are bytes or not; INT_MAX at the most.
+int widthOf(std::string_view text);
 
-// A text and its length; empty for NULL.
-std::string_view viewOf(const char* szText);
+inline int widthOf(const char* szText)
+{
+    return widthOf(viewOf(szText));
+}
+
+// What of a text is in its first nColumns columns.
+std::string_view cutText(const char* szText, long long nColumns);
 
 // The same as ReturnLineStart and ReturnLineEnd, for a text whose length is known. A start outside
-// of the text comes back as it is.
+// of the text comes back as it is. Places are bytes, lengths are columns.
 int lineStart(std::string_view text, int nStart, int nLength);
 int lineEnd(std::string_view text, int nStart, int nLength);
 

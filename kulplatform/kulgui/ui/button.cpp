@@ -4,9 +4,10 @@
 // buttons are the same component under other names.
 #include "button.hpp"
 
-#include "../gui/draw.hpp"
 #include "../gui/edition.hpp"
+#include "../gui/print.hpp"
 #include "../gui/screen.hpp"
+#include "../gui/text.hpp"
 #include "handler.hpp"
 
 namespace {
@@ -63,7 +64,7 @@ namespace kul {
 
 int textColumn(int nX, int nWidth, const char* szText)
 {
-    return shifted(nX, Offset(nWidth, length(szText)));
+    return shifted(nX, Offset(nWidth, widthOf(szText)));
 }
 
 void markDefault(const GUI& gui, const KULBUTTON& button, bool focused)

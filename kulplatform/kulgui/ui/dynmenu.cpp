@@ -5,6 +5,7 @@
 
 #include <cwchar>
 
+#include "../gui/edition.hpp"
 #include "menu.hpp"
 
 namespace {
@@ -50,11 +51,18 @@ Print nextPrint(const char* szText)
 void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
 {
     const int nEnd = std::min(kul::shifted(nX, nWidth), getmaxx(win));
-    for (int nAt = wmove(win, nY, nX) == ERR ? nEnd : nX; *szText && nAt < nEnd;) {
+    if (kul::isEdition2()) {
+        kul::printLetters(win, nY, nX, nEnd, szText, kul::Controls::Skipped, nWidth);
+        return;
+    }
+    bool shown = false; // the letter that an accent goes to
+    for (int nAt = nX; *szText && nAt < nEnd;) {
         const Print print = nextPrint(szText);
-        nAt += print.nColumns;
-        if (nAt > nX && nAt <= nEnd)
+        if (print.nColumns > 0)
+            shown = nAt + print.nColumns <= nEnd && wmove(win, nY, nAt) != ERR;
+        if (shown)
             waddnstr(win, print.shown ? &print.shown : szText, print.nBytes);
+        nAt += print.nColumns;
         szText += print.nBytes;
     }
 }
@@ -186,7 +194,7 @@ int kuldynmenu_addElement(int nChain, int nRef, const char* szText, KULCALLBACK 
     auto* added = AddMenuElement(menu->Element, nEnable, szText, onSelect, onClick);
     if (!kul::takeAdded(menu->Element, menu->nElements, menu->nSelect, added))
         return -1;
-    menu->nMaxLength = std::max(menu->nMaxLength, kul::length(added->szText));
+    menu->nMaxLength = std::max(menu->nMaxLength, kul::widthOf(added->szText));
     return 0;
 }
 

@@ -5,7 +5,9 @@
 #define KUL_UI_MENU_HPP
 
 #include "../gui/edition.hpp"
+#include "../gui/print.hpp"
 #include "../gui/screen.hpp"
+#include "../gui/text.hpp"
 #include "element_list.hpp"
 #include "handler.hpp"
 #include "steps.hpp"
@@ -43,9 +45,8 @@ int elementColor(const MenuColors& colors, const Element& element, bool selected
     return element.nEnable == 1 ? colors.nEnabled : colors.nDisabled;
 }
 
-// Prints texts side by side, three columns apart, those that begin left of the window's right edge;
-// a longer one goes on in the next row. onSelected gets the selected element after its text.
-// Returns how many positions it came by.
+// Prints texts side by side, three columns apart, those that begin left of the window's right edge.
+// onSelected gets the selected element after its text. Returns how many positions it came by.
 template <typename Element, typename OnSelected>
 int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
             const MenuColors& colors, OnSelected onSelected)
@@ -63,7 +64,7 @@ int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
                 showCursorAt(win, nY, nX);
             onSelected(*element);
         }
-        nX = shifted(nX, length(szText) + static_cast<long long>(kGap));
+        nX = shifted(nX, widthOf(szText) + static_cast<long long>(kGap));
     }
     return nPosition;
 }

@@ -6,6 +6,7 @@
 #define KUL_UI_RING_LIST_HPP
 
 #include "../gui/edition.hpp"
+#include "../gui/print.hpp"
 #include "../gui/screen.hpp"
 #include "../gui/text.hpp"
 #include "handler.hpp"

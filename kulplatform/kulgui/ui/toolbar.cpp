@@ -5,6 +5,7 @@
 
 #include "../gui/edition.hpp"
 #include "../gui/screen.hpp"
+#include "../gui/text.hpp"
 #include "button.hpp"
 #include "handler.hpp"
 #include "steps.hpp"
@@ -175,7 +176,7 @@ KULTOOLBARBUTTON* AddToolbarButton(KULTOOLBAR* thisTB, KULTOOLBARBUTTON* firstBu
     if (!button)
         return nullptr;
     button->onSelect = onSelect;
-    thisTB->nMaxLength = std::max(thisTB->nMaxLength, kul::length(button->szText));
+    thisTB->nMaxLength = std::max(thisTB->nMaxLength, kul::widthOf(button->szText));
     return kul::append(firstButton, button);
 }
 
