@@ -241,6 +241,16 @@ TYPED_TEST(RingListTest, StaysInBoxesOfAnySize)
                 EXPECT_EQ(this->shades(nOutside, 15, 1, 1), Rows{"."}) << nHeight << ' ' << nCursor;
         }
     }
+    for (const int nElements : {INT_MIN, INT_MAX}) { // written by a program
+        this->make(14, 3, NOBORDER, "111");
+        this->list().nElements = nElements;
+        this->list().bScrollbar = T;
+        this->run({U, D, D, U, U}, 0);
+        TypeParam::setFirstFromEnd(&this->list());
+        TypeParam::setLast(&this->list());
+        this->list().nElements = 3;
+        EXPECT_EQ(this->run({D}, 0), KUL_LEFT);
+    }
 }
 
 TYPED_TEST(RingListTest, LooksUpByIndex)

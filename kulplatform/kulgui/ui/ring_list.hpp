@@ -62,7 +62,7 @@ template <typename Record>
 void drawScrollbar(GUI* gui, Record& list, int nColor)
 {
     const int nRight = shifted(list.nX, list.nWidth - 1LL);
-    const int nLast = list.nElements - 1;
+    const int nLast = lastIndex(list);
     const int nCursor = cursorOf(list);
     const KULGAUGEBAR bar = {nColor, nColor,  nRight,   list.nY, list.nHeight,
                              nLast,  nCursor, VERTICAL, T,       nullptr};

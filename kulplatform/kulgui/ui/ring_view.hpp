@@ -69,6 +69,13 @@ bool hasRoom(const Record& list)
     return viewRows(list) > 0 && textWidth(list) > 0;
 }
 
+// Index of the last element; the count may be any number that a program wrote.
+template <typename Record>
+int lastIndex(const Record& list)
+{
+    return shifted(list.nElements, -1);
+}
+
 // The ring.
 
 template <typename Element>
@@ -156,7 +163,7 @@ ElementOf<Record>* elementAt(RingList<Record>& list, int nIndex)
         found = head;
         nFound = 0;
     }
-    const int nLast = list.nElements - 1;
+    const int nLast = lastIndex(list);
     if (head->Prev && nLast - nIndex < std::abs(nIndex - nFound)) {
         found = head->Prev;
         nFound = nLast;
@@ -207,7 +214,7 @@ void setLast(Record& list)
     }
     int nIndex = list.nFirstShowed;
     for (long long used = element->nHeight;
-         used < nRows && nIndex < list.nElements - 1 && element->Next; ++nIndex) {
+         used < nRows && nIndex < lastIndex(list) && element->Next; ++nIndex) {
         element = element->Next;
         used += element->nHeight;
     }
@@ -249,10 +256,10 @@ template <typename Record>
 void setFirstFromEnd(Record& list)
 {
     if (list.nElements < 2)
-        list.nFirstShowed = list.nElements - 1;
+        list.nFirstShowed = lastIndex(list);
     else if (list.Element)
         setFirstBefore(list, list.Element->Prev ? list.Element->Prev : list.Element,
-                       list.nElements - 1);
+                       lastIndex(list));
 }
 
 // The view while elements come and the cursor moves.
@@ -273,7 +280,7 @@ void keepView(RingList<Record>& list)
 {
     if (!noticeLoss(list))
         return;
-    list.nFirstShowed = std::min(list.nFirstShowed, list.nElements - 1);
+    list.nFirstShowed = std::min(list.nFirstShowed, lastIndex(list));
     setView(list);
 }
 
@@ -316,7 +323,7 @@ void moveUp(RingList<Record>& list)
         nCursor = (list.nElements > 0 ? std::min(nCursor, list.nElements) : nCursor) - 1;
         list.nFirstShowed = std::min(list.nFirstShowed, nCursor);
     } else {
-        nCursor = list.nElements - 1;
+        nCursor = lastIndex(list);
         setFirstFromEnd(list);
     }
 }
@@ -325,7 +332,7 @@ template <typename Record>
 void moveDown(RingList<Record>& list)
 {
     int& nCursor = cursorOf(list);
-    const int nLast = list.nElements - 1;
+    const int nLast = lastIndex(list);
     if (nCursor == nLast || (nCursor > nLast && list.nElements > 0))
         nCursor = list.nFirstShowed = 0;
     else
@@ -366,7 +373,7 @@ void takeElement(RingList<Record>& list, ElementOf<Record>& added)
     if (list.nFirstShowed == 0 && hasRoom(list) && list.nRows <= nRows) { // all are in view
         list.FirstShowed = list.Element;
         list.LastShowed = &added;
-        list.nLastShowed = list.nElements - 1;
+        list.nLastShowed = lastIndex(list);
     } else {
         setView(list);
     }
