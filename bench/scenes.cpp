@@ -166,7 +166,7 @@ int __wrap_NCursesEnv(int)
     return 0;
 }
 
-int __wrap_Inkeys()
+int __wrap__ZN3kul8awaitKeyEv()
 {
     if (keysLeft == 0) {
         kulgui_leave(kDialog);

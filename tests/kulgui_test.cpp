@@ -235,6 +235,25 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
     EXPECT_EQ(Poll(1), 1) << "a clock that was set back does not stop the polling";
 }
 
+TEST_F(DialogTest, PollsOnceInAPassThatRunsADialogItself)
+{
+    makeDialog(2);
+    addButton(1, nullptr, 2);
+    addButton(1);
+    GetChain(1)->Pointer->onPoll = [] {
+        note("poll");
+        kulgui_exec(2);
+    };
+    static int nPolls;
+    nPolls = 0;
+    GetChain(2)->Pointer->onPoll = [] {
+        note("alarm");
+        if (++nPolls == 2)
+            kulgui_leave(2);
+    };
+    EXPECT_EQ(run({kPoll, kSecond, kPoll, kSecond, kPoll, kSecond, kPoll}, KUL_LEFT), "+1 poll +1 alarm alarm -1 -1 ");
+}
+
 TEST_F(DialogTest, PollsMayDestroyAnything)
 {
     static int nVictim;

@@ -361,11 +361,39 @@ KULGUI_API int kulgui_setKey(int nKey);
  * component or without memory. */
 KULGUI_API int kulgui_setHotkey(int nChain, int nRef, int nKey);
 
+/** Throws away what was typed and not read yet, in front of a question that must not be answered by
+ * keys that were meant for something else. Always 0. */
+KULGUI_API int kulgui_dropKeys(void);
+
+/** Runs onTime once, nMilliseconds from now (below 0: at once), while a dialog waits for a key: the
+ * wait ends in time for it, and what it changes is shown with one update of the terminal. 16 timers
+ * can wait. Returns the timer's number, from 1, for kulgui_stopTimer; -1 for NULL or when none is
+ * free. A timer that has run is free again; its number is not given to another one soon. */
+KULGUI_API int kulgui_setTimer(int nMilliseconds, KULCALLBACK onTime);
+
+/** Ends a timer before it runs. Returns 0, -1 when none of that number waits. */
+KULGUI_API int kulgui_stopTimer(int nTimer);
+
+/** Runs onReady whenever a descriptor has something to read, or its other end is closed, while a
+ * dialog waits for a key; what it changes is shown with one update of the terminal. onReady must
+ * read what is there, or it runs again at once. Another onReady takes the place of the one before,
+ * NULL ends the watch; do that before closing the descriptor. 32 descriptors can be watched.
+ * Returns 0; -1 for standard input, for a number below, when there is no room, and for NULL when
+ * the descriptor is not watched. */
+KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
+
 /* ---- Edition 2 ------------------------------------------------------------------------------ *
  *
  * kulgui_setEdition(2), before the terminal is opened, gives a program today's manners. A program
  * that does not ask sees no difference. What differs:
  *
+ *   keys              of every terminal are known, whatever TERM says; with Shift, Control or Alt
+ *                     they are the same keys, but for Shift-Tab, KS_BACKTAB, and for Alt with a
+ *                     letter or digit, KS_ALT plus that. Byte 8 is KS_BACKSPACE and 10 KS_ENTER. A
+ *                     character above 127 is one key, KUL_CHARACTER plus its code.
+ *   typing ahead      and pasting: every key arrives, one at a time; kulgui_dropKeys throws away
+ *                     what has not been read. A newline of a paste that the terminal marks as one
+ *                     is a blank in a text box, and no key elsewhere.
  *   Tab, Shift-Tab    to the next and the previous component, from every kind; hidden and disabled
  *                     components are passed over. kulgui_setTabbing changes nothing.
  *   Escape            leaves the dialog: kulgui_exec and the handlers return KUL_CANCELLED. With
@@ -1836,7 +1864,8 @@ KULGUI_API void BackgroundDisplay(CHAIN* thisChain);
 
 /** Throws away what was typed ahead, waits up to 50 ms for a key and returns its code; 0 for none
  * or for an unknown sequence. Inside of a sequence it waits up to 25 ms more for each byte. A line
- * at its end takes the 50 ms and gives 0. */
+ * at its end takes the 50 ms and gives 0. Edition 2: throws nothing away; inside of a sequence it
+ * waits up to a second. */
 KULGUI_API int Inkeys(void);
 
 /** 1 when nPollingValue seconds have passed since the first call after the last 1, else 0. */

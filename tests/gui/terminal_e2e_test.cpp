@@ -319,4 +319,28 @@ TEST_F(Keys, AreReadFromBytesThatComeTogetherOrOnASlowLine)
     }
 }
 
+TEST(Keys2, KnowTheTerminalAndAreReadOneByOne)
+{
+    const struct {
+        const char* term;
+        std::string bytes;
+        int count;
+        int last;
+    } rows[] = {
+        {"linux", "\033\t", 1, 1022}, // as its description has it; elsewhere Tab
+        {"xterm-256color", "\033\t", 1, '\t'},
+        {"vt100", "\033Ot", 1, 1004},
+        {"xterm-256color", "ab\033[1;5A\033[?1;2c\033[24~\033", 5, 27},
+        {"xterm-256color", std::string(3000, 'a') + 'b', 3001, 'b'},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.term + testing::PrintToString(row.bytes.substr(0, 20)));
+        Terminal terminal(script("exec \"$@\"", "keys 2", row.term));
+        ASSERT_TRUE(terminal.waitForText("ready") && terminal.settle());
+        terminal.send(row.bytes);
+        const std::string wanted = std::to_string(row.count) + ": " + std::to_string(row.last) + '.';
+        EXPECT_TRUE(terminal.waitFor([&] { return terminal.row(0) == wanted; })) << terminal.row(0);
+    }
+}
+
 } // namespace

@@ -119,7 +119,7 @@ int __wrap_doupdate()
     return __real_doupdate();
 }
 
-int __wrap_Inkeys()
+int __wrap__ZN3kul8awaitKeyEv()
 {
     EXPECT_LE(std::exchange(nUpdates, INT_MIN), 1) << "updates of the terminal for one key";
     if (script.empty()) {

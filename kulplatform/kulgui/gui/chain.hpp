@@ -22,8 +22,8 @@ struct Mark;
 struct Dialog : GUI {
     bool tabs;      // Tab and Escape leave every kind of component
     Requests asked; // of the loop that runs now, the innermost one
-    bool polled;    // in the poll pass that runs now
-    bool due;       // to be drawn at its end
+    int nPolled;    // the number of the last poll pass that looked at it
+    int nDue;       // and of the last one that has to draw it
     int nDefault;   // number of the button for Enter, -1 for none
     int nCancel;    // and for Escape
     KULCALLBACK onKey;

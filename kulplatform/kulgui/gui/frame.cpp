@@ -31,6 +31,7 @@ constexpr DefaultColors kDefaultColors[2][2] = {
 constexpr int kShadowPair = GREEN_YELLOW;
 
 bool shadowsMade = false;
+int nKeptOrders = 0;
 
 // A window larger than the screen shows no more, and its memory is bounded.
 int limited(int n, int least)
@@ -96,8 +97,20 @@ void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))
 
 namespace kul {
 
+KeptOrder::KeptOrder()
+{
+    ++nKeptOrders;
+}
+
+KeptOrder::~KeptOrder()
+{
+    --nKeptOrders;
+}
+
 void raisePanels(PANEL* pnlShadow, PANEL* pnlMain)
 {
+    if (nKeptOrders > 0 && pnlMain && !panel_hidden(pnlMain))
+        return;
     const bool onTop = pnlMain && pnlShadow && !panel_hidden(pnlMain) && !panel_hidden(pnlShadow) &&
                        !panel_above(pnlMain) && panel_below(pnlMain) == pnlShadow;
     if (!onTop)

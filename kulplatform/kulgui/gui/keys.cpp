@@ -2,20 +2,27 @@
 //
 // The keyboard: standard input, read past curses and stdio.
 //
-// What decides is what one read of up to six bytes would give when all bytes of a key arrive
-// together. On a slow line they come one by one, so the rest of a sequence is awaited; whatever
-// exceeds the six bytes is read as well, and dropped, or its end would look like typed keys.
+// Edition 1: what was typed ahead of a wait is thrown away. What decides is what one read of up to
+// six bytes would give when all bytes of a key arrive together. On a slow line they come one by
+// one, so the rest of a sequence is awaited; whatever exceeds the six bytes is read as well, and
+// dropped, or its end would look like typed keys.
+//
+// Edition 2: everything is read and kept, and given out one key at a time.
 #include "keys.hpp"
 
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <utility>
 
 #include <poll.h>
-#include <sys/select.h>
+#include <term.h>
 #include <unistd.h>
 
 #include "../kulgui.h"
+#include "decoder.hpp"
+#include "description.hpp"
+#include "edition.hpp"
 
 // The order is that of the key codes from KS_F1 on. The first tail that occurs in a sequence wins.
 const char* const szKeystrokes[KUL_KEYSTROKES] = {
@@ -25,15 +32,18 @@ const char* const szKeystrokes[KUL_KEYSTROKES] = {
 namespace {
 
 constexpr std::size_t kKeyBytes = 6;
-constexpr long kWaitMicroseconds = 50000;
+constexpr int kWaitMilliseconds = 50;
 constexpr int kSequenceMilliseconds = 25;
 // A sequence that does not end, and typed-ahead input that does not, are given up here.
 constexpr int kLongestSequence = 1024;
 constexpr int kMostChunks = 4096;
+constexpr int kMostReads = 64;
 // Waits in a row that found the line at its end: three quarters of a second.
 constexpr int kGoneWaits = 15;
 
 int nEndedWaits = 0;
+bool stale = true; // something ran since the last wait, and what was typed then is not for the next
+kul::KeyDecoder decoder;
 
 bool hasInput(int nMilliseconds)
 {
@@ -50,21 +60,18 @@ void drain()
     }
 }
 
-// Waits for the first bytes, as long as a key handler may be kept from its polling, and reads them.
-// Gives their number, 0 for none. A line at its end is readable for ever: the time that a wait
-// takes is spent then as well, or callers would spin.
-std::size_t firstBytes(char* key)
+// Waits for bytes so long, and reads what is there. Gives their number, 0 for none. A line at its
+// end is readable for ever: the time that a wait takes is spent then as well, or callers would
+// spin.
+std::size_t readBytes(char* bytes, std::size_t nMost, int nMilliseconds)
 {
-    fd_set input;
-    FD_ZERO(&input);
-    FD_SET(STDIN_FILENO, &input);
-    timeval limit{0, kWaitMicroseconds};
-    const int nReady = select(STDIN_FILENO + 1, &input, nullptr, nullptr, &limit);
-    const ssize_t got = nReady == 1 ? read(STDIN_FILENO, key, kKeyBytes) : nReady;
+    pollfd input{STDIN_FILENO, POLLIN, 0};
+    const int nReady = poll(&input, 1, nMilliseconds);
+    const ssize_t got = nReady == 1 ? read(STDIN_FILENO, bytes, nMost) : nReady;
     const bool ended = (nReady == 1 && got == 0) || (got < 0 && errno != EAGAIN && errno != EINTR);
     nEndedWaits = ended ? nEndedWaits + 1 : 0;
     if (ended) {
-        const timespec rest{0, kWaitMicroseconds * 1000};
+        const timespec rest{0, kWaitMilliseconds * 1000000L};
         nanosleep(&rest, nullptr);
     }
     return got > 0 ? static_cast<std::size_t>(got) : 0;
@@ -83,6 +90,72 @@ std::size_t readRest(kul::SequenceReader& reader, char* key, std::size_t size)
             key[size++] = byte;
     }
     return size;
+}
+
+// Edition 1's key.
+int firstKey(int nMilliseconds)
+{
+    char key[kKeyBytes];
+    kul::SequenceReader reader;
+    std::size_t size = readBytes(key, kKeyBytes, nMilliseconds);
+    for (std::size_t i = 0; i < size; ++i)
+        reader.feed(static_cast<unsigned char>(key[i]));
+    if (size > 0)
+        size = readRest(reader, key, size);
+    return kul::decodeKey({key, size});
+}
+
+// Tells the decoder the keys of the terminal that curses has open now.
+void learnDescription()
+{
+    static const TERMINAL* learnt = nullptr;
+    if (learnt == cur_term)
+        return;
+    learnt = cur_term;
+    decoder.forget();
+    if (!learnt)
+        return;
+    const struct {
+        const char* szBytes;
+        int nKey;
+    } keys[] = {
+        // clang-format off
+        {key_f1, KS_F1}, {key_f2, KS_F2}, {key_f3, KS_F3}, {key_f4, KS_F4},
+        {key_f5, KS_F5}, {key_f6, KS_F6}, {key_f7, KS_F7}, {key_f8, KS_F8},
+        {key_f9, KS_F9}, {key_f10, KS_F10}, {key_f11, KS_F11}, {key_f12, KS_F12},
+        {key_ic, KS_INSERT}, {key_dc, KS_DELETE}, {key_home, KS_HOME}, {key_end, KS_END},
+        {key_ppage, KS_PAGEUP}, {key_npage, KS_PAGEDOWN}, {key_left, KS_LEFT}, {key_up, KS_UP},
+        {key_down, KS_DOWN}, {key_right, KS_RIGHT}, {key_btab, KS_BACKTAB},
+        {key_backspace, KS_BACKSPACE}, {key_enter, KS_ENTER},
+        // other names for the same, on the keypad and of older keyboards
+        {key_f0, KS_F10}, {key_a1, KS_HOME}, {key_a3, KS_PAGEUP}, {key_c1, KS_END},
+        {key_c3, KS_PAGEDOWN}, {key_ll, KS_END}, {key_find, KS_HOME}, {key_select, KS_END},
+        // with Shift
+        {key_sic, KS_INSERT}, {key_sdc, KS_DELETE}, {key_shome, KS_HOME}, {key_send, KS_END},
+        {key_sprevious, KS_PAGEUP}, {key_snext, KS_PAGEDOWN}, {key_sleft, KS_LEFT},
+        {key_sright, KS_RIGHT}, {key_sr, KS_UP}, {key_sf, KS_DOWN},
+        // clang-format on
+    };
+    for (const auto& key : keys)
+        decoder.learn(kul::isString(key.szBytes) ? key.szBytes : nullptr, key.nKey);
+}
+
+// Edition 2's key. While one has begun, its rest is awaited so long as the decoder says.
+int nextKey(int nMilliseconds)
+{
+    learnDescription();
+    int nKey = decoder.next();
+    for (int i = 0; nKey == 0 && (i == 0 || decoder.patience() > 0) && i < kMostReads; ++i) {
+        const int nPatience = decoder.patience();
+        char bytes[kul::KeyDecoder::kMostBytes];
+        const std::size_t size =
+            readBytes(bytes, sizeof bytes, nPatience > 0 ? nPatience : nMilliseconds);
+        decoder.feed({bytes, size});
+        if (size == 0)
+            decoder.timePassed();
+        nKey = decoder.next();
+    }
+    return nKey;
 }
 
 } // namespace
@@ -159,17 +232,46 @@ bool lineIsGone()
     return nEndedWaits >= kGoneWaits;
 }
 
+void makeTypedAheadStale()
+{
+    stale = true;
+}
+
+void forgetTypedAhead()
+{
+    if (std::exchange(stale, false) && !isEdition2())
+        drain();
+}
+
+bool keyIsOpen()
+{
+    return isEdition2() && decoder.patience() > 0;
+}
+
+int keyAtHand()
+{
+    return isEdition2() ? decoder.next() : 0;
+}
+
+int readKey(int nMilliseconds)
+{
+    const int nKey = isEdition2() ? nextKey(nMilliseconds) : firstKey(nMilliseconds);
+    stale = stale || nKey != 0;
+    return nKey;
+}
+
 } // namespace kul
 
 int Inkeys()
 {
-    char key[kKeyBytes];
-    kul::SequenceReader reader;
+    kul::makeTypedAheadStale();
+    kul::forgetTypedAhead();
+    return kul::readKey(kWaitMilliseconds);
+}
+
+int kulgui_dropKeys()
+{
     drain();
-    std::size_t size = firstBytes(key);
-    for (std::size_t i = 0; i < size; ++i)
-        reader.feed(static_cast<unsigned char>(key[i]));
-    if (size > 0)
-        size = readRest(reader, key, size);
-    return kul::decodeKey({key, size});
+    decoder.clear();
+    return 0;
 }

@@ -24,6 +24,19 @@ private:
 // The key code of the bytes that came together; 0 for none.
 int decodeKey(std::string_view bytes);
 
+// Reads a key, waiting for it so long and for its rest a little longer; 0 for none.
+int readKey(int nMilliseconds);
+
+// Edition 1: what was typed while something else ran (after a key, or in a callback that is told
+// here) is not meant for the next wait, which forgets it.
+void makeTypedAheadStale();
+void forgetTypedAhead();
+
+// Edition 2: the next key of what was read already, 0 for none; and whether the beginning of one
+// was, whose rest is to be read at once.
+int keyAtHand();
+bool keyIsOpen();
+
 // Whether the line has been at its end for so long that nobody will type any more.
 bool lineIsGone();
 

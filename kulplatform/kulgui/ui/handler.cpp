@@ -5,8 +5,11 @@
 
 #include <utility>
 
+#include "../gui/decoder.hpp"
 #include "../gui/keys.hpp"
+#include "../gui/polling.hpp"
 #include "../gui/terminal.hpp"
+#include "../gui/waiting.hpp"
 
 namespace kul {
 
@@ -19,6 +22,14 @@ bool take(int nChain, bool Requests::*request)
 {
     Dialog* dialog = findDialog(nChain);
     return dialog && std::exchange(dialog->asked.*request, false);
+}
+
+// The end of a line in a paste is a blank in a text, and no key elsewhere.
+int meant(int nKey)
+{
+    if (nKey != kPastedNewline)
+        return nKey;
+    return GetCurrentSelection()->nType == TEXTBOX ? KS_SPACE : 0;
 }
 
 } // namespace
@@ -45,15 +56,19 @@ int runHandler(const UIKind& kind, int nChain, int nRef)
     return nResult;
 }
 
+// What was typed ahead is read before the terminal is brought up to date: a paste is shown once for
+// each read.
 int waitOnce()
 {
-    const Pause pause;
     ++nWaits;
+    if (const int nKey = keyAtHand())
+        return meant(nKey);
+    const Pause pause;
     lookAtTerminal();
-    const int nKey = Inkeys();
+    const int nKey = awaitKey();
     if (nKey == 0)
-        ExecPolling();
-    return nKey;
+        pollBetweenWaits();
+    return meant(nKey);
 }
 
 unsigned waits()
