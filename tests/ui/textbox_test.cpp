@@ -1,22 +1,51 @@
 // SPDX-License-Identifier: MIT
-#include "support/window_test.hpp"
-
 #include <climits>
 #include <clocale>
 #include <cstring>
 #include <cwchar>
 
+#include "support/window_test.hpp"
+
 namespace {
 
 using namespace kultest;
 
-constexpr int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, kHome = KS_HOME, kEnd = KS_END;
-constexpr int kBack = KS_BACKSPACE, kDelete = KS_DELETE, kTab = KS_TAB;
+constexpr int kTab = KS_TAB;
 
 struct Box {
     int nWidth, nHeight, nBorder = NOBORDER, nMask = NOMASK;
     const char* szCharSet = nullptr;
+    int nLimit = -1; // none
 };
+
+// What keys do to a text. A bar in a text is the cursor; letters that are capital are keys: Left,
+// Right, Up, Down, Home, End, Backspace, X for Delete, Insert, Page up, Next page.
+struct Script {
+    Box box;
+    std::string before, keys, after;
+    Rows shown{};            // the box; not looked at if empty
+    int nCell = -1;          // the terminal's cursor in it: 10 a row, 1 a column; -1: not looked at
+    Rows shades{};           // its colours, the same
+    std::vector<int> more{}; // keys
+};
+
+std::vector<int> keysOf(std::string_view text)
+{
+    constexpr std::string_view kLetters = "LRUDHEBXIPN";
+    constexpr int kKeys[] = {KS_LEFT,      KS_RIGHT,  KS_UP,     KS_DOWN,   KS_HOME,    KS_END,
+                             KS_BACKSPACE, KS_DELETE, KS_INSERT, KS_PAGEUP, KS_PAGEDOWN};
+    std::vector<int> keys;
+    while (!text.empty()) {
+        wchar_t character = static_cast<unsigned char>(text[0]);
+        std::mbstate_t state{};
+        const std::size_t size = MB_CUR_MAX == 1 ? 1 : std::mbrtowc(&character, text.data(), text.size(), &state);
+        const std::size_t letter = kLetters.find(text[0]);
+        const bool wide = MB_CUR_MAX > 1 && character > 127;
+        keys.push_back(letter != kLetters.npos ? kKeys[letter] : character + (wide ? KUL_CHARACTER : 0));
+        text.remove_prefix(size);
+    }
+    return keys;
+}
 
 class TextboxTest : public ComponentTest {
 protected:
@@ -24,6 +53,13 @@ protected:
     {
         ComponentTest::SetUp();
         ASSERT_EQ(kultextbox_create(1, kRef), 0);
+    }
+
+    void TearDown() override
+    {
+        ComponentTest::TearDown();
+        setlocale(LC_CTYPE, "C");
+        kulgui_setEdition(1);
     }
 
     static KULTEXTBOX& box() { return record<KULTEXTBOX>(); }
@@ -36,124 +72,116 @@ protected:
             [] { note("focus"); }, [] { note("unfocus"); }, onKey);
     }
 
-    static void fill(const Box& size, const char* szText, int nCursorPos)
+    // A new box with a text.
+    void fill(const Box& size, std::string text)
     {
+        renew();
+        EXPECT_EQ(kultextbox_create(1, kRef), 0);
         EXPECT_EQ(config(size), 0);
-        EXPECT_EQ(kultextbox_setText(1, kRef, szText), 0);
-        box().nCursorPos = nCursorPos;
+        EXPECT_EQ(size.nLimit < 0 ? 0 : kultextbox_setLimit(1, kRef, size.nLimit), 0);
+        const std::size_t cursor = text.find('|');
+        if (cursor != text.npos)
+            text.erase(cursor, 1);
+        EXPECT_EQ(kultextbox_setText(1, kRef, text.c_str()), 0);
+        if (cursor != text.npos)
+            box().nCursorPos = static_cast<int>(cursor);
+    }
+
+    void play(const Script& script)
+    {
+        SCOPED_TRACE(script.before + " + " + script.keys + " -> " + script.after);
+        const Box& size = script.box;
+        fill(size, script.before);
+        std::vector<int> keys = keysOf(script.keys);
+        keys.insert(keys.end(), script.more.begin(), script.more.end());
+        EXPECT_EQ(press(keys), KUL_LEFT);
+        std::string after = kultextbox_getText(1, kRef);
+        EXPECT_EQ(box().nLength, static_cast<int>(after.size()));
+        EXPECT_EQ(after.insert(static_cast<std::size_t>(box().nCursorPos), "|"), script.after);
+        if (!script.shown.empty()) {
+            EXPECT_EQ(shown(2, 2, size.nHeight, size.nWidth), script.shown);
+        }
+        if (!script.shades.empty()) {
+            EXPECT_EQ(shades(2, 2, size.nHeight, size.nWidth), script.shades);
+        }
+        if (script.nCell >= 0) {
+            EXPECT_EQ(10 * (getcury(newscr) - 2) + getcurx(newscr) - 2, script.nCell);
+        }
     }
 };
 
-TEST_F(TextboxTest, Edits)
+TEST_F(TextboxTest, EditsAndDraws)
 {
-    const Box rows{4, 3}, two{4, 2}, framed{6, 5, BORDER}, line{6, 1};
+    const Box rows{4, 3}, two{4, 2}, framed{6, 5, BORDER}, line{6, 1}, masked{4, 1, NOBORDER, MASK};
     const Box digits{9, 1, NOBORDER, NOMASK, "0123456789.\xe8"}, none{9, 1, NOBORDER, NOMASK, ""};
-    const struct {
-        Box box;
-        const char* szText;
-        int nCursorPos;
-        std::vector<int> keys;
-        const char* szAfter;
-        int nAfter;
-    } scripts[] = {
-        {rows, "abc", 1, {'x'}, "axc", 2},
-        {rows, "abc", 3, {'d', 'e'}, "abcde", 5},
-        {rows, "", 0, {'a', ' ', '~', 255}, "a ~\xff", 4},
-        {rows, "abc", 1, {kBack}, "bc", 0},
-        {rows, "abc", 0, {kBack}, "abc", 0},
-        {rows, "abc", 3, {kBack, kBack, kBack, kBack}, "", 0},
-        {rows, "abc", 1, {kDelete}, "ac", 1},
-        {rows, "abc", 2, {kDelete, kDelete}, "a", 1},
-        {rows, "", 0, {kDelete}, "", 0},
-        {rows, "abcdef", 2, {kHome, 'x'}, "xbcdef", 1},
-        {rows, "abcdef", 2, {kEnd, 'x'}, "abcdefx", 7},
-        {rows, "abc", 0, {L, R, R, R, R, L}, "abc", 2},
-        {two, "abcdef", 1, {D}, "abcdef", 5},
-        {rows, "abcdef", 3, {D}, "abcdef", 3},
-        {rows, "abcdef", 2, {D}, "abcdef", 6},
-        {two, "abcdef", 4, {U}, "abcdef", 0},
-        {rows, "abcdef", 3, {U}, "abcdef", 3},
-        {framed, "abcdef", 0, {R, D}, "abcdef", 5},
-        {line, "abcde", 5, {'f', U}, "abcdef", 6},
-        {line, "abcde", 5, {'f', kHome, D}, "abcdef", 0},
-        {rows, "abcdefghijk", 11, {'l', 'm'}, "abcdefghijkl", 12},
-        {rows, "abc", 1, {KS_F1, KS_F2, KS_F12, KS_INSERT, KS_PAGEUP, 1, 31, 256, -23, 0}, "abc", 1},
-        {rows, "abc", INT_MAX, {'d'}, "abcd", 4},
-        {rows, "abc", INT_MIN, {kDelete}, "bc", 0},
-        {digits,
-         "",
-         0,
-         {'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256},
-         "19.\xe8"
-         "0",
-         5},
-        {none, "", 0, {'1', 256}, "", 0},
+    const int kNone[] = {KS_F1, KS_F2, KS_F12, KS_INSERT, KS_PAGEUP, 1, 31, 256, -23, 0};
+    const int kLowBytes[] = {'1', 'a', '9', 256, '.', KS_F1, 0x3e8 + 256, KS_INSERT, ' ', '0' - 256};
+    const Script scripts[] = {
+        {rows, "a|bc", "x", "ax|c"},
+        {rows, "|", "a ~\xff", "a ~\xff|"},
+        {rows, "a|bc", "BB", "|bc"},
+        {rows, "a|bcd", "XXXXX", "|"},
+        {rows, "ab|cdef", "HxEy", "xbcdefy|"},
+        {rows, "|abc", "LRRRRL", "ab|c"},
+        {two, "a|bcdef", "D", "abcde|f"},
+        {rows, "abc|def", "DU", "abc|def"},
+        {rows, "ab|cdef", "D", "abcdef|"},
+        {two, "abcd|ef", "U", "|abcdef"},
+        {framed, "|abcdef", "RD", "abcde|f"},
+        {line, "abcde|", "fU", "abcdef|"},
+        {line, "abcde|", "fHD", "|abcdef"},
+        {rows, "abcdefghijk|", "lm", "abcdefghijkl|"},
+        {rows, "a|bc", "", "a|bc", {}, -1, {}, {std::begin(kNone), std::end(kNone)}},
+        {digits, "|", "", "19.\3500|", {}, -1, {}, {std::begin(kLowBytes), std::end(kLowBytes)}},
+        {none, "|", "1", "|", {}, -1, {}, {256}},
+        {two, "abcdef|", "", "abcdef|", {"abcd", "ef  "}, -1, {"ffff", "ffFf"}},
+        {two, "abcd|", "", "abcd|", {"abcd", "    "}, -1, {"ffff", "Ffff"}},
+        {rows, "a|bcd  ef", "", "a|bcd  ef", {"abcd", "ef  ", "    "}, -1, {"fFff", "ffff", "ffff"}},
+        {rows, "abcd|   ef", "", "abcd|   ef", {"abcd", "   e", "f   "}, -1, {"ffff", "Ffff", "ffff"}}, // all but one
+        {masked, "a| b", "", "a| b", {"*** "}, -1, {"fFff"}},
+        {masked, "|", "", "|", {"    "}, -1, {"Ffff"}},
+        {two, "|a\nb\tc", "", "|a\nb\tc", {"a b ", "c   "}, -1, {"Ffff", "ffff"}},
+        {{4, 3, BORDER}, "|x", "", "|x", {"┌──┐", "│x │", "└──┘"}, -1, {"ffff", "fFff", "ffff"}},
     };
-    for (const auto& script : scripts) {
-        SCOPED_TRACE(std::string(script.szText) + "->" + script.szAfter);
-        fill(script.box, script.szText, script.nCursorPos);
-        EXPECT_EQ(press(script.keys), KUL_LEFT);
-        EXPECT_STREQ(kultextbox_getText(1, kRef), script.szAfter);
-        EXPECT_EQ(box().nCursorPos, script.nAfter);
-        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(script.szAfter)));
-    }
-}
-
-TEST_F(TextboxTest, Draws)
-{
-    const struct {
-        Box box;
-        const char* szText;
-        int nCursorPos;
-        Rows rows, shades;
-    } boxes[] = {
-        {{4, 2}, "abcdef", 6, {"abcd", "ef  "}, {"ffff", "ffFf"}},
-        {{4, 2}, "abcd", 4, {"abcd", "    "}, {"ffff", "Ffff"}},
-        {{4, 3}, "abcd  ef", 1, {"abcd", "ef  ", "    "}, {"fFff", "ffff", "ffff"}},
-        {{4, 3}, "abcd   ef", 4, {"abcd", "   e", "f   "}, {"ffff", "Ffff", "ffff"}}, // too many to be skipped
-        {{4, 1, NOBORDER, MASK}, "a b", 1, {"*** "}, {"fFff"}},
-        {{4, 1, NOBORDER, MASK}, "", 0, {"    "}, {"Ffff"}},
-        {{4, 2}, "a\nb\tc", 0, {"a b ", "c   "}, {"Ffff", "ffff"}},
-        {{4, 3, BORDER}, "x", 0, {"┌──┐", "│x │", "└──┘"}, {"ffff", "fFff", "ffff"}},
-    };
-    for (const auto& row : boxes) {
-        SCOPED_TRACE(row.szText);
-        fill(row.box, row.szText, row.nCursorPos);
-        press({});
-        EXPECT_EQ(shown(2, 2, row.box.nHeight, 4), row.rows);
-        EXPECT_EQ(shades(2, 2, row.box.nHeight, 4), row.shades);
-    }
+    for (const Script& script : scripts)
+        play(script);
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
     EXPECT_EQ(shades(3, 2, 1, 4), (Rows{"uuuu"}));
     box().nEnable = 0;
     kulgui_show(1);
     EXPECT_EQ(shades(3, 2, 1, 4), (Rows{"dddd"}));
+    fill(rows, "abc");
+    for (const auto& [nCursor, nKey, nAfter] : {std::tuple(INT_MAX, 'd', 4), {INT_MIN, +KS_DELETE, 0}}) {
+        box().nCursorPos = nCursor;
+        press({nKey});
+        EXPECT_EQ(box().nCursorPos, nAfter);
+    }
 }
 
 TEST_F(TextboxTest, DrawsItsInsideInAnyColour)
 {
     const struct {
         Box box;
-        std::vector<int> keys;
+        const char* szText;
         int nCursor;
         Rows rows, shades;
     } boxes[] = {
-        {{4, 3, BORDER}, {'a', 'b'}, SHOWCURSOR, {"┌──┐", "│ab ", "└──┘"}, {"ffff", "fuuU", "ffff"}},
-        {{4, 3, BORDER, MASK}, {'a', 'b'}, HIDECURSOR, {"┌──┐", "│***", "└──┘"}, {"ffff", "fuuu", "ffff"}},
-        {{3, 3}, {'a', 'b', 'c', ' ', 'd'}, SHOWCURSOR, {"abc", " d ", "   "}, {"uuu", "uuU", "fff"}},
+        {{4, 3, BORDER}, "ab", SHOWCURSOR, {"┌──┐", "│ab ", "└──┘"}, {"ffff", "fuuU", "ffff"}},
+        {{4, 3, BORDER, MASK}, "ab", HIDECURSOR, {"┌──┐", "│***", "└──┘"}, {"ffff", "fuuu", "ffff"}},
+        {{3, 3}, "abc d", SHOWCURSOR, {"abc", " d ", "   "}, {"uuu", "uuU", "fff"}},
     };
     for (const auto& row : boxes) {
         config(row.box);
         box().nCursor = row.nCursor;
-        press(row.keys);
+        press(keysOf(row.szText));
         DrawTextBox(GetChain(1)->Pointer, &box(), RED_WHITE);
         EXPECT_EQ(shown(2, 2, 3, row.box.nWidth), row.rows);
         EXPECT_EQ(shades(2, 2, 3, row.box.nWidth), row.shades);
     }
 }
 
-TEST_F(TextboxTest, RunsCallbacksInOrder)
+TEST_F(TextboxTest, RunsCallbacksInOrderAndAsksBeforeTheUserGoesOn)
 {
     for (const auto& [nKey, nResult] : {std::pair(kTab, 10), {KS_ENTER, 10}, {KS_ESC, -10}}) {
         config({9, 1});
@@ -162,6 +190,32 @@ TEST_F(TextboxTest, RunsCallbacksInOrder)
         EXPECT_EQ(events, "focus0 a0 a0 a0 unfocus0 ");
         EXPECT_EQ(GetCurrentComponentType(), TEXTBOX);
     }
+    config({9, 1}, nullptr);
+    const auto check = [](const char* szText) {
+        note(szText);
+        return std::strcmp(szText, "ok");
+    };
+    EXPECT_EQ(kultextbox_setCheck(1, kRef, check), 0);
+    events.clear();
+    EXPECT_EQ(press({'o', kTab, KS_ENTER, 'k', kTab, 'x'}), 10);
+    EXPECT_EQ(events, "focus0 o0 o0 ok0 unfocus0 ");
+    EXPECT_EQ(press({'x', KS_ESC}), -10);
+    EXPECT_EQ(press({'x'}), KUL_LEFT);
+    kulgui_setEdition(2);
+    kulbutton_create(1, 6);
+    kulbutton_config(1, 6, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 8, 1, "OK", nullptr, nullptr, nullptr,
+                     [] { note("click"); });
+    kulgui_setDefault(1, 6);
+    kulgui_setHotkey(1, 6, KS_F1);
+    kultextbox_setText(1, kRef, "");
+    events.clear();
+    EXPECT_EQ(press({KS_ENTER, KS_BACKTAB, KS_F1, 'o', 'k', KS_ENTER, 'k', KS_ESC}), KUL_CANCELLED);
+    EXPECT_EQ(events, "focus0 0 0 0 ok0 click0 unfocus0 ");
+    kultextbox_setCheck(1, kRef, [](const char*) {
+        kulgui_destroy(1);
+        return 1;
+    });
+    EXPECT_EQ(press({kTab}), -10000);
 }
 
 TEST_F(TextboxTest, HasBoxesOfAnySize)
@@ -174,13 +228,16 @@ TEST_F(TextboxTest, HasBoxesOfAnySize)
         {INT_MAX, INT_MAX, NOBORDER, -1, 0}, {INT_MAX, 3, BORDER, -1, 0},
     };
     // clang-format on
-    for (const auto& row : boxes) {
-        SCOPED_TRACE(std::to_string(row.nWidth) + " x " + std::to_string(row.nHeight));
-        EXPECT_EQ(config({row.nWidth, row.nHeight, row.nBorder}), row.nResult);
-        EXPECT_EQ(box().nMaxLength, row.nMaxLength);
-        EXPECT_EQ(box().nBorder, row.nBorder == BORDER ? BORDER : NOBORDER);
-        EXPECT_EQ(press({'a', 'b', U, D, L, kDelete, kBack}), KUL_LEFT);
-        EXPECT_EQ(box().nLength, 0);
+    for (const int nEdition : {1, 2}) {
+        kulgui_setEdition(nEdition);
+        for (const auto& row : boxes) {
+            SCOPED_TRACE(std::to_string(row.nWidth) + " x " + std::to_string(row.nHeight));
+            EXPECT_EQ(config({row.nWidth, row.nHeight, row.nBorder}), row.nResult);
+            EXPECT_EQ(box().nMaxLength, row.nMaxLength);
+            EXPECT_EQ(box().nBorder, row.nBorder == BORDER ? BORDER : NOBORDER);
+            EXPECT_EQ(press(keysOf("abUDPNIL\x17XB")), KUL_LEFT);
+            EXPECT_EQ(box().nLength, 0);
+        }
     }
 }
 
@@ -213,10 +270,35 @@ TEST_F(TextboxTest, SetsItsText)
     {
         const FailingMemory failing(0);
         EXPECT_LT(kultextbox_create(1, 7), 0);
+        EXPECT_EQ(kultextbox_setLimit(1, kRef, 1000), -1);
+        EXPECT_STREQ(kultextbox_getText(1, kRef), "abcd");
         EXPECT_EQ(config({5, 1}), -1);
     }
     EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
     EXPECT_EQ(kultextbox_setText(1, kRef, "x"), -1);
+}
+
+TEST_F(TextboxTest, ClearsItsTextFromMemory)
+{
+    const Box masked{8, 1, NOBORDER, MASK};
+    const KULCALLBACK ways[] = {
+        [] {
+            config({8, 1});
+        },
+        [] { kultextbox_setLimit(1, kRef, 1000); },
+        [] {
+            kultextbox_setText(1, kRef, "x");
+            press({KS_DELETE});
+            EXPECT_EQ(std::string(box().szText, 6), std::string(6, '\0')) << "what is replaced";
+            kulgui_destroy(1);
+        },
+    };
+    for (const auto way : ways) {
+        fill(masked, "secret");
+        watchFree(box().szText, 7);
+        way();
+        EXPECT_TRUE(wasFreedClear());
+    }
 }
 
 TEST_F(TextboxTest, AnswersUnknownAndOther)
@@ -225,24 +307,29 @@ TEST_F(TextboxTest, AnswersUnknownAndOther)
     EXPECT_EQ(kultextbox_create(1, 2), -10026);
     EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
     EXPECT_EQ(kultextbox_setText(1, kRef, "not set up"), -1);
-    EXPECT_EQ(press({'a', kDelete, kBack, kEnd}), KUL_LEFT);
+    EXPECT_EQ(kultextbox_setLimit(1, kRef, 1), -1);
+    EXPECT_EQ(press(keysOf("aXBE")), KUL_LEFT);
     for (const int nRef : {2, 99, INT_MIN}) {
         EXPECT_EQ(config({9, 9}, nullptr, nRef), -1);
         EXPECT_EQ(kultextbox_setText(1, nRef, "x"), -1);
         EXPECT_EQ(kultextbox_getText(1, nRef), nullptr);
+        EXPECT_EQ(kultextbox_setCheck(1, nRef, nullptr) + kultextbox_setLimit(1, nRef, 1), -2);
+        EXPECT_EQ(kultextbox_setCursor(1, nRef, 0), -1);
         EXPECT_EQ(kultextbox_execKeys(1, nRef), -10000);
     }
     kultextbox_hide(1, kRef);
     EXPECT_EQ(kultextbox_execKeys(1, kRef), 10);
-    KULTEXTBOX own{};
-    own.nLength = 3; // the cursor moves without a text as well
-    for (const auto step : {TextBoxGoEnd, TextBoxGoLeft, TextBoxDelete, TextBoxBackspace}) {
-        step(&own);
-        step(nullptr);
+    for (const int nEdition : {1, 2}) {
+        kulgui_setEdition(nEdition);
+        KULTEXTBOX own{};
+        own.nLength = 3; // the cursor moves without a text as well
+        for (const auto step : {TextBoxGoEnd, TextBoxGoLeft, TextBoxDelete, TextBoxBackspace, TextBoxGoUp}) {
+            step(&own);
+            step(nullptr);
+        }
+        TextBoxCharacter(&own, 'x');
+        EXPECT_EQ(own.nCursorPos, 2);
     }
-    TextBoxCharacter(&own, 'x');
-    EXPECT_EQ(own.nCursorPos, 2);
-    TextBoxGoUp(nullptr);
     TextBoxCharacter(nullptr, 'x');
     DrawTextBox(nullptr, nullptr, 0);
     ShowTextboxComponent(nullptr, nullptr, 0);
@@ -298,118 +385,62 @@ protected:
         setlocale(LC_CTYPE, "C.UTF-8");
         TextboxTest::SetUp();
     }
-
-    void TearDown() override
-    {
-        TextboxTest::TearDown();
-        setlocale(LC_CTYPE, "C");
-        kulgui_setEdition(1);
-    }
-
-    // The keys of a text's letters, and some more.
-    static std::vector<int> keysOf(const char* szText, const std::vector<int>& more)
-    {
-        std::vector<int> keys;
-        for (std::string_view rest = szText; !rest.empty();) {
-            wchar_t character = 0;
-            std::mbstate_t state{};
-            rest.remove_prefix(std::mbrtowc(&character, rest.data(), rest.size(), &state));
-            keys.push_back(character < 128 ? character : KUL_CHARACTER + character);
-        }
-        keys.insert(keys.end(), more.begin(), more.end());
-        return keys;
-    }
 };
 
 TEST_F(LetterBoxTest, Edits)
 {
-    const Box line{6, 1}, rows{4, 3}, two{4, 2}, framed{6, 4, BORDER}, masked{6, 1, NOBORDER, MASK};
-    const Box set{6, 1, NOBORDER, NOMASK, "äöü中"};
-    const auto control = [](char letter) { return letter - '@'; };
-    const int kInsert = KS_INSERT, kPageUp = KS_PAGEUP, kPageDown = KS_PAGEDOWN;
-    const struct {
-        Box box;
-        int nLimit; // -1: none
-        const char *szText, *szTyped;
-        std::vector<int> keys;
-        const char* szAfter;
-        Rows shown;
-        std::pair<int, int> cursor; // row and column in the box
-    } scripts[] = {
-        {line, -1, "Gr", "öße", {}, "Größe", {"Größe "}, {0, 5}},
-        {line, -1, "ac", "", {L, 'b'}, "abc", {"abc   "}, {0, 2}},
-        {line, -1, "中b", "", {kHome, kInsert, 'x', kInsert, 'y'}, "xyb", {"xyb   "}, {0, 2}},
-        {line, -1, "a", "", {kInsert, 'b', L, kInsert, 'x'}, "axb", {"axb   "}, {0, 2}},
-        {line, -1, "abcde", "fg", {}, "abcdef", {"abcdef"}, {0, 5}}, // full: on the last cell
-        {line, 9, "", "äöüäöü中中中中", {}, "äöüäöü中中中", {"中    "}, {0, 2}},
-        {line, 9, "", "abcdefg", {}, "abcdefg", {"efg   "}, {0, 3}},
-        {line, 9, "abcdefg", "", {L, L, L}, "abcdefg", {"bcdefg"}, {0, 3}},
-        {line, 9, "abcdefg", "", {kHome}, "abcdefg", {"abcdef"}, {0, 0}},
-        {line, 9, "abcdefg", "", {kHome, R, R, R, R, R, R}, "abcdefg", {"defg  "}, {0, 3}},
-        {{2, 1}, 9, "a中", "", {L}, "a中", {"中"}, {0, 0}},
-        {line, 9, "abcd中", "", {kHome, R, R, R, R}, "abcd中", {"abcd中"}, {0, 4}},
-        {line, -1, "xa\u0308b", "", {L, kBack}, "xb", {"xb    "}, {0, 1}},
-        {line, -1, "a\u0308b", "", {kHome, kDelete}, "b", {"b     "}, {0, 0}},
-        {line, -1, "中b", "", {kDelete, kDelete, 'c'}, "c", {"c     "}, {0, 1}},
-        {line, -1, "", "\u0308u\u0308\u0301", {L, R, R}, "u\u0308\u0301", {"u\u0308\u0301     "}, {0, 1}},
-        {{3, 1},
-         -1,
-         "",
-         "a\u0308b\u0308c\u0308d\u0308",
-         {},
-         "a\u0308b\u0308c\u0308",
-         {"a\u0308b\u0308c\u0308"},
-         {0, 2}},
-        {set, -1, "", "aäxö中", {KS_F1}, "äö中", {"äö中  "}, {0, 4}},
-        {masked, -1, "", "中b\u0308", {}, "中b\u0308", {"**    "}, {0, 2}},
-        {line, -1, "a b  ", "", {control('W')}, "a ", {"a     "}, {0, 2}},
-        {line, -1, "abc", "", {L, control('U')}, "c", {"c     "}, {0, 0}},
-        {line, -1, "abc", "", {L, control('K')}, "ab", {"ab    "}, {0, 2}},
-        {line, -1, "b", "", {control('A'), 'a', control('E'), 'c'}, "abc", {"abc   "}, {0, 3}},
-        {line,
-         -1,
-         "a",
-         "\u202e\u0085\u2028",
-         {2, 31, 127 + 1, 255, 256, KS_ALT + 'x', -28, KUL_CHARACTER, INT_MAX},
-         "a",
-         {"a     "},
-         {0, 1}},
-        {line, 0, "", "a", {}, "", {"      "}, {0, 0}},
-        {rows, -1, "", "abcd  ef", {}, "abcd  ef", {"abcd", "  ef", "    "}, {2, 0}},
-        {two, -1, "", "abc中de", {}, "abc中de", {"abc ", "中de"}, {1, 3}},
-        {two, 99, "", "abcdefghi", {}, "abcdefghi", {"efgh", "i   "}, {1, 1}},
-        {two, 99, "abcdefghi", "", {U, U}, "abcdefghi", {"abcd", "efgh"}, {0, 1}},
-        {two, 99, "abcdefghi", "", {U, U, U, D}, "abcdefghi", {"abcd", "efgh"}, {1, 1}},
-        {two, 99, "abcdefghijklm", "", {kPageUp, kPageUp}, "abcdefghijklm", {"abcd", "efgh"}, {0, 1}},
-        {two, 99, "abcdefghi", "", {kHome, R, R, kPageDown}, "abcdefghi", {"efgh", "i   "}, {1, 1}},
-        {two, 99, "abcdefghi", "", {kBack}, "abcdefgh", {"abcd", "efgh"}, {1, 3}},
-        {two, 99, "abcdefghijkl", "", {control('W')}, "", {"    ", "    "}, {0, 0}},
-        {two, -1, "abcdef", "", {kHome, R, R, R, D, D}, "abcdef", {"abcd", "ef  "}, {1, 2}},
-        {{1, 3}, -1, "中a", "", {}, "中a", {"?", "a", " "}, {2, 0}},
-        {framed, -1, "äbcde", "", {U}, "äbcde", {"┌────┐", "│äbcd│", "│e   │", "└────┘"}, {1, 2}},
-        {line, -1, "a\tb\xc3", "", {}, "a\tb\xc3", {"a b?  "}, {0, 4}},
+    const Box line{6, 1}, rows{4, 3}, two{4, 2}, three{3, 1}, framed{6, 4, BORDER}, masked{6, 1, NOBORDER, MASK};
+    const Box set{6, 1, NOBORDER, NOMASK, "äöü中"}, nine{6, 1, NOBORDER, NOMASK, nullptr, 9};
+    const Box nothing{6, 1, NOBORDER, NOMASK, nullptr, 0}, many{4, 2, NOBORDER, NOMASK, nullptr, 99};
+    const std::vector<int> none = {2, 31, 128, 255, 256, KS_ALT + 'x', -28, KUL_CHARACTER, INT_MAX, KS_F1};
+    const Script scripts[] = {
+        {line, "Gr", "öße", "Größe|", {"Größe "}, 5},
+        {line, "ac", "Lb", "ab|c", {"abc   "}, 2},
+        {line, "中b", "HIxIy", "xy|b", {"xyb   "}, 2},
+        {line, "a", "IbLIx", "ax|b", {"axb   "}, 2},
+        {line, "abcde", "fg", "abcdef|", {"abcdef"}, 5}, // full: on the last cell
+        {line, "xa\u0308b", "LB", "x|b", {"xb    "}, 1},
+        {line, "a\u0308b", "HX", "|b", {"b     "}, 0},
+        {line, "中b", "XXc", "c|", {"c     "}, 1},
+        {line, "", "\u0308u\u0308\u0301LRR", "u\u0308\u0301|", {"u\u0308\u0301     "}, 1},
+        {three, "", "a\u0308b\u0308c\u0308d\u0308", "a\u0308b\u0308c\u0308|", {"a\u0308b\u0308c\u0308"}, 2},
+        {line, "a\tb\xc3", "", "a\tb\xc3|", {"a b?  "}, 4},
+        {line, "a", "\u202e\u0085\u2028", "a|", {"a     "}, 1, {}, none},
+        {set, "", "aäxö中", "äö中|", {"äö中  "}, 4},
+        {masked, "", "中b\u0308", "中b\u0308|", {"**    "}, 2},
+        {nothing, "", "a", "|", {"      "}, 0},
+        {line, "a b  ", "\x17", "a |", {"a     "}, 2},
+        {line, "abc", "L\x15", "|c", {"c     "}, 0},
+        {line, "abc", "L\x0b", "ab|", {"ab    "}, 2},
+        {line, "b", "\1a\5c", "abc|", {"abc   "}, 3},
+        {nine, "", "äöüäöü中中中中", "äöüäöü中中中|", {"中    "}, 2},
+        {nine, "", "abcdefg", "abcdefg|", {"efg   "}, 3},
+        {nine, "abcdefg", "LLL", "abcd|efg", {"bcdefg"}, 3},
+        {nine, "abcdefg", "H", "|abcdefg", {"abcdef"}, 0},
+        {nine, "abcdefg", "HRRRRRR", "abcdef|g", {"defg  "}, 3},
+        {{2, 1, NOBORDER, NOMASK, nullptr, 9}, "a中", "L", "a|中", {"中"}, 0},
+        {nine, "abcd中", "L", "abcd|中", {"abcd中"}, 4},
+        {rows, "", "abcd  ef", "abcd  ef|", {"abcd", "  ef", "    "}, 20}, // blanks stay
+        {two, "", "abc中de", "abc中de|", {"abc ", "中de"}, 13},
+        {two, "abcdef", "HRRRDD", "abcdef|", {"abcd", "ef  "}, 12},
+        {{1, 3}, "中a", "", "中a|", {"?", "a", " "}, 20},
+        {framed, "äbcde", "U", "ä|bcde", {"┌────┐", "│äbcd│", "│e   │", "└────┘"}, 12},
+        {many, "", "abcdefghi", "abcdefghi|", {"efgh", "i   "}, 11},
+        {many, "abcdefghi", "UUU", "a|bcdefghi", {"abcd", "efgh"}, 1},
+        {many, "abcdefghi", "UUD", "abcde|fghi", {"abcd", "efgh"}, 11},
+        {many, "abcdefghijklm", "PP", "a|bcdefghijklm", {"abcd", "efgh"}, 1},
+        {many, "ab|cdefghi", "N", "abcdefghi|", {"efgh", "i   "}, 11},
+        {many, "abcdefghi", "B", "abcdefgh|", {"abcd", "efgh"}, 13},
+        {many, "abcdefghijkl", "\x17", "|", {"    ", "    "}, 0},
     };
-    for (const auto& script : scripts) {
-        SCOPED_TRACE(std::string(script.szText) + "+" + script.szTyped + "->" + script.szAfter);
-        renew();
-        kultextbox_create(1, kRef);
-        config(script.box, nullptr);
-        if (script.nLimit >= 0) {
-            EXPECT_EQ(kultextbox_setLimit(1, kRef, script.nLimit), 0);
-        }
-        EXPECT_EQ(kultextbox_setText(1, kRef, script.szText), 0);
-        EXPECT_EQ(press(keysOf(script.szTyped, script.keys)), KUL_LEFT);
-        EXPECT_STREQ(kultextbox_getText(1, kRef), script.szAfter);
-        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(script.szAfter)));
-        EXPECT_EQ(shown(2, 2, script.box.nHeight, script.box.nWidth), script.shown);
-        EXPECT_EQ(std::pair(getcury(newscr) - 2, getcurx(newscr) - 2), script.cursor);
-    }
+    for (const Script& script : scripts)
+        play(script);
 }
 
 TEST_F(LetterBoxTest, TakesTextsAndLimits)
 {
-    config({3, 1}, nullptr);
-    for (const auto& [szText, nResult] : {std::pair("äöü", 0), {"中b\u0308c", 0}, {"äöüx", -1}, {"", 0}, {"äöü", 0}}) {
+    config({3, 1});
+    for (const auto& [szText, nResult] : {std::pair("äöü", 0), {"中b\u0308c", 0}, {"äöüx", -1}, {"äöü", 0}}) {
         EXPECT_EQ(kultextbox_setText(1, kRef, szText), nResult) << szText;
         EXPECT_STREQ(kultextbox_getText(1, kRef), nResult == 0 ? szText : "");
         EXPECT_EQ(box().nCursorPos, box().nLength);
@@ -422,81 +453,12 @@ TEST_F(LetterBoxTest, TakesTextsAndLimits)
         EXPECT_EQ(kultextbox_setCursor(1, kRef, nCharacter), nPlace < 0 ? -1 : 0);
         EXPECT_EQ(box().nCursorPos, nPlace < 0 ? 6 : nPlace);
     }
-    config({3, 1}, nullptr);
-    kultextbox_setText(1, kRef, "äöü");
-    const FailingMemory failing(0);
-    EXPECT_EQ(kultextbox_setLimit(1, kRef, 1000), -1);
-    EXPECT_STREQ(kultextbox_getText(1, kRef), "äöü");
-}
-
-// A long paste into a box that is full soon, and what is then behind the view.
-TEST_F(LetterBoxTest, TakesALongPaste)
-{
-    config({5, 1}, nullptr);
-    kultextbox_setLimit(1, kRef, 20000);
-    std::vector<int> keys(20100, KUL_CHARACTER + L'中');
-    keys.insert(keys.end(), {kHome, kEnd, L, kBack});
-    press(keys);
-    EXPECT_EQ(box().nLength, 3 * 19999);
-    EXPECT_EQ(shown(2, 2, 1, 5), (Rows{"中中 "}));
-}
-
-TEST_F(TextboxTest, AsksBeforeTheUserGoesOn)
-{
-    config({9, 1}, nullptr);
-    const auto check = [](const char* szText) {
-        note(szText);
-        return std::strcmp(szText, "ok");
-    };
-    EXPECT_EQ(kultextbox_setCheck(1, kRef, check), 0);
-    EXPECT_EQ(press({'o', kTab, KS_ENTER, 'k', kTab, 'x'}), 10);
-    EXPECT_EQ(events, "focus0 o0 o0 ok0 unfocus0 ");
-    EXPECT_EQ(press({'x', KS_ESC}), -10);
-    EXPECT_EQ(press({'x'}), KUL_LEFT);
-    kultextbox_setCheck(1, kRef, [](const char*) {
-        kulgui_destroy(1);
-        return 1;
-    });
-    EXPECT_EQ(press({kTab}), -10000);
-    for (const auto result :
-         {kultextbox_setCheck(1, kRef, check), kultextbox_setLimit(1, kRef, 1), kultextbox_setCursor(1, kRef, 0)})
-        EXPECT_EQ(result, -1);
-}
-
-TEST_F(TextboxTest, ClearsItsTextFromMemory)
-{
-    const KULCALLBACK ways[] = {
-        [] {
-            config({8, 1, NOBORDER, MASK});
-        },
-        [] { kultextbox_setLimit(1, kRef, 1000); },
-        [] { kulgui_destroy(1); },
-        [] {
-            kultextbox_setText(1, kRef, "");
-            press({'a', 'b', kBack, kBack});
-            kulgui_destroy(1);
-        },
-    };
-    for (const auto way : ways) {
-        renew();
-        kultextbox_create(1, kRef);
-        fill({8, 1, NOBORDER, MASK}, "secret", 0);
-        const char* szText = kultextbox_getText(1, kRef);
-        watchFree(szText, 7);
-        way();
-        EXPECT_TRUE(wasFreedClear());
-    }
-    renew();
-    kultextbox_create(1, kRef);
-    fill({8, 1, NOBORDER, MASK}, "secret", 0);
-    kultextbox_setText(1, kRef, "x");
-    EXPECT_EQ(std::string(kultextbox_getText(1, kRef), 6), std::string("x\0\0\0\0\0", 6));
 }
 
 TEST_F(LetterBoxTest, IsUnderlinedWithoutColours)
 {
     const NoColors none;
-    fill({4, 3, BORDER}, "a", 0);
+    fill({4, 3, BORDER}, "a");
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
     for (int nX = 0; nX < 4; ++nX)

@@ -37,7 +37,7 @@ void replaceText(KULTEXTBOX& box, int nFrom, int nTo, std::string_view bytes)
     const int nEnd = nFrom + static_cast<int>(bytes.size());
     const int nRest = box.nLength - nTo;
     std::memmove(box.szText + nEnd, box.szText + nTo, static_cast<std::size_t>(nRest));
-    std::memmove(box.szText + nFrom, bytes.data(), bytes.size());
+    std::copy(bytes.begin(), bytes.end(), box.szText + nFrom);
     // All behind the new end that was text.
     const int nOver = std::max(nTo - nEnd, 0);
     explicit_bzero(box.szText + nEnd + nRest, static_cast<std::size_t>(nOver) + 1);
