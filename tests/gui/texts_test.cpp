@@ -125,15 +125,13 @@ TEST(Columns, AreTheSpansOfLines)
         const char* szText;
         int nStart, nLength, nLast;
     } rows[] = {
-        {"Größe ändern", 0, 8, 7},  // behind the space
-        {"Größe ändern", 0, 4, 5},  // a word with a letter beyond ASCII breaks
-        {"Größe ändern", 8, 6, 14}, // or fills the line
-        {"u\u0308ben", 0, 1, 2},    // a letter keeps its mark
-        {"网络 设置", 0, 3, 2},     // half a letter is none
-        {"网络 设置", 0, 0, -1},
-        {"Abcdefgh ä", 0, 4, 0}, // ASCII alone is as it was
-        {"ä\nbcdefgh", 0, 4, 2},
-        {"äöü", 0, 9, 5},
+        {"Größe ändern", 0, 8, 7},                           // behind the space
+        {"Größe ändern", 0, 4, 5},                           // a word with a letter beyond ASCII breaks
+        {"Größe ändern", 8, 6, 14},                          // or fills the line
+        {"u\u0308ben", 0, 1, 2},                             // a letter keeps its mark
+        {"网络 设置", 0, 3, 2},                              // half a letter is none
+        {"网络 设置", 0, 0, -1},    {"Abcdefgh ä", 0, 4, 0}, // ASCII alone is as it was
+        {"ä\nbcdefgh", 0, 4, 2},    {"äöü", 0, 9, 5},
     };
     for (const auto& row : rows)
         EXPECT_EQ(ReturnLineEnd(row.szText, row.nStart, row.nLength), row.nLast) << row.szText << row.nLength;
@@ -232,8 +230,9 @@ TEST_F(KindsTest, CutWhatTheWindowCannotShow)
         const char* szText;
         const char* row; // of ten columns
     } rows[] = {
-        {6, "Größe", "......Größ"},  {7, "中文字", ".......中."}, {-2, "Größe", "öße......."}, {-3, "中文字", ".字......."},
-        {8, "a\x01", "........a^"}, {2, "a\nb", "..a.b....."},   {9, "\tb", "......... "},
+        {6, "Größe", "......Größ"},   {7, "中文字", ".......中."}, {-2, "Größe", "öße......."},
+        {-3, "中文字", ".字......."}, {8, "a\x01", "........a^"},  {2, "a\nb", "..a.b....."},
+        {9, "\tb", "......... "},
     };
     makeDialog(1, 10, 3);
     kulgui_show(1);

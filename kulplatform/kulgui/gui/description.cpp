@@ -16,6 +16,7 @@
 #include <cstring>
 #include <initializer_list>
 
+#include <langinfo.h>
 #include <term.h>
 
 #include "line.hpp"
@@ -195,6 +196,23 @@ private:
     bool changed_;
 };
 
+#if NCURSES_WIDECHAR
+void settleLines() {}
+#else
+// Where a terminal in UTF-8 lacks the second alphabet, a curses without wide characters never goes
+// there, but goes on to draw with its letters.
+void settleLines()
+{
+    const char* szOrder = std::getenv("NCURSES_NO_UTF8_ACS");
+    const bool lacking = szOrder ? std::atoi(szOrder) != 0 : tigetnum("U8") > 0;
+    if (!lacking || std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
+        return;
+    for (const char* line :
+         {"q-", "x|", "a:", "l+", "k+", "m+", "j+", "t+", "u+", "v+", "w+", "n+", "`+"})
+        acs_map[static_cast<unsigned char>(line[0])] = static_cast<chtype>(line[1]);
+}
+#endif
+
 } // namespace
 
 bool isString(const char* szString)
@@ -217,10 +235,16 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     if (!usable)
         return nullptr;
     setOutput(output);
-    if (!lean || digits.isFull())
-        return newterm(szTerm, output, input);
-    const Variable variable(digits.text());
-    return newterm(szTerm, output, input);
+    SCREEN* screen = nullptr;
+    if (!lean || digits.isFull()) {
+        screen = newterm(szTerm, output, input);
+    } else {
+        const Variable variable(digits.text());
+        screen = newterm(szTerm, output, input);
+    }
+    if (screen)
+        settleLines();
+    return screen;
 }
 
 } // namespace kul
