@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "file/byte_search.hpp"
 #include "file/file_rows.hpp"
 #include "support/temporary_file.hpp"
 
@@ -204,17 +205,40 @@ TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
     }
 }
 
+// Of few different letters and many, in pieces, so that a search meets what its sample did not show.
+TEST(ByteSearchTest, FindsTheFirstPlaceInAnyText)
+{
+    std::mt19937 random(1);
+    for (const unsigned nLetters : {1U, 2U, 3U, 200U}) {
+        std::string text(200000, '\0');
+        for (std::size_t i = 0; i < text.size(); ++i)
+            text[i] = static_cast<char>(i % 5000 < 2500 || random() % 50 == 0 ? random() % nLetters : 0);
+        for (std::size_t nSize = 1; nSize <= 40; ++nSize) {
+            std::string wanted = text.substr(random() % 199000, nSize);
+            wanted[random() % nSize] = static_cast<char>(random() % (nLetters + 1));
+            kul::ByteSearch search(wanted, text.substr(0, 4000));
+            for (std::size_t start = 0; start < text.size();) {
+                const std::string piece = text.substr(start, 1 + random() % 60000);
+                const char* found = search.find(piece.data(), piece.data() + piece.size());
+                ASSERT_EQ(found ? found - piece.data() : -1, static_cast<std::ptrdiff_t>(piece.find(wanted)));
+                start += piece.size();
+            }
+        }
+    }
+}
+
 TEST(FileTextTest, FindsTextAcrossTheBuffersItReads)
 {
-    constexpr std::size_t kBuffer = 128 * 1024;
-    for (const std::size_t nSize : {1U, 2U, 16U, 17U, 4096U, 9000U}) {
+    constexpr std::size_t kBuffer = FileText::kChunk;
+    for (const std::size_t nSize : {1U, 2U, 4096U, 9000U}) {
         for (const std::size_t nBefore : {std::size_t{0}, std::size_t{1}, nSize - 1, nSize}) {
             std::string bytes(2 * kBuffer + 100, '\n');
             const std::string wanted = std::string(nSize - 1, 'a') + 'b';
             bytes.replace(kBuffer - nBefore, nSize, wanted);
             const TemporaryFile file(bytes);
             const Text text = open(file);
-            EXPECT_EQ(text->find(wanted, 0).nLine, static_cast<int>(kBuffer - nBefore)) << nSize;
+            for (const char* szFirst : {"first", "again"})
+                EXPECT_EQ(text->find(wanted, 0).nLine, static_cast<int>(kBuffer - nBefore)) << nSize << szFirst;
             EXPECT_EQ(text->find(wanted + 'c', 0).nLine, -1);
         }
     }
@@ -257,18 +281,18 @@ TEST(FileTextTest, KnowsLinesAndFindsText)
 // has holes and takes no room.
 TEST(FileTextTest, IsNotConfusedByLargeFiles)
 {
-    constexpr FilePlace kStep = 7 * 1024 * 1024;
+    constexpr FilePlace kStep = 13 * 1024 * 1024;
     constexpr FilePlace kLarge = 6LL << 30;
     const TemporaryFile file;
     const int nFile = ::open(file.path().c_str(), O_WRONLY);
     ASSERT_GE(nFile, 0);
-    for (FilePlace line = 1; line <= 100; ++line)
+    for (FilePlace line = 1; line <= 82; ++line)
         ASSERT_EQ(pwrite(nFile, "\n", 1, line * kStep - 1), 1);
     ASSERT_EQ(pwrite(nFile, "\nend", 4, kLarge), 4);
     ::close(nFile);
     const Text text = open(file);
-    EXPECT_EQ(text->lineOf(90 * kStep), 90);
-    for (const FilePlace line : {1, 45, 89, 100}) {
+    EXPECT_EQ(text->lineOf(81 * kStep), 81);
+    for (const FilePlace line : {1, 45, 82}) {
         EXPECT_EQ(text->lineStart(line), line * kStep);
         EXPECT_EQ(text->lineOf(line * kStep - 1), line - 1);
     }

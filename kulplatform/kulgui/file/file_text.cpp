@@ -21,6 +21,9 @@ constexpr FilePlace kLargest = INT64_MAX / 2; // sums of places must not overflo
 
 constexpr FilePlace kProbed = 1 << 24;
 
+// What tells a search which bytes are rare.
+constexpr std::size_t kSampled = 1 << 12;
+
 // What is read at a place, less than asked for only at the end of the file; -1 for an error.
 ssize_t readAt(int nDescriptor, char* bytes, std::size_t size, FilePlace place)
 {
@@ -284,11 +287,18 @@ FilePlace FileText::nextCut(FilePlace place)
 
 // ---- Reading through the file ---------------------------------------------------------------
 
+// Where chunks are read to: what starts with a line of memory is copied and read faster.
+char* FileText::chunkBytes()
+{
+    const auto nOver = reinterpret_cast<std::uintptr_t>(buffer_) % kLine;
+    return buffer_ + (kLine - nOver) + kOverlap;
+}
+
 // The bytes from a place to the next multiple of a chunk. What was the end of the buffer before
 // stands in front of them.
 std::string_view FileText::chunk(FilePlace place)
 {
-    char* bytes = buffer_ + kOverlap;
+    char* bytes = chunkBytes();
     const FilePlace left = std::min(kChunk - place % kChunk, size_ - place);
     const ssize_t n =
         left > 0 ? readAt(nDescriptor_, bytes, static_cast<std::size_t>(left), place) : 0;
@@ -316,6 +326,18 @@ void FileText::advance(Counted& counted, std::string_view bytes)
     }
     if (counted.place == nMarks_ * stride_)
         marks_[nMarks_++] = counted.nLines;
+}
+
+// The same for who only passes by: what comes before the last mark is not counted again.
+void FileText::pass(Counted& counted, std::string_view bytes)
+{
+    const Counted marked = markAt(nMarks_ - 1);
+    if (counted.place == marked.place)
+        counted = marked;
+    if (counted.place >= marked.place)
+        advance(counted, bytes);
+    else
+        counted.place += static_cast<FilePlace>(bytes.size());
 }
 
 std::int64_t FileText::lineOf(FilePlace place)
@@ -375,33 +397,28 @@ FileText::Match FileText::find(std::string_view wanted, std::int64_t nLine)
     const FilePlace from = lineStart(nLine);
     if (from < 0 || wanted.find('\n') != std::string_view::npos)
         return kNone;
-    Counted counted = {from, std::max<std::int64_t>(nLine, 0)};
     if (wanted.empty())
-        return {counted.nLines, from, from};
+        return {std::max<std::int64_t>(nLine, 0), from, from};
     // Only so much of the text is looked for that it can be kept from one chunk to the next.
     const std::string_view head(wanted.data(), std::min<std::size_t>(wanted.size(), kOverlap));
     const std::string_view tail(wanted.data() + head.size(), wanted.size() - head.size());
-    std::size_t nKept = 0;
-    while (true) {
-        const std::string_view bytes = chunk(counted.place);
-        if (bytes.empty())
-            return kNone;
+    Counted counted = {from, nLine};
+    std::string_view bytes = chunk(from);
+    ByteSearch search(head, {bytes.data(), std::min(bytes.size(), kSampled)});
+    for (std::size_t nKept = 0; !bytes.empty(); bytes = chunk(counted.place)) {
         const char* end = bytes.data() + bytes.size();
         const char* next = bytes.data() - nKept;
-        while (const char* match = findText(next, end, head)) {
+        while (const char* match = search.find(next, end)) {
             const FilePlace place = counted.place + (match - bytes.data());
-            if (continuesWith(place + static_cast<FilePlace>(head.size()), tail)) {
-                if (match > bytes.data())
-                    advance(counted,
-                            {bytes.data(), static_cast<std::size_t>(match - bytes.data())});
-                return {counted.nLines, std::max(newlineBefore(place, from) + 1, from), place};
-            }
+            if (continuesWith(place + static_cast<FilePlace>(head.size()), tail))
+                return {lineOf(place), std::max(newlineBefore(place, from) + 1, from), place};
             next = match + 1;
         }
-        advance(counted, bytes);
+        pass(counted, bytes);
         nKept = std::min(nKept + bytes.size(), head.size() - 1);
-        std::memmove(buffer_ + kOverlap - nKept, end - nKept, nKept);
+        std::memmove(chunkBytes() - nKept, end - nKept, nKept);
     }
+    return kNone;
 }
 
 } // namespace kul

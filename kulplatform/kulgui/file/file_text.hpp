@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// A text file of any size as bytes and lines, read where it is needed. It takes 0.3 MiB at the
-// most: a few pages of the file that were used last, one buffer to read through it from end to
-// end, and a table of how many lines come before which place, coarser the longer the file.
+// A text file of any size as bytes and lines, read where it is needed. It takes less than 0.5 MiB:
+// a few pages of the file that were used last, one buffer to read through it from end to end, and a
+// table of how many lines come before which place, coarser the longer the file.
 //
 // The file may change at any time. Whatever it does, reads give the bytes that are there, or none.
 #ifndef KUL_FILE_FILE_TEXT_HPP
@@ -23,6 +23,9 @@ public:
     // bytes behind.
     static constexpr FilePlace kPiece = 1 << 16;
     static constexpr int kBehind = 3;
+
+    // Reading through the file goes in steps of so many bytes.
+    static constexpr int kChunk = 1 << 18;
 
     enum class Change { None, Some, Shorter };
 
@@ -83,8 +86,8 @@ public:
 private:
     static constexpr FilePlace kPage = 1 << 14;
     static constexpr int kPages = 8;
-    static constexpr int kChunk = 1 << 17;
     static constexpr int kOverlap = 1 << 12;
+    static constexpr int kLine = 64; // of memory, as processors read it
     static constexpr int kMarks = 1 << 12;
     static constexpr int kSample = 64;
 
@@ -114,9 +117,11 @@ private:
         char bytes[kPage];
     };
 
+    char* chunkBytes();
     std::string_view chunk(FilePlace place);
     Counted markAt(std::int64_t nMark) const;
     void advance(Counted& counted, std::string_view bytes);
+    void pass(Counted& counted, std::string_view bytes);
     FilePlace cutAt(FilePlace edge);
     bool isCut(FilePlace start, FilePlace edge);
     bool continuesWith(FilePlace place, std::string_view text);
@@ -138,7 +143,7 @@ private:
     FilePlace stride_;    // distance of two marks
     std::int64_t marks_[kMarks];
     Page pages_[kPages];
-    char buffer_[kOverlap + kChunk];
+    char buffer_[kLine + kOverlap + kChunk];
 };
 
 } // namespace kul
