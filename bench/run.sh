@@ -35,12 +35,14 @@ row() {
 }
 
 row "Bytes of a key, dialog of 40 by 14" linux vt100 xterm-256color
-for scene in focus focus-plain button items; do
+for scene in focus focus-plain button items text letters; do
     case $scene in
     focus) text="focus to the next of 3 buttons" n=3 ;;
     focus-plain) text="  the same cells by curses alone" n=3 ;;
     button) text="Enter that changes nothing" n=3 ;;
     items) text="Enter that changes nothing, 20 display items" n=20 ;;
+    text) text="a letter in a text box" n=20 ;;
+    letters) text="a letter in a text box, edition 2" n=20 ;;
     esac
     row "$text" "$(bytes $scene $n linux)" "$(bytes $scene $n vt100)" "$(bytes $scene $n xterm-256color)"
 done
@@ -52,6 +54,9 @@ row "  the same cells by curses alone" "$(instructions focus-plain 3)" "" ""
 row "Enter that changes nothing, 3 buttons" "$(instructions button 3)" "" ""
 row "Enter that changes nothing, 20 display items" "$(instructions items 20)" "" ""
 row "  the same cells by curses alone, row by row" "$(instructions items-plain 20)" "" ""
+row "a letter in a text box" "$(instructions text 20)" "" ""
+row "a letter in a text box, edition 2" "$(instructions letters 20)" "" ""
+row "  one of 60,000" "$(instructions letters 60000)" "" ""
 
 echo
 row "Instructions in a list" "100" "1,000" "10,000"

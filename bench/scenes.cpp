@@ -104,6 +104,22 @@ void buildOptions(int nElements)
         kuloptions_addElement(kDialog, 1, elementText(i).c_str(), 1, nullptr, nullptr);
 }
 
+// A box of several rows, with so many letters in it already.
+void buildText(int nElements)
+{
+    kultextbox_create(kDialog, 1);
+    kultextbox_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 38, 12, NOBORDER, NOMASK,
+                      nullptr, nullptr, nullptr, nullptr);
+    kultextbox_setLimit(kDialog, 1, 65535);
+    kultextbox_setText(kDialog, 1, std::string(static_cast<std::size_t>(nElements), 'a').c_str());
+}
+
+void buildLetters(int nElements)
+{
+    kulgui_setEdition(2);
+    buildText(nElements);
+}
+
 void updateScreen()
 {
     update_panels();
@@ -154,6 +170,7 @@ const kulbench::Scene kScenes[] = {
     {"button", buildButtons, runDialog, KS_ENTER}, {"items", buildItems, runDialog, KS_ENTER},
     {"items-plain", buildItems, rewriteRows, 0},   {"menu", buildMenu, runDialog, KS_DOWN},
     {"checks", buildChecks, runDialog, KS_DOWN},   {"options", buildOptions, runDialog, KS_DOWN},
+    {"text", buildText, runDialog, 'x'},           {"letters", buildLetters, runDialog, 'x'},
 };
 
 } // namespace

@@ -42,49 +42,70 @@ struct Row {
     chtype end;
 };
 
+// How many characters go to the window in one run from a place on.
+int plainRun(const char* szText, int nPlace, int nEnd, const Row& row)
+{
+    int nRun = 0;
+    while (!row.masked && nPlace + nRun < nEnd && kul::isPlain(szText[nPlace + nRun]) &&
+           nPlace + nRun != row.nCursor)
+        ++nRun;
+    return nRun;
+}
+
 // Draws a row up to and with the end of the text. False when that was reached.
 bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
 {
     const char* szText = box.szText ? box.szText : "";
     const int nLength = box.szText ? box.nLength : 0;
-    for (int i = 0; i < row.nCount && row.nFirst + i <= nLength; ++i) {
-        const int nPlace = row.nFirst + i;
+    const int nEnd = std::min(kul::shifted(row.nFirst, row.nCount), kul::shifted(nLength, 1));
+    for (int nPlace = row.nFirst; nPlace < nEnd;) {
+        const int nAt = kul::shifted(nX, nPlace - row.nFirst);
+        if (const int nRun = plainRun(szText, nPlace, nEnd, row)) {
+            kul::plainRun(win, nY, nAt, {szText + nPlace, static_cast<std::size_t>(nRun)});
+            nPlace += nRun;
+            continue;
+        }
         const bool atEnd = szText[nPlace] == '\0';
         const chtype cell = atEnd ? row.end : shownAs(szText[nPlace], row.masked);
-        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, kul::shifted(nX, i), cell);
+        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, nAt, cell);
         if (atEnd)
             return false;
+        ++nPlace;
     }
     return row.nFirst + static_cast<long long>(row.nCount) <= nLength;
 }
 
-void draw(WINDOW* win, KULTEXTBOX& box, bool focused)
+// Draws the rows from one on; next says where the row behind a place begins.
+template <typename Next>
+void drawRows(WINDOW* win, const KULTEXTBOX& box, Row row, Next next)
 {
     const int nEdge = box.nBorder == BORDER ? 1 : 0;
-    const int nWidth = kul::innerSize(box.nWidth, box.nBorder);
-    const std::string_view text = kul::viewOf(box.szText);
-    Row row = {0, nWidth, focused ? box.nCursorPos : -1, kul::isMasked(box), ' '};
-    for (int i = 0; nWidth > 0 && i < kul::innerSize(box.nHeight, box.nBorder); ++i) {
-        if (!drawRow(win, kul::shifted(box.nY, nEdge + i), kul::shifted(box.nX, nEdge), box, row))
+    const int nX = kul::shifted(box.nX, nEdge);
+    for (int i = 0; row.nCount > 0 && i < kul::innerSize(box.nHeight, box.nBorder); ++i) {
+        if (!drawRow(win, kul::shifted(box.nY, nEdge + i), nX, box, row))
             break;
-        row.nFirst = kul::lineStart(text, row.nFirst + nWidth, nWidth - 1);
+        row.nFirst = next(row.nFirst + row.nCount);
     }
+}
+
+void draw(WINDOW* win, KULTEXTBOX& box, bool focused)
+{
+    const int nCursor = focused ? box.nCursorPos : -1;
+    const Row row = {0, kul::innerSize(box.nWidth, box.nBorder), nCursor, kul::isMasked(box), ' '};
+    drawRows(win, box, row, [&row, text = kul::viewOf(box.szText)](int nPlace) {
+        return kul::lineStart(text, nPlace, row.nCount - 1);
+    });
 }
 
 // Its rows hold one character more than those above where there is a border, no blanks are skipped
 // between them, and the mask covers the end of the text too.
 void drawAlone(WINDOW* win, KULTEXTBOX& box)
 {
-    const int nEdge = box.nBorder == BORDER ? 1 : 0;
-    const int nWidth = kul::shifted(box.nWidth, -nEdge);
+    const int nWidth = kul::shifted(box.nWidth, box.nBorder == BORDER ? -1 : 0);
     const int nCursor = box.nCursor == SHOWCURSOR ? box.nCursorPos : -1;
     const bool masked = box.nMask == MASK;
-    Row row = {0, nWidth, nCursor, masked, static_cast<chtype>(masked ? '*' : ' ')};
-    for (int i = 0; nWidth > 0 && i < kul::innerSize(box.nHeight, box.nBorder); ++i) {
-        if (!drawRow(win, kul::shifted(box.nY, nEdge + i), kul::shifted(box.nX, nEdge), box, row))
-            break;
-        row.nFirst += nWidth;
-    }
+    const chtype end = masked ? '*' : ' ';
+    drawRows(win, box, {0, nWidth, nCursor, masked, end}, [](int nPlace) { return nPlace; });
 }
 
 void type(KULTEXTBOX& box, int nKey)

@@ -220,12 +220,16 @@ void drawRow(WINDOW* win, int nY, int nX, const kul::TextRows& rows, int nFrom, 
     }
 }
 
-// Draws the text from a place on, and tells where the cursor is.
-void drawFrom(WINDOW* win, const KULTEXTBOX& box, const kul::TextRows& rows, int nFirst, bool told)
+// Draws the text with the cursor in view, which was from nFirst on before; where it is now. Tells
+// where the cursor stands, if it is seen.
+int drawRows(WINDOW* win, const KULTEXTBOX& box, int nFirst, bool cursor)
 {
+    const kul::TextRows rows(box);
+    const int nCursor = std::clamp(box.nCursorPos, 0, rows.length());
     const int nEdge = box.nBorder == BORDER ? 1 : 0;
     const int nX = kul::shifted(box.nX, nEdge);
     const int nTop = kul::shifted(box.nY, nEdge);
+    nFirst = rows.follow(nFirst, nCursor);
     for (int i = 0, nFrom = nFirst; i < rows.height() && nFrom < rows.length(); ++i) {
         const int nY = kul::shifted(nTop, i);
         const int nEnd = rows.rowEnd(nFrom);
@@ -237,26 +241,26 @@ void drawFrom(WINDOW* win, const KULTEXTBOX& box, const kul::TextRows& rows, int
             drawRow(win, nY, nX, rows, nFrom, nEnd);
         nFrom = nEnd;
     }
-    if (told) {
-        const auto cell = rows.cellOf(box.nCursorPos, nFirst);
+    const auto cell = rows.cellOf(nCursor, nFirst);
+    if (cursor)
         kul::showCursorAt(win, kul::shifted(nTop, cell.nRow), kul::shifted(nX, cell.nColumn));
-    }
+    return nFirst;
 }
 
 void draw(WINDOW* win, KULTEXTBOX& box, bool focused)
 {
-    const kul::TextRows rows(box);
     kul::TextState* state = kul::stateOf(box);
-    const int nFirst = rows.follow(state ? state->nFirst : 0, box.nCursorPos);
+    const int nFirst = drawRows(win, box, state ? state->nFirst : 0, focused);
     if (state)
         state->nFirst = nFirst;
-    drawFrom(win, box, rows, nFirst, focused);
 }
 
 void drawAlone(WINDOW* win, KULTEXTBOX& box)
 {
-    const kul::TextRows rows(box);
-    drawFrom(win, box, rows, rows.follow(0, box.nCursorPos), box.nCursor == SHOWCURSOR);
+    const bool hasInside =
+        kul::innerSize(box.nWidth, box.nBorder) > 0 && kul::innerSize(box.nHeight, box.nBorder) > 0;
+    if (hasInside)
+        drawRows(win, box, 0, box.nCursor == SHOWCURSOR);
 }
 
 bool fits(KULTEXTBOX& box, std::string_view text)

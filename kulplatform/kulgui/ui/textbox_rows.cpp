@@ -47,8 +47,18 @@ std::string_view TextRows::plain(int nFrom, int nTo) const
     return {first, static_cast<std::size_t>(end - first)};
 }
 
+// Whether each byte from one place to another is a letter of one column. A mark behind the last one
+// would be on it.
+bool TextRows::isSimple(int nFrom, int nTo) const
+{
+    const int nSize = std::min(nTo + 1, length()) - nFrom;
+    return nSize <= 0 || isAscii({text_.data() + nFrom, static_cast<std::size_t>(nSize)});
+}
+
 int TextRows::columns(int nFrom, int nTo, int nMost) const
 {
+    if (isSimple(nFrom, nTo))
+        return std::max(nTo - nFrom, 0);
     int nColumns = 0;
     while (nFrom < nTo && nColumns <= nMost) {
         const Letter letter = at(nFrom);
@@ -60,6 +70,9 @@ int TextRows::columns(int nFrom, int nTo, int nMost) const
 
 int TextRows::rowEnd(int nFirst) const
 {
+    const int nSimple = std::min(shifted(nFirst, nWidth_), length());
+    if (isSimple(nFirst, nSimple))
+        return nSimple;
     int nLeft = nWidth_;
     while (nFirst < length()) {
         const Letter letter = at(nFirst);

@@ -36,7 +36,7 @@ public:
     // first one is not so.
     std::string_view plain(int nFrom, int nTo) const;
 
-    // Columns from one place to another; those beyond nMost are not counted.
+    // Columns from one place to another; those beyond nMost need not be counted.
     int columns(int nFrom, int nTo, int nMost) const;
 
     // Where the row that begins at a place ends.
@@ -68,6 +68,7 @@ private:
         int nEnd;
     };
 
+    bool isSimple(int nFrom, int nTo) const;
     Row rowOf(int nPlace, int nFirst) const;
     bool fills(int nFirst) const;
     int followColumns(int nFirst, int nCursor) const;
