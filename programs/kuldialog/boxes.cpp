@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "boxes.hpp"
+
+#include <cstring>
+
+#include "options.hpp"
+
+namespace kuldialog {
+
+namespace {
+
+enum ShapeName : unsigned char {
+    kText,
+    kFileName,
+    kInitial,
+    kItems,
+    kMarked,
+    kLevels,
+    kFields,
+    kTypedFields,
+    kMeter,
+    kPercent,
+    kSeconds,
+    kStates,
+    kRange,
+    kOutput,
+    kCommand
+};
+
+// How many arguments a box has, -1 for items without end, and which of them are numbers: so many,
+// up to the place before the last one that is required.
+struct Shape {
+    signed char least;
+    signed char most;
+    signed char firstNumber; // from the end if negative
+    signed char numbers;
+    char text[56];
+};
+
+constexpr Shape kShapes[] = {
+    {3, 3, 1, 2, "<text> <height> <width>"},
+    {3, 3, 1, 2, "<file> <height> <width>"},
+    {3, 4, 1, 2, "<text> <height> <width> [<init>]"},
+    {4, -1, 1, 3, "<text> <height> <width> <list height> [<tag> <item>]..."},
+    {4, -1, 1, 3, "<text> <height> <width> <list height> <item, on|off>..."},
+    {4, -1, 1, 3, "<text> <height> <width> <list height> <item, depth>..."},
+    {4, -1, 1, 3, "<text> <height> <width> <form height> <field>..."},
+    {4, -1, 1, 3, "<text> <height> <width> <form height> <field, type>..."},
+    {4, 4, 1, 3, "<text> <height> <width> <percent>"},
+    {3, 4, 1, 3, "<text> <height> <width> [<percent>]"},
+    {4, 4, 1, 3, "<text> <height> <width> <seconds>"},
+    {4, -1, 1, 3, "<text> <height> <width> <percent> [<tag> <state>]..."},
+    {6, 6, 1, 5, "<text> <height> <width> <least> <most> <value>"},
+    {2, 3, -2, 2, "[<text>] <height> <width>"},
+    {3, 4, -2, 2, "[<text>] <command> <height> <width>"},
+};
+
+constexpr unsigned char kOthers = kDialog | kOwn;
+constexpr unsigned char kAll = kWhiptail | kOthers;
+
+// In the order of the runners below.
+enum Kind : unsigned char {
+    kMessages,
+    kEntries,
+    kLists,
+    kForms,
+    kEditors,
+    kGauges,
+    kViews,
+    kCommands,
+    kPicks,
+    kRanges
+};
+
+constexpr Answer (*kRunners[])(const Call&) = {
+    runMessage, runEntry, runList,    runForm, runEditor,
+    runGauge,   runView,  runCommand, runPick, runRange,
+};
+
+constexpr Box kBoxes[] = {
+    {"buildlist", kOthers, kMarked, kLists, kBuiltList},
+    {"checklist", kAll, kMarked, kLists, kCheckedList},
+    {"dselect", kOthers, kFileName, kPicks, kDirectories},
+    {"editbox", kOthers, kFileName, kEditors, 0},
+    {"form", kOthers, kFields, kForms, kPlainForm},
+    {"fselect", kOthers, kFileName, kPicks, kFiles},
+    {"gauge", kWhiptail, kMeter, kGauges, kReadGauge},
+    {"gauge", kOthers, kPercent, kGauges, kReadGauge},
+    {"guage", kOthers, kPercent, kGauges, kReadGauge},
+    {"infobox", kAll, kText, kMessages, kInformation},
+    {"inputbox", kAll, kInitial, kEntries, kPlain},
+    {"inputmenu", kOthers, kItems, kLists, kRenamedList},
+    {"menu", kAll, kItems, kLists, kMenuList},
+    {"mixedform", kOthers, kTypedFields, kForms, kMixedForm},
+    {"mixedgauge", kOthers, kStates, kGauges, kMixedGauge},
+    {"msgbox", kAll, kText, kMessages, kMessage},
+    {"passwordbox", kAll, kInitial, kEntries, kSecret},
+    {"passwordform", kOthers, kFields, kForms, kSecretForm},
+    {"pause", kOthers, kSeconds, kGauges, kCountedGauge},
+    {"prgbox", kOthers, kCommand, kCommands, kStarted},
+    {"programbox", kOthers, kOutput, kCommands, kPiped},
+    {"progressbox", kOthers, kOutput, kCommands, kPassedOn},
+    {"radiolist", kAll, kMarked, kLists, kChosenList},
+    {"rangebox", kOthers, kRange, kRanges, 0},
+    {"tailbox", kOthers, kFileName, kViews, kFollowed},
+    {"tailboxbg", kOthers, kFileName, kViews, kFollowed},
+    {"textbox", kAll, kFileName, kViews, kWhole},
+    {"treeview", kOthers, kLevels, kLists, kTree},
+    {"yesno", kAll, kText, kMessages, kQuestion},
+};
+
+bool wrong(const char* szWhat, const Box& box)
+{
+    Buffer text;
+    text.add("--").add(box.name).add(": ").add(szWhat).add("; it takes");
+    complain(text.text(), kShapes[box.shape].text);
+    return false;
+}
+
+// Tokens of an item, 1 for boxes without any.
+int groupSize(const Box& box, const Settings& settings)
+{
+    switch (box.shape) {
+    case kItems:
+    case kMarked:
+    case kLevels:
+        return itemSize(settings, box.variant);
+    case kStates:
+        return 2;
+    case kFields:
+        return 8;
+    case kTypedFields:
+        return 9;
+    default:
+        return 1;
+    }
+}
+
+} // namespace
+
+Answer Box::run(const Call& call) const
+{
+    return kRunners[kind](call);
+}
+
+int itemSize(const Settings& settings, int nVariant)
+{
+    constexpr int kTagAndItem = 2;
+    const bool marked = nVariant >= kCheckedList;
+    int nSize = kTagAndItem + marked + (nVariant == kTree) + settings.is(kItemHelp);
+    // One of the programs wants the items of a menu in any case.
+    if (settings.is(kNoItems) && !settings.is(kNoTags) && (name != kWhiptail || marked))
+        --nSize;
+    return nSize;
+}
+
+const Box* findBox(const char* szName)
+{
+    for (const Box& box : kBoxes) {
+        if ((box.names & name) && std::strcmp(box.name, szName) == 0)
+            return &box;
+    }
+    return nullptr;
+}
+
+bool checkArguments(const Box& box, const Call& call)
+{
+    const Shape& shape = kShapes[box.shape];
+    if (call.count < shape.least)
+        return wrong("too few arguments", box);
+    if (shape.most > 0 && call.count > shape.most && name != kWhiptail)
+        return wrong("too many arguments", box);
+    const int nFirst = shape.firstNumber < 0 ? call.count + shape.firstNumber : shape.firstNumber;
+    for (int i = nFirst; i < nFirst + shape.numbers && i < call.count; ++i) {
+        int nNumber;
+        if (!readNumber(call.arguments[i], nNumber))
+            return wrong("not a number", box);
+    }
+    if (shape.most > 0)
+        return true;
+    const int nItems = call.count - shape.least;
+    if (nItems % groupSize(box, call.settings) != 0)
+        return wrong("an item is not whole", box);
+    // A list that can be empty is one of a single program's, of a single kind.
+    const bool mayBeEmpty = name == kWhiptail && box.shape == kMarked;
+    return nItems > 0 || mayBeEmpty || box.shape == kStates ? true : wrong("no items", box);
+}
+
+void addBoxes(Buffer& text)
+{
+    for (const Box& box : kBoxes) {
+        if (box.names & name)
+            text.add("  --").add(box.name).add(' ').add(kShapes[box.shape].text).add('\n');
+    }
+}
+
+} // namespace kuldialog

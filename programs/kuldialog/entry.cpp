@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+//
+// One line of text to enter.
+#include "entry.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include <kulgui.h>
+
+#include "boxes.hpp"
+#include "output.hpp"
+
+namespace kuldialog {
+
+namespace {
+
+constexpr int kMostCharacters = 2048;
+
+} // namespace
+
+// Arrows up and down leave the line; left and right are its own.
+int lineKey(Window& window, int nKey)
+{
+    if (!window.has(kBody)) {
+        if (nKey != KS_UP)
+            return nKey;
+        kulgui_setFocus(window.nChain, kBody);
+        return 0;
+    }
+    if (nKey == KS_ENTER) {
+        Window::chooseDefault();
+        return 0;
+    }
+    return nKey == KS_DOWN || nKey == KS_UP ? KS_TAB : nKey;
+}
+
+const char* entered(const Window& window, int nRef)
+{
+    const char* szText = kultextbox_getText(window.nChain, nRef);
+    return szText ? szText : "";
+}
+
+void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int nMask, int nLimit,
+                const char* szText)
+{
+    const int nHas = static_cast<int>(std::min<std::size_t>(std::strlen(szText), 65534));
+    kultextbox_create(window.nChain, nRef);
+    kultextbox_config(window.nChain, nRef, colors[kFocus], colors[kFieldsColor], KUL_KEEP, nX, nY,
+                      std::max(nWidth, 1), 1, NOBORDER, nMask, nullptr, nullptr, nullptr, nullptr);
+    kultextbox_setLimit(window.nChain, nRef, std::clamp(nLimit, nHas + 1, 65535));
+    kultextbox_setText(window.nChain, nRef, szText);
+}
+
+Answer runEntry(const Call& call)
+{
+    const Settings& settings = call.settings;
+    Window window(settings, call.argument(0), call.number(1), call.number(2));
+    window.wantBody(1, 1, 24);
+    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
+    if (!window.open())
+        return kFailed;
+    const int nMost = settings.numbers[kMaxInput];
+    createLine(window, kBody, 2, window.nBodyY, window.innerWidth(),
+               call.variant == kSecret ? MASK : NOMASK, nMost > 0 ? nMost : kMostCharacters,
+               call.argument(3));
+    window.onKey = lineKey;
+    window.nFocus = kBody;
+    const Answer answer = window.run();
+    if (answer == kAccepted || answer == kExtra || answer == kHelped) {
+        beginAnswer(settings);
+        output.add(entered(window, kBody));
+    }
+    return answer;
+}
+
+} // namespace kuldialog

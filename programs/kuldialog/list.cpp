@@ -1,0 +1,359 @@
+// SPDX-License-Identifier: MIT
+//
+// Lists to choose from: one of them (menu), several with markers (check list), one with markers
+// (radio list), and their like.
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <strings.h>
+
+#include <kulgui.h>
+
+#include "boxes.hpp"
+#include "entry.hpp"
+#include "options.hpp"
+#include "output.hpp"
+#include "window.hpp"
+
+namespace kuldialog {
+
+namespace {
+
+constexpr int kHelpBar = 1;
+constexpr int kBetween = 1; // columns from tag to item
+
+bool isOn(const char* szStatus)
+{
+    const bool more =
+        name == kWhiptail && (strcasecmp(szStatus, "yes") == 0 || std::strcmp(szStatus, "1") == 0);
+    return more || strcasecmp(szStatus, "on") == 0;
+}
+
+// The items of the command line, as their tokens stand there.
+class Items {
+public:
+    explicit Items(const Call& call)
+        : settings_(call.settings), tokens_(call.arguments + kBefore),
+          size_(itemSize(settings_, call.variant)), variant_(call.variant),
+          count_(std::max(call.count - kBefore, 0) / size_)
+    {
+        for (int i = 0; showsTags() && i < count_; ++i)
+            tagColumns_ = std::max(tagColumns_, columns(tag(i)));
+    }
+
+    int count() const { return count_; }
+    const char* tag(int nItem) const { return tokens_[nItem * size_]; }
+    const char* text(int nItem) const { return hasText() ? tokens_[nItem * size_ + 1] : ""; }
+    bool on(int nItem) const { return isMarked() && isOn(tokens_[nItem * size_ + marks()]); }
+    const char* help(int nItem) const
+    {
+        return settings_.is(kItemHelp) ? tokens_[(nItem + 1) * size_ - 1] : "";
+    }
+    bool isMarked() const { return variant_ >= kCheckedList; }
+
+    int find(const char* szTag) const
+    {
+        for (int i = 0; szTag && i < count_; ++i) {
+            if (std::strcmp(tag(i), szTag) == 0)
+                return i;
+        }
+        return -1;
+    }
+
+    // What stands in the row of an item, at most so many columns.
+    void row(int nItem, int nMost, Buffer& text) const
+    {
+        Buffer whole;
+        for (int i = 2 * depth(nItem); i > 0; --i)
+            whole.add(' ');
+        if (showsTags()) {
+            whole.add(tag(nItem));
+            for (int i = columns(tag(nItem)); showsText() && i < tagColumns_ + kBetween; ++i)
+                whole.add(' ');
+        }
+        if (showsText())
+            whole.add(this->text(nItem));
+        text.clear();
+        text.add(whole.text(), bytesWithin(whole.text(), nMost));
+    }
+
+    int widest() const
+    {
+        int nText = 0;
+        for (int i = 0; showsText() && i < count_; ++i)
+            nText = std::max(nText, 2 * depth(i) + columns(text(i)));
+        return tagColumns_ + (showsTags() && showsText() ? kBetween : 0) + nText;
+    }
+
+private:
+    static constexpr int kBefore = 4; // text, height, width and height of the list
+
+    bool hasText() const
+    {
+        return size_ > 1 + isMarked() + (variant_ == kTree) + settings_.is(kItemHelp);
+    }
+    bool showsText() const { return hasText() && (!settings_.is(kNoItems) || !showsTags()); }
+    bool showsTags() const
+    {
+        return !(settings_.is(kNoTags) || variant_ == kBuiltList || variant_ == kTree);
+    }
+    int marks() const { return 1 + hasText(); }
+    int depth(int nItem) const
+    {
+        return variant_ == kTree ? std::clamp(integer(tokens_[nItem * size_ + marks() + 1]), 0, 40)
+                                 : 0;
+    }
+
+    const Settings& settings_;
+    char** tokens_;
+    int size_;
+    int variant_;
+    int count_;
+    int tagColumns_ = 0;
+};
+
+// A list on the screen, and what is chosen in it.
+class List {
+public:
+    List(const Call& call, Window& window) : items(call), window_(window), variant_(call.variant) {}
+
+    void want(int nAsked);
+    void create();
+    Answer answer(Answer answer);
+
+    const Items items;
+
+    int key(int nKey);
+    void showHelp();
+
+private:
+    template <typename Record>
+    Record* record() const
+    {
+        UI* ui = GetUIComponentByRef(window_.nChain, kBody);
+        return ui ? static_cast<Record*>(ui->Pointer) : nullptr;
+    }
+    bool severalChecked() const { return variant_ == kCheckedList || variant_ == kBuiltList; }
+    bool oneChosen() const { return variant_ == kChosenList || variant_ == kTree; }
+    int current() const;
+    void addChecked(bool first);
+    void addHelpOf(int nItem);
+    Answer rename(int nItem);
+
+    Window& window_;
+    int variant_;
+};
+
+List* shown = nullptr;
+
+void List::want(int nAsked)
+{
+    const int nFrame = items.isMarked() ? 0 : 2;
+    const int nRows = std::max(nAsked > 0 ? std::min(nAsked, items.count()) : items.count(), 1);
+    const int nMarker = items.isMarked() ? 5 : 0;
+    window_.wantBody(nRows + nFrame, 1 + nFrame, items.widest() + nMarker + 2);
+}
+
+void selectionMoved()
+{
+    shown->showHelp();
+}
+
+// The box is as wide as its items, in the middle.
+void List::create()
+{
+    const int nChain = window_.nChain;
+    const bool marked = items.isMarked();
+    const int nRoom = window_.nWidth - 2;
+    const int nExtra = marked ? 5 + (items.count() > window_.nBodyHeight) : 2;
+    const int nText = std::clamp(items.widest(), 1, std::max(nRoom - nExtra, 1));
+    const int nX = std::max((window_.nWidth - nText - nExtra) / 2, 1);
+    const int nY = window_.nBodyY;
+    const int nHeight = window_.nBodyHeight;
+    const int nColor = colors[kWindowColor];
+    const KULCALLBACK onMove = window_.settings.is(kItemHelp) ? selectionMoved : nullptr;
+    if (severalChecked()) {
+        kulcheckbox_create(nChain, kBody);
+        kulcheckbox_config(nChain, kBody, colors[kFocus], nColor, KUL_KEEP, nX, nY, nText + nExtra,
+                           nHeight, NOBORDER, onMove, nullptr, onMove, nullptr);
+    } else if (oneChosen()) {
+        kuloptions_create(nChain, kBody);
+        kuloptions_config(nChain, kBody, colors[kFocus], nColor, KUL_KEEP, nX, nY, nText + nExtra,
+                          nHeight, NOBORDER, items.count(), 0, onMove, nullptr, onMove, nullptr);
+    } else {
+        kuldynmenu_create(nChain, kBody);
+        kuldynmenu_config(nChain, kBody, colors[kFocus], nColor, KUL_KEEP, nX, nY, nText,
+                          nHeight - 2, onMove, nullptr, onMove, Window::chooseDefault);
+    }
+    Buffer row;
+    for (int i = 0, nOn = -1; i < items.count(); ++i) {
+        items.row(i, nText, row);
+        if (severalChecked())
+            kulcheckbox_addElement(nChain, kBody, row.text(), items.on(i), 1, nullptr, nullptr);
+        else if (oneChosen())
+            kuloptions_addElement(nChain, kBody, row.text(), 1, nullptr, nullptr);
+        else
+            kuldynmenu_addElement(nChain, kBody, row.text(), nullptr, nullptr, 1);
+        if (oneChosen() && nOn < 0 && items.on(i))
+            kuloptions_setClicked(nChain, kBody, nOn = i);
+    }
+    const int nDefault = items.find(window_.settings.texts[kDefaultItem]);
+    if (nDefault >= 0 && (name != kWhiptail || !marked))
+        kulgui_select(nChain, kBody, nDefault);
+}
+
+int List::current() const
+{
+    int nItem = -1;
+    if (severalChecked())
+        nItem = record<KULCHECKBOX>() ? record<KULCHECKBOX>()->nSelect : -1;
+    else if (oneChosen())
+        nItem = record<KULOPTIONS>() ? record<KULOPTIONS>()->nPosition : -1;
+    else
+        nItem = record<KULDYNMENU>() ? record<KULDYNMENU>()->nSelect : -1;
+    return nItem < items.count() ? nItem : -1;
+}
+
+void List::showHelp()
+{
+    const int nItem = current();
+    kulstatbar_setElement(0, kHelpBar, 0, nItem >= 0 ? items.help(nItem) : "");
+    UpdateDisplayComponents(GetPrimaryChain()->Pointer);
+}
+
+// Enter takes what is chosen; left and right go to the buttons, up and down come back.
+int List::key(int nKey)
+{
+    if (window_.has(kButtonRow)) {
+        if (nKey != KS_UP && nKey != KS_DOWN)
+            return nKey;
+        kulgui_setFocus(window_.nChain, kBody);
+        return 0;
+    }
+    if (nKey == KS_LEFT || nKey == KS_RIGHT) {
+        window_.goToButtons(nKey == KS_LEFT ? -1 : 1);
+        return 0;
+    }
+    if (nKey == KS_ENTER) {
+        Window::chooseDefault();
+        return 0;
+    }
+    return nKey;
+}
+
+// Writes the tags of all that are checked.
+void List::addChecked(bool first)
+{
+    const auto* list = record<KULCHECKBOX>();
+    const KULCHECKELEMENT* element = list ? list->Element : nullptr;
+    int nLeft = 0;
+    const KULCHECKELEMENT* counted = element;
+    for (int i = 0; counted && i < items.count(); ++i, counted = counted->Next)
+        nLeft += counted->nSelect == 1;
+    for (int i = 0; nLeft > 0; ++i, element = element->Next) {
+        if (element->nSelect != 1)
+            continue;
+        --nLeft;
+        addToList(window_.settings, items.tag(i), first, variant_ == kBuiltList && nLeft == 0);
+        first = false;
+    }
+}
+
+void List::addHelpOf(int nItem)
+{
+    const Settings& settings = window_.settings;
+    const bool byTag = !settings.is(kItemHelp) || settings.is(kHelpTags);
+    addHelp(settings, byTag ? items.tag(nItem) : items.help(nItem));
+    if (!settings.is(kHelpStatus))
+        return;
+    if (settings.is(kSeparateOutput))
+        output.add(settings.text(kOutputSeparator, "\n"));
+    else if (oneChosen())
+        output.add(settings.text(kOutputSeparator, " "));
+}
+
+// Lets the text of an item be changed.
+Answer List::rename(int nItem)
+{
+    Settings settings = window_.settings;
+    settings.flags[kExtraButton] = settings.flags[kHelpButton] = settings.flags[kNoOk] = false;
+    settings.texts[kDefaultButton] = nullptr;
+    char* arguments[] = {const_cast<char*>(items.tag(nItem)), const_cast<char*>("0"),
+                         const_cast<char*>("0"), const_cast<char*>(items.text(nItem))};
+    Window window(settings, arguments[0], 0, 0);
+    window.wantBody(1, 1, 40);
+    window.addButtons("OK", "Cancel");
+    if (!window.open())
+        return kFailed;
+    createLine(window, kBody, 2, window.nBodyY, window.innerWidth(), NOMASK, 2048,
+               items.text(nItem));
+    window.onKey = lineKey;
+    window.nFocus = kBody;
+    const Answer answer = window.run();
+    if (answer == kAccepted) {
+        output.add("RENAMED ").add(items.tag(nItem)).add(' ').add(entered(window, kBody));
+    }
+    kulgui_destroy(window.nChain);
+    return answer;
+}
+
+// Writes what the answer asks for; the answer, or kEscaped to go on with the list.
+Answer List::answer(Answer answer)
+{
+    const Settings& settings = window_.settings;
+    const int nItem = current();
+    const bool helped = answer == kHelped;
+    if ((answer != kAccepted && answer != kExtra && !helped) || nItem < 0)
+        return answer;
+    if (answer == kExtra && variant_ == kRenamedList)
+        return rename(nItem) == kAccepted ? kExtra : kFailed;
+    beginAnswer(settings);
+    if (helped)
+        addHelpOf(nItem);
+    if (!helped || settings.is(kHelpStatus)) {
+        if (severalChecked()) {
+            addChecked(!helped);
+        } else if (oneChosen()) {
+            const auto* list = record<KULOPTIONS>();
+            if (list && list->nSelect >= 0 && list->nSelect < items.count())
+                addAnswer(settings, items.tag(list->nSelect));
+        } else if (!helped) {
+            addAnswer(settings, items.tag(nItem));
+        }
+    }
+    return helped && settings.is(kItemHelp) ? kHelpedItem : answer;
+}
+
+} // namespace
+
+Answer runList(const Call& call)
+{
+    Settings settings = call.settings;
+    if (call.variant == kRenamedList) {
+        settings.flags[kExtraButton] = true;
+        settings.texts[kExtraLabel] = settings.text(kExtraLabel, "Rename");
+    }
+    Window window(settings, call.argument(0), call.number(1), call.number(2));
+    List list(call, window);
+    list.want(call.number(3));
+    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
+    if (!window.open())
+        return kFailed;
+    if (settings.is(kItemHelp)) {
+        kulstatbar_create(0, kHelpBar);
+        kulstatbar_config(0, kHelpBar, KUL_KEEP, nullptr);
+        kulstatbar_addElement(0, kHelpBar, 0, COLS, "", LEFT, nullptr);
+    }
+    list.create();
+    window.body = &list;
+    window.onKey = [](Window& of, int nKey) { return static_cast<List*>(of.body)->key(nKey); };
+    window.nFocus = list.items.count() > 0 ? kBody : kButtonRow;
+    shown = &list;
+    Answer answer = window.run();
+    // A renaming that was given up comes back to the list.
+    while (answer == kExtra && call.variant == kRenamedList && list.answer(answer) != kExtra)
+        answer = window.run();
+    return call.variant == kRenamedList && answer == kExtra ? answer : list.answer(answer);
+}
+
+} // namespace kuldialog

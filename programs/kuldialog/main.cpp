@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+//
+// kuldialog: dialogs for shell scripts. Reads the command line box by box, shows them one after
+// the other, and ends with an answer and a status.
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+
+#include <kulgui.h>
+#include <unistd.h>
+
+#include "boxes.hpp"
+#include "colors.hpp"
+#include "options.hpp"
+#include "output.hpp"
+#include "terminal.hpp"
+#include "text.hpp"
+
+namespace {
+
+using namespace kuldialog;
+
+// The program takes another one's part under its name.
+void takeName(const char* szPath)
+{
+    const char* slash = std::strrchr(szPath, '/');
+    const char* szName = slash ? slash + 1 : szPath;
+    if (std::strcmp(szName, "whiptail") == 0)
+        name = kWhiptail;
+    else if (std::strcmp(szName, "dialog") == 0)
+        name = kDialog;
+    else
+        return;
+    program = name == kWhiptail ? "whiptail" : "dialog";
+}
+
+// The exit status of an answer: the one that the environment has for it, or the usual one.
+int statusOf(Answer answer)
+{
+    struct Status {
+        char variable[20];
+        unsigned char usual;
+    };
+    constexpr Status kStatuses[kAnswers] = {
+        {"DIALOG_OK", 0},        {"DIALOG_CANCEL", 1},  {"DIALOG_HELP", 2},  {"DIALOG_EXTRA", 3},
+        {"DIALOG_ITEM_HELP", 4}, {"DIALOG_TIMEOUT", 5}, {"DIALOG_ESC", 255}, {"DIALOG_ERROR", 255},
+    };
+    const Status& status = kStatuses[answer];
+    if (name == kWhiptail)
+        return status.usual;
+    const char* szValue = std::getenv(status.variable);
+    if (!szValue && answer == kHelpedItem)
+        return statusOf(kHelped);
+    if (!szValue && answer == kTimedOut)
+        return statusOf(kEscaped);
+    char* end = nullptr;
+    const long nValue = szValue ? std::strtol(szValue, &end, 0) : 0;
+    return end && end != szValue && !*end ? static_cast<int>(nValue & 255) : status.usual;
+}
+
+void printVersion()
+{
+    Buffer text;
+    text.add(name == kDialog ? "Version:" : "kuldialog").add(" " KULGUI_VERSION "\n");
+    text.writeTo(STDOUT_FILENO);
+}
+
+// The background, with a title if there is one; without, it is a colour alone.
+void makeDesktop(const Settings& settings)
+{
+    static bool made = false;
+    if (!made)
+        kulgui_create(0);
+    if (!made || settings.texts[kBacktitle])
+        kulgui_configPrime(0, colors[kDesktop], KUL_KEEP, KUL_KEEP, KUL_KEEP,
+                           settings.text(kBacktitle, ""), nullptr, nullptr, nullptr, nullptr,
+                           nullptr);
+    if (settings.texts[kBacktitle] || settings.is(kItemHelp))
+        kulgui_show(0);
+    else if (!made)
+        WinFill(stdscr, colors[kDesktop]);
+    made = true;
+}
+
+// Things that are printed without a box.
+void printFacts(const Settings& settings)
+{
+    if (settings.is(kPrintVersion))
+        output.add("Version: " KULGUI_VERSION "\n");
+    if (settings.is(kPrintMaxsize)) {
+        output.add("MaxSize: ").addNumber(isScreenOpen() ? LINES : 0);
+        output.add(", ").addNumber(isScreenOpen() ? COLS : 0).add('\n');
+    }
+}
+
+class Program {
+public:
+    Program(int count, char** tokens) : line_(count, tokens) {}
+    int run();
+
+private:
+    int finish(Answer answer);
+    Answer runBox();
+    int noBox(bool any);
+
+    CommandLine line_;
+    int descriptor_ = STDERR_FILENO; // where the answer goes
+    char* stays_ = nullptr;          // the text that stays when the program is over
+};
+
+Answer Program::runBox()
+{
+    const Call call = line_.call();
+    if (!checkArguments(*line_.box(), call))
+        return kFailed;
+    if (!isScreenOpen() && !takeTerminal()) {
+        complain("there is no terminal", "");
+        return kFailed;
+    }
+    if (!isScreenOpen() && !openScreen()) {
+        complain("this terminal cannot be used:", std::getenv("TERM") ? std::getenv("TERM") : "");
+        std::exit(name == kOwn ? 255 : 1);
+    }
+    descriptor_ = answerDescriptor(call.settings);
+    if (descriptor_ < 0) {
+        complain("cannot write to", "--output-fd");
+        return kFailed;
+    }
+    printFacts(call.settings);
+    makeDesktop(call.settings);
+    const Answer answer = line_.box()->run(call);
+    stays_ = nullptr;
+    if (std::strcmp(line_.box()->name, "infobox") == 0)
+        stays_ = prepareText(call.settings, call.argument(0));
+    if (call.settings.numbers[kSleep] > 0)
+        sleep(static_cast<unsigned>(call.settings.numbers[kSleep]));
+    return answer;
+}
+
+// The command line had no box, or no more.
+int Program::noBox(bool any)
+{
+    const Settings& settings = line_.settings();
+    const bool printed = settings.is(kPrintVersion) || settings.is(kPrintMaxsize);
+    if (!any && settings.is(kPrintMaxsize) && takeTerminal())
+        openScreen();
+    printFacts(settings);
+    if (any || printed || settings.is(kClear) || name == kDialog)
+        return finish(kAccepted);
+    complain("no box is asked for; see", "--help");
+    return 255;
+}
+
+int Program::finish(Answer answer)
+{
+    closeScreen(answer == kAccepted ? stays_ : nullptr);
+    if (output.failed() || !output.writeTo(descriptor_))
+        answer = kFailed;
+    return statusOf(answer);
+}
+
+int Program::run()
+{
+    bool any = false;
+    for (;;) {
+        switch (line_.next()) {
+        case Found::End:
+            return noBox(any);
+        case Found::Help:
+            closeScreen(nullptr);
+            printHelp();
+            return 0;
+        case Found::Version:
+            closeScreen(nullptr);
+            printVersion();
+            return 0;
+        case Found::Error:
+            closeScreen(nullptr);
+            finish(kFailed);
+            return name == kWhiptail ? line_.errorStatus() : statusOf(kFailed);
+        case Found::Box:
+            break;
+        }
+        any = true;
+        const Answer answer = runBox();
+        const bool goesOn = answer == kAccepted || (line_.goesOn() && answer < kTimedOut);
+        if (!goesOn)
+            return finish(answer);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::setlocale(LC_ALL, "");
+    takeName(argc > 0 ? argv[0] : "");
+    // One of the programs answers a single word that is no box by itself with its help.
+    constexpr const char* kAlone[] = {"--clear", "--print-maxsize", "--print-version", "--version"};
+    bool helps = name == kDialog && argc <= 2;
+    for (const char* szWord : kAlone)
+        helps = helps && (argc < 2 || std::strcmp(argv[1], szWord) != 0);
+    if (helps) {
+        printHelp();
+        return 0;
+    }
+    kulgui_setEdition(2);
+    readColors();
+    return Program(argc, argv).run();
+}

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "terminal.hpp"
+
+#include <cstdlib>
+#include <cstring>
+
+#include <fcntl.h>
+#include <kulgui.h>
+#include <term.h>
+#include <unistd.h>
+
+namespace kuldialog {
+
+int nScriptInput = STDIN_FILENO;
+
+namespace {
+
+int nScriptOutput = STDOUT_FILENO;
+bool isOpen = false;
+
+constexpr char kTerminal[] = "/dev/tty";
+constexpr int kAboveScripts = 20; // descriptors that scripts use themselves are below
+
+// Opens the terminal behind a descriptor anew, so that the flags of the script's stay as they are.
+int openAgain(int nFd)
+{
+    char path[64];
+    if (ttyname_r(nFd, path, sizeof path) != 0)
+        return -1;
+    return open(path, O_RDWR | O_NOCTTY | O_CLOEXEC);
+}
+
+// A descriptor of the terminal that stands behind the first of these that is one.
+int openTerminal(int nFirst, int nSecond)
+{
+    if (isatty(nFirst)) {
+        const int nOpened = openAgain(nFirst);
+        return nOpened >= 0 ? nOpened : dup(nFirst);
+    }
+    const int nControlling = open(kTerminal, O_RDWR | O_CLOEXEC);
+    if (nControlling >= 0)
+        return nControlling;
+    return isatty(nSecond) ? openTerminal(nSecond, nSecond) : -1;
+}
+
+bool put(int nFd, int nPlace)
+{
+    if (nFd < 0 || dup2(nFd, nPlace) < 0)
+        return false;
+    if (nFd > STDERR_FILENO)
+        close(nFd);
+    return true;
+}
+
+} // namespace
+
+bool takeTerminal()
+{
+    const int nOutput = openTerminal(STDOUT_FILENO, STDERR_FILENO);
+    const int nInput = openTerminal(STDIN_FILENO, nOutput);
+    nScriptInput = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kAboveScripts);
+    nScriptOutput = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, kAboveScripts);
+    return put(nInput, STDIN_FILENO) & put(nOutput, STDOUT_FILENO);
+}
+
+bool isScreenOpen()
+{
+    return isOpen;
+}
+
+bool openScreen()
+{
+    if (!isOpen)
+        isOpen = NCursesEnv(1) == 0;
+    return isOpen;
+}
+
+void closeScreen(const char* szStays)
+{
+    if (!isOpen)
+        return;
+    isOpen = false;
+    const char* szOwnScreen = tigetstr("rmcup");
+    const bool leavesNothing = szOwnScreen && szOwnScreen != reinterpret_cast<char*>(-1);
+    if (szStays && !leavesNothing) {
+        endwin();
+        return;
+    }
+    kulgui_destroyAll();
+    if (szStays) {
+        write(STDOUT_FILENO, szStays, std::strlen(szStays));
+        write(STDOUT_FILENO, "\n", 1);
+    }
+}
+
+int answerDescriptor(const Settings& settings)
+{
+    const int nAsked = settings.numbers[kOutputFd];
+    const int nFd = nAsked != kNone          ? nAsked
+                    : settings.is(kToStdout) ? STDOUT_FILENO
+                                             : STDERR_FILENO;
+    if (nFd == STDIN_FILENO)
+        return nScriptInput;
+    if (nFd == STDOUT_FILENO)
+        return nScriptOutput;
+    return fcntl(nFd, F_GETFD) < 0 ? -1 : nFd;
+}
+
+} // namespace kuldialog

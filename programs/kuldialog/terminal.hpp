@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+//
+// Where the keyboard and the screen are when a script has put pipes or files in the place of
+// standard input and output, and where the answer goes.
+#ifndef KULDIALOG_TERMINAL_HPP
+#define KULDIALOG_TERMINAL_HPP
+
+#include "settings.hpp"
+
+namespace kuldialog {
+
+// Standard input as the script gave it; a gauge and a program box read from it.
+extern int nScriptInput;
+
+// Gives descriptors 0 and 1 to the terminal, remembering what they were. False without one.
+bool takeTerminal();
+
+// Starts curses, once. False where the terminal is of no use.
+bool openScreen();
+bool isScreenOpen();
+
+// Gives the terminal back. What an information box showed stays where the terminal can keep it.
+void closeScreen(const char* szStays);
+
+// The descriptor of the answer; -1 for one that is not open.
+int answerDescriptor(const Settings& settings);
+
+} // namespace kuldialog
+
+#endif

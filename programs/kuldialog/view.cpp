@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+//
+// Files to read, as they are or while they grow.
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <kulgui.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "boxes.hpp"
+#include "options.hpp"
+#include "window.hpp"
+
+namespace kuldialog {
+
+namespace {
+
+// What comes out of a pipe or device goes into a file of its own, in memory, up to this.
+constexpr std::size_t kMostCopied = 16 * 1024 * 1024;
+
+int copied(int nFrom)
+{
+    const int nTo = memfd_create(program, MFD_CLOEXEC);
+    char part[4096];
+    std::size_t all = 0;
+    ssize_t size;
+    while (nTo >= 0 && all < kMostCopied && (size = read(nFrom, part, sizeof part)) > 0) {
+        if (write(nTo, part, static_cast<std::size_t>(size)) != size)
+            break;
+        all += static_cast<std::size_t>(size);
+    }
+    return nTo;
+}
+
+// A name that the viewer can load; one of the kernel's where the file is no regular one. False
+// where there is nothing to read.
+bool loadable(const char* szFile, Buffer& name)
+{
+    const int nFd = open(szFile, O_RDONLY | O_CLOEXEC);
+    struct stat status;
+    if (nFd < 0 || fstat(nFd, &status) != 0) {
+        complain(szFile, std::strerror(errno));
+        return false;
+    }
+    if (S_ISDIR(status.st_mode)) {
+        complain(szFile, std::strerror(EISDIR));
+        return false;
+    }
+    if (S_ISREG(status.st_mode))
+        name.add(szFile);
+    else
+        name.add("/proc/self/fd/").addNumber(copied(nFd));
+    close(nFd);
+    return true;
+}
+
+// Enter takes the button; left and right go to the others.
+int viewKey(Window& window, int nKey)
+{
+    if (!window.has(kBody))
+        return nKey;
+    if (nKey == KS_ENTER) {
+        Window::chooseDefault();
+        return 0;
+    }
+    if (nKey == KS_LEFT || nKey == KS_RIGHT) {
+        window.goToButtons(nKey == KS_LEFT ? -1 : 1);
+        return 0;
+    }
+    return nKey;
+}
+
+} // namespace
+
+Answer runView(const Call& call)
+{
+    const Settings& settings = call.settings;
+    Buffer file;
+    if (!loadable(call.argument(0), file))
+        return kFailed;
+    Window window(settings, "", call.number(1), call.number(2));
+    window.wantBody(LINES, 1, COLS);
+    window.addButtons(settings.text(kExitLabel, settings.text(kOkLabel, "OK")), nullptr);
+    if (!window.open())
+        return kFailed;
+    kulfileview_create(window.nChain, kBody);
+    kulfileview_config(window.nChain, kBody, colors[kWindowColor], colors[kWindowColor], KUL_KEEP,
+                       1, 1, window.nWidth - 2, window.nBodyHeight, NOBORDER, file.text(), nullptr,
+                       nullptr, nullptr, nullptr);
+    kulfileview_setFollow(window.nChain, kBody, call.variant == kFollowed ? T : F);
+    window.onKey = viewKey;
+    window.nFocus = kBody;
+    return window.run();
+}
+
+} // namespace kuldialog

@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+#include "window.hpp"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+
+#include <kulgui.h>
+
+namespace kuldialog {
+
+namespace {
+
+constexpr int kFrame = 2;
+constexpr int kMargins = 4; // of text: frame and a blank at both sides
+constexpr int kGap = 3;     // between buttons
+constexpr int kInterrupt = 3;
+
+int nLastChain = 0;
+
+KULMENU* buttonRow(int nChain)
+{
+    UI* ui = GetUIComponentByRef(nChain, kButtonRow);
+    return ui ? static_cast<KULMENU*>(ui->Pointer) : nullptr;
+}
+
+char lowered(int nKey)
+{
+    return static_cast<char>(nKey >= 'A' && nKey <= 'Z' ? nKey - 'A' + 'a' : nKey);
+}
+
+} // namespace
+
+Window* Window::running = nullptr;
+
+Window::Window(const Settings& asked, const char* szText, int nAskedHeight, int nAskedWidth)
+    : settings(asked), nChain(++nLastChain), nWidth(nAskedWidth), nHeight(nAskedHeight),
+      text_(prepareText(asked, szText))
+{
+}
+
+Window::~Window()
+{
+    std::free(text_);
+}
+
+void Window::wantBody(int nRows, int nLeastRows, int nColumns)
+{
+    bodyWanted_ = nRows;
+    bodyLeast_ = nLeastRows;
+    bodyColumns_ = nColumns;
+}
+
+void Window::addButton(Answer answer, const char* szLabel)
+{
+    if (buttonCount_ < kMostButtons)
+        buttons_[buttonCount_++] = {answer, szLabel};
+}
+
+void Window::addButtons(const char* szAccept, const char* szCancel)
+{
+    if (!settings.is(kNoOk))
+        addButton(kAccepted, szAccept);
+    if (settings.is(kExtraButton))
+        addButton(kExtra, settings.text(kExtraLabel, "Extra"));
+    if (szCancel && !settings.is(kNoCancel))
+        addButton(kCancelled, szCancel);
+    if (settings.is(kHelpButton))
+        addButton(kHelped, settings.text(kHelpLabel, "Help"));
+    if (buttonCount_ == 0)
+        addButton(kAccepted, szAccept);
+}
+
+int Window::buttonColumns() const
+{
+    int nColumns = 0;
+    for (int i = 0; i < buttonCount_; ++i)
+        nColumns += columns(buttons_[i].label) + 2 + (i > 0 ? kGap : 0);
+    return nColumns;
+}
+
+// Sizes: what was asked for within the screen, or what text, body and buttons need.
+void Window::measure()
+{
+    const int nRow = buttonCount_ > 0;
+    const char* szTitle = settings.text(kTitle, "");
+    const int nNeeded =
+        std::max({widestLine(text_), bodyColumns_, buttonColumns(), columns(szTitle) + kGap});
+    if (nWidth <= 0)
+        nWidth = nWidth < 0 ? COLS : nNeeded + kMargins;
+    nWidth = std::clamp(nWidth, std::min(COLS, std::max(buttonColumns(), 4) + kMargins), COLS);
+    area_.wrap(text_, nWidth);
+
+    const int nText = area_.rows();
+    const int nLeast = kFrame + nRow + bodyLeast_ + (nText > 0);
+    const int nBest = kFrame + nRow + bodyWanted_ + nText + (nRow && nText + bodyWanted_ > 0);
+    if (nHeight <= 0)
+        nHeight = nHeight < 0 ? LINES : nBest;
+    nHeight = std::clamp(nHeight, std::min(nLeast, LINES), std::max(LINES, 1));
+
+    const int nRoom = nHeight - kFrame - nRow;
+    textRows_ = std::clamp(nRoom - bodyLeast_, 0, nText);
+    nBodyHeight = std::clamp(bodyWanted_, 0, std::max(nRoom - textRows_, 0));
+    // A row between text and body, if it is there for both.
+    const int nLeft = nRoom - textRows_ - nBodyHeight;
+    nBodyY = 1 + textRows_ + (nLeft > 1 && textRows_ > 0);
+}
+
+// A text on the lower edge of the frame.
+void Window::createLineBelow()
+{
+    const char* szLine = settings.texts[kHline];
+    if (!szLine)
+        return;
+    const int nColumns = std::min(columns(szLine) + 1, nWidth - kFrame);
+    kullabel_create(nChain, kLineBelow);
+    kullabel_config(nChain, kLineBelow, colors[kWindowColor], KUL_KEEP, (nWidth - nColumns) / 2,
+                    nHeight - 1, nColumns, 1, LEFT, NOBORDER, szLine);
+}
+
+// The row is a menu. Without buttons it still takes the keys.
+void Window::createButtons()
+{
+    kulmenu_create(nChain, kButtonRow);
+    kulmenu_config(nChain, kButtonRow, colors[kFocus], colors[kButtons], KUL_KEEP, nullptr, nullptr,
+                   nullptr, buttonCount_ > 0 ? buttonClicked : nullptr);
+    for (int i = 0; i < buttonCount_; ++i) {
+        Buffer label;
+        label.add('<').add(buttons_[i].label).add('>');
+        kulmenu_addElement(nChain, kButtonRow, label.text(), 1, nullptr, nullptr);
+    }
+    if (KULMENU* row = buttonRow(nChain)) {
+        row->nX = std::max((nWidth - buttonColumns()) / 2, 1);
+        row->nY = nHeight - 2;
+        row->nSelect = defaultButton();
+    }
+}
+
+int Window::defaultButton() const
+{
+    constexpr const char* kNames[] = {"ok", "cancel", "help", "extra"};
+    const char* szName = settings.text(kDefaultButton, settings.is(kDefaultNo) ? "no" : "");
+    if (std::strcmp(szName, "yes") == 0)
+        szName = kNames[kAccepted];
+    if (std::strcmp(szName, "no") == 0)
+        szName = kNames[kCancelled];
+    for (int i = 0; i < buttonCount_; ++i) {
+        if (std::strcmp(kNames[buttons_[i].answer], szName) == 0)
+            return i;
+    }
+    return 0;
+}
+
+bool Window::open()
+{
+    if (!text_)
+        return false;
+    measure();
+    const bool cornered = settings.is(kTopLeft);
+    const int nMiddleX = (COLS - nWidth) / 2;
+    const int nMiddleY = (LINES - nHeight) / 2;
+    const int nAskedX = settings.numbers[kBeginX];
+    const int nAskedY = settings.numbers[kBeginY];
+    const int nX = cornered ? 0 : nAskedX != kNone ? nAskedX : nMiddleX;
+    const int nY = cornered ? 0 : nAskedY != kNone ? nAskedY : nMiddleY;
+    if (const char* szTitle = settings.texts[kTitle]) {
+        title_.add(' ').add(szTitle, bytesWithin(szTitle, nWidth - kMargins)).add(' ');
+    }
+    kulgui_create(nChain);
+    if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
+                      title_.text(), BORDER, std::clamp(nX, 0, std::max(COLS - nWidth, 0)),
+                      std::clamp(nY, 0, std::max(LINES - nHeight, 0)), nWidth, nHeight, nullptr,
+                      nullptr, nullptr, nullptr, nullptr) != 0)
+        return false;
+    area_.create(nChain, 1, textRows_);
+    createLineBelow();
+    if (settings.is(kPrintSize)) {
+        output.add("Size: ").addNumber(nHeight).add(", ").addNumber(nWidth).add('\n');
+    }
+    return true;
+}
+
+void Window::show()
+{
+    kulgui_show(nChain);
+}
+
+Answer Window::run()
+{
+    createButtons();
+    kulgui_setOnKey(nChain, keyPressed);
+    const bool otherButton = name != kWhiptail && defaultButton() != 0;
+    kulgui_setFocus(nChain, otherButton ? kButtonRow : nFocus);
+    Window* before = running;
+    running = this;
+    if (settings.numbers[kTimeLimit] > 0)
+        timer_ = kulgui_setTimer(1000 * settings.numbers[kTimeLimit], timeIsUp);
+    const int nResult = kulgui_exec(nChain);
+    kulgui_stopTimer(timer_);
+    running = before;
+    if (nResult == KUL_CANCELLED)
+        answer_ = kEscaped;
+    // What a script without a way to cancel gets from one of the programs.
+    if (answer_ == kEscaped && name == kWhiptail && settings.is(kNoCancel) && bodyWanted_ > 0)
+        answer_ = kCancelled;
+    return answer_;
+}
+
+void Window::end(Answer answer)
+{
+    if (!running)
+        return;
+    running->answer_ = answer;
+    kulgui_leave(running->nChain);
+}
+
+void Window::goToButtons(int nStep)
+{
+    KULMENU* row = buttonRow(nChain);
+    if (!row || buttonCount_ == 0)
+        return;
+    row->nSelect = (row->nSelect + nStep + buttonCount_) % buttonCount_;
+    kulgui_setFocus(nChain, kButtonRow);
+}
+
+int Window::button() const
+{
+    const KULMENU* row = buttonRow(nChain);
+    return row && row->nSelect < buttonCount_ ? row->nSelect : 0;
+}
+
+void Window::chooseDefault()
+{
+    end(running->buttonCount_ > 0 ? running->buttons_[running->button()].answer : kAccepted);
+}
+
+void Window::buttonClicked()
+{
+    chooseDefault();
+}
+
+void Window::timeIsUp()
+{
+    end(kTimedOut);
+}
+
+bool Window::has(int nRef) const
+{
+    return GetCurrentSelection()->nUserInterface == nRef;
+}
+
+void Window::setText(const char* szText)
+{
+    area_.wrap(szText, nWidth);
+    area_.showStart();
+}
+
+// The key that the row of buttons gets for this one: Tab goes through them, Space clicks. A first
+// letter clicks at once.
+int Window::movedInRow(int nKey)
+{
+    KULMENU* row = buttonRow(nChain);
+    if (!row || buttonCount_ == 0)
+        return area_.scroll(nKey) ? 0 : nKey;
+    if (nKey == KS_TAB && row->nSelect + 1 < buttonCount_)
+        return KS_RIGHT;
+    if (nKey == KS_BACKTAB && row->nSelect > 0)
+        return KS_LEFT;
+    if (nKey == KS_TAB)
+        row->nSelect = 0; // for when the focus comes round
+    if (nKey == KS_SPACE)
+        return KS_ENTER;
+    for (int i = 0; i < buttonCount_ && name != kWhiptail && nKey > KS_SPACE && nKey < 127; ++i) {
+        if (lowered(*buttons_[i].label) == lowered(nKey)) {
+            end(buttons_[i].answer);
+            return 0;
+        }
+    }
+    return area_.scroll(nKey) ? 0 : nKey;
+}
+
+void Window::handleKey()
+{
+    const int nPressed = kulgui_getKey();
+    if (timer_ > 0) {
+        kulgui_stopTimer(timer_);
+        timer_ = kulgui_setTimer(1000 * settings.numbers[kTimeLimit], timeIsUp);
+    }
+    if (nPressed == kInterrupt && name != kWhiptail) {
+        kulgui_destroyAll();
+        std::signal(SIGINT, SIG_DFL);
+        std::raise(SIGINT);
+    }
+    int nKey = onKey ? onKey(*this, nPressed) : nPressed;
+    if (nKey != 0 && has(kButtonRow))
+        nKey = movedInRow(nKey);
+    if (nKey != nPressed)
+        kulgui_setKey(nKey);
+}
+
+void Window::keyPressed()
+{
+    if (running)
+        running->handleKey();
+}
+
+} // namespace kuldialog

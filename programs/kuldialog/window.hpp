@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+//
+// What all boxes have in common: a dialog of the size that was asked for or that its contents need,
+// a text that scrolls when it is longer than its room, a row of buttons, and how it ends.
+//
+//     ┌──────── title ─────────┐
+//     │ text                   │
+//     │ ...                    │
+//     │   body                 │     what each kind of box adds
+//     │                        │
+//     │   <OK>   <Cancel>      │
+//     └────────────────────────┘
+#ifndef KULDIALOG_WINDOW_HPP
+#define KULDIALOG_WINDOW_HPP
+
+#include "area.hpp"
+#include "colors.hpp"
+#include "output.hpp"
+
+namespace kuldialog {
+
+// References in the dialog; a kind's own components begin at kBody, its items at kItem.
+enum Reference {
+    kButtonRow = 1,
+    kBody,
+    kLineBelow = 20000,
+    kItem,
+    kTextArea = 21000,
+    kSecondArea = 23000
+};
+
+class Window {
+public:
+    Window(const Settings& asked, const char* szText, int nAskedHeight, int nAskedWidth);
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    ~Window();
+
+    // Before open():
+
+    // What the body needs and would like to have. It comes below the text.
+    void wantBody(int nRows, int nLeastRows, int nColumns);
+    void addButton(Answer answer, const char* szLabel);
+    // The usual buttons: what accepts, extra, what cancels, help.
+    void addButtons(const char* szAccept, const char* szCancel);
+
+    // Makes the dialog, centred or where the settings put it. False without memory or screen.
+    bool open();
+
+    // Runs it until a button is clicked, Escape, or end(). A window without buttons waits for what
+    // the box does by itself.
+    Answer run();
+    void show(); // without waiting for anything
+
+    // While it runs:
+    static void end(Answer answer);
+    static void chooseDefault();      // what Enter does in the body
+    void setText(const char* szText); // kept by the caller
+    void goToButtons(int nStep);      // from the body, to the next or previous one
+
+    // The keys come to the body first, which returns the one that is to go on, 0 for none. Then
+    // they come to buttons and text.
+    int (*onKey)(Window& window, int nKey) = nullptr;
+    void* body = nullptr; // the kind's own
+
+    const Settings& settings;
+    int nChain;
+    int nWidth;
+    int nHeight;
+    int nBodyY = 0;
+    int nBodyHeight = 0;
+    int nFocus = kButtonRow; // where it begins
+
+    int innerWidth() const { return nWidth - 4; }
+    bool has(int nRef) const; // whether that component has the focus
+
+private:
+    struct Button {
+        Answer answer;
+        const char* label;
+    };
+    static constexpr int kMostButtons = 4;
+
+    void measure();
+    void createButtons();
+    void createLineBelow();
+    int movedInRow(int nKey);
+    int button() const; // index of the selected one
+    void handleKey();
+    int defaultButton() const;
+    int buttonColumns() const;
+
+    static Window* running;
+    static void keyPressed();
+    static void buttonClicked();
+    static void timeIsUp();
+
+    Button buttons_[kMostButtons];
+    int buttonCount_ = 0;
+    char* text_;
+    Buffer title_;
+    Area area_{kTextArea};
+    int textRows_ = 0;
+    int bodyWanted_ = 0;
+    int bodyLeast_ = 0;
+    int bodyColumns_ = 0;
+    int timer_ = -1;
+    Answer answer_ = kFailed;
+};
+
+} // namespace kuldialog
+
+#endif
