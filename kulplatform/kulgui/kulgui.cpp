@@ -170,6 +170,11 @@ int kulgui_setEdition(int nEdition)
     return 0;
 }
 
+int kulgui_getEdition()
+{
+    return kul::nEdition;
+}
+
 int kulgui_create(int nChain)
 {
     return CreateChain(nChain);

@@ -67,6 +67,9 @@ KULGUI_API const char* kulgui_version(void);
 /** As nRef of kulgui_setUser and kulgui_getUser: the dialog itself. */
 #define KUL_DIALOG (-11113)
 
+/** In place of a dialog's nX or nY: in the middle of the screen, whatever its size is. */
+#define KUL_CENTER (-11112)
+
 /** Result of kulgui_exec and of key handlers: the dialog was left by kulgui_leave. */
 #define KUL_LEFT 123456
 
@@ -259,6 +262,9 @@ typedef struct control {
  * other number, which changes nothing. */
 KULGUI_API int kulgui_setEdition(int nEdition);
 
+/** The edition that runs, 1 or 2. */
+KULGUI_API int kulgui_getEdition(void);
+
 /** Makes a chain numbered nChain. With KUL_KEEP the first chain becomes 0; a later one gets the
  * first number above the count of dialogs that is already in use, wrapping round, so name later
  * chains yourself. Returns the number, -10000 if it is in use, -1 without memory. */
@@ -420,6 +426,112 @@ KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
  * Return 0, -1 for an unknown chain, one without dialog, or an nRef that is no button. */
 KULGUI_API int kulgui_setDefault(int nChain, int nRef);
 KULGUI_API int kulgui_setCancel(int nChain, int nRef);
+
+/* ---- Ready dialogs -------------------------------------------------------------------------- *
+ *
+ * A message, a question, an input and the like with one call each, from anywhere in a program, also
+ * while other dialogs run. They open the terminal if it is closed and close it then; a program that
+ * has no primary dialog gets one as long. They are sized by their texts, centred, never larger than
+ * the screen, and have the manners of edition 2, whatever the program's is. Callbacks of the
+ * program that run meanwhile (onPoll, timers) find edition 2.
+ *
+ *     ┌──────── Title ─────────┐      Tab, Shift-Tab: between the body and the buttons
+ *     │ The text, which scrolls│      Enter: the selected button, in the body the first one
+ *     │ when it is long.       │      Escape: leaves, with -1
+ *     │ ┌────────────────────┐ │      Up, Down, PageUp, PageDown, Home, End: move the text where
+ *     │ │ The body           │ │          the buttons have the focus
+ *     │ └────────────────────┘ │
+ *     │     <OK>   <Cancel>    │
+ *     └────────────────────────┘
+ *
+ * Texts are only read, NULL counts as empty; indexes begin at 0. Each returns 0 where nothing else
+ * is said; -1 for Escape or Cancel, when what was handed in is as it was; -2 where there is no
+ * usable terminal, no memory, or a file cannot be opened; -10000 when the line is gone.
+ */
+
+/** Words of the ready dialogs, for kuldialog_setWord. */
+enum kul_words {
+    KULWORD_OK,
+    KULWORD_CANCEL,
+    KULWORD_YES,
+    KULWORD_NO,
+    KULWORD_CLOSE,
+    KULWORD_SEARCH,
+    KULWORD_END, /* asks whether to end a command */
+    KULWORDS
+};
+
+/** Sets a word of the ready dialogs, English at the start; szText is the program's and must stay.
+ * Returns 0, -1 for an unknown word or NULL. */
+KULGUI_API int kuldialog_setWord(int nWord, const char* szText);
+
+/** Shows a text until its button is clicked. */
+KULGUI_API int kuldialog_tell(const char* szTitle, const char* szText);
+
+/** Asks a question: szButtons are the buttons' texts, a newline between two; NULL for yes and no.
+ * nDefault is selected at first. Returns the index of the button, or as above. */
+KULGUI_API int kuldialog_ask(const char* szTitle, const char* szText, const char* szButtons,
+                             int nDefault);
+
+/** Has a line of text edited. szBuffer holds nSize bytes, the terminator included, and the text to
+ * begin with; it is changed with OK alone. nMask: MASK shows stars, NOMASK the text. */
+KULGUI_API int kuldialog_enter(const char* szTitle, const char* szText, char* szBuffer, int nSize,
+                               int nMask);
+
+/** A line of a form. */
+typedef struct kulfield {
+    const char* szLabel;                /* in front of it; NULL for none */
+    char* szText;                       /* in and out */
+    int nSize;                          /* its bytes, the terminator included */
+    int nMask;                          /* MASK or NOMASK */
+    const char* szCharSet;              /* the characters that may be typed; NULL for any */
+    int (*onCheck)(const char* szText); /* 0 for a good text; NULL for none */
+} KULFIELD;
+
+/** Has several lines edited; they scroll where they are many. A line whose onCheck says no, or
+ * whose text does not fit, keeps the user. The texts are changed with OK alone. */
+KULGUI_API int kuldialog_form(const char* szTitle, const char* szText, KULFIELD* Fields,
+                              int nFields);
+
+/** Has one item chosen; nSelected is selected at first. A letter goes to the next item that begins
+ * with it. Returns the index of the item, or as above. */
+KULGUI_API int kuldialog_choose(const char* szTitle, const char* szText,
+                                const char* const szItems[], int nItems, int nSelected);
+
+/** Has several items checked by Space. nChecked has a number for each item, 1 for checked and 0 for
+ * not; it is changed with OK alone. NULL: none is checked, and nobody is told. */
+KULGUI_API int kuldialog_check(const char* szTitle, const char* szText, const char* const szItems[],
+                               int nChecked[], int nItems);
+
+/** Has one item chosen by Space, with markers; nSelected has it at first, -1 for none. Returns the
+ * index of the item that has the marker, else of that which has the cursor, or as above. */
+KULGUI_API int kuldialog_option(const char* szTitle, const char* szText,
+                                const char* const szItems[], int nItems, int nSelected);
+
+/** Shows a file of any size. Its Search button or a slash asks for a text to find, n finds it
+ * again. bFollow: T begins at the end and shows what is appended. A title of NULL is the file's
+ * name. */
+KULGUI_API int kuldialog_view(const char* szTitle, const char* szFileName, int bFollow);
+
+/** Long work of the program's: kuldialog_progress shows a text and a bar, kuldialog_advance moves
+ * the bar to nPercent, 0 to 100, and changes the text unless it is NULL; kuldialog_done ends it.
+ * None waits for a key. The title must stay until the end, and so must the first text. Without
+ * kuldialog_progress before, -1. */
+KULGUI_API int kuldialog_progress(const char* szTitle, const char* szText);
+KULGUI_API int kuldialog_advance(int nPercent, const char* szText);
+KULGUI_API int kuldialog_done(void);
+
+/** Runs a command by /bin/sh and shows what it writes, the last 64 KiB of it, without its escape
+ * sequences. Escape or the button asks whether to end it, by TERM and the next time by KILL; when
+ * it is over they close the dialog. A title of NULL is the command. Returns the command's exit
+ * status, 128 and the number for a signal, or -2, -10000 as above. */
+KULGUI_API int kuldialog_run(const char* szTitle, const char* szCommand);
+
+/** Has a file picked, from szDirectory on, NULL for the current one: Enter goes into a directory,
+ * Backspace to the one above. szBuffer of nSize bytes gets its absolute path; a file whose path
+ * does not fit cannot be picked. */
+KULGUI_API int kuldialog_pick(const char* szTitle, const char* szDirectory, char* szBuffer,
+                              int nSize);
 
 /* ---- Buttons -------------------------------------------------------------------------------- *
  *
@@ -1943,6 +2055,11 @@ KULGUI_API int GetWrapTextHeight(int nWidth, const char* szText);
 
 /** Always NULL; the file is not opened. */
 KULGUI_API TEXTLINE* GenerateWrapMarks(const char* szFileName, int nWidth, int bIndent);
+
+/** Bytes of the first letter of a text, with the marks that belong to it, in the encoding of the
+ * program's locale; 0 for an empty text or NULL. Stores its columns on the screen, 0 to 2, in
+ * *nColumns unless that is NULL. What the library cannot show counts as what it shows for it. */
+KULGUI_API int kulgui_nextLetter(const char* szText, int* nColumns);
 
 /** Where a line at nStart begins behind its leading spaces, as an index; nStart when there are
  * none, or nothing else within nLength. */

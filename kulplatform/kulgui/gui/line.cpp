@@ -132,7 +132,7 @@ Blocking::Blocking() : nFlags_(fcntl(nOutput, F_GETFL))
 {
     if (nFlags_ == -1 || !(nFlags_ & O_NONBLOCK))
         return;
-    ++nBlocking;
+    nBlocking = nBlocking + 1;
     fcntl(nOutput, F_SETFL, nFlags_ & ~O_NONBLOCK);
 }
 
@@ -140,7 +140,7 @@ Blocking::~Blocking()
 {
     if (nFlags_ == -1 || !(nFlags_ & O_NONBLOCK))
         return;
-    --nBlocking;
+    nBlocking = nBlocking - 1;
     fcntl(nOutput, F_SETFL, nFlags_);
 }
 

@@ -299,6 +299,15 @@ TEXTLINE* GenerateWrapMarks(const char*, int, int)
     return nullptr;
 }
 
+int kulgui_nextLetter(const char* szText, int* nColumns)
+{
+    const std::string_view text = kul::viewOf(szText);
+    const kul::Letter letter = text.empty() ? kul::Letter{} : kul::nextLetter(text);
+    if (nColumns)
+        *nColumns = letter.nColumns;
+    return static_cast<int>(letter.nBytes);
+}
+
 int ReturnLineStart(const char* szText, int nStart, int nLength)
 {
     return kul::lineStart(kul::viewOf(szText), nStart, nLength);

@@ -94,7 +94,7 @@ void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
     bar.nY = menu.nY;
     bar.nLength = kul::shifted(menu.nHeight, 2);
     bar.nRange = menu.nElements;
-    bar.nPosition = 1;
+    bar.nPosition = kul::isEdition2() ? menu.nSelect : 1;
     bar.nOrient = VERTICAL;
     BarShow(gui, &bar, kScrollBar);
 }

@@ -148,7 +148,10 @@ int HandlerBase::nextKey()
     const int nKey = waitOnce();
     if (nKey == 0 && lineIsGone())
         end(-10000);
-    return offerKey(selection.nChain, nKey);
+    const int nLeft = offerKey(selection.nChain, nKey);
+    if (nKey != 0 && nLeft == 0)
+        show(); // what onKey did in place of the component
+    return nLeft;
 }
 
 int HandlerBase::settle()

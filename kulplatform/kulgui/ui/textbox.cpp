@@ -113,6 +113,8 @@ int ConfigTextboxComponent(GUI* thisGUI, KULTEXTBOX* thisTB)
     if (!thisGUI || !thisTB)
         return -1;
     kul::takeColors(*thisGUI, *thisTB);
+    if (kul::isEdition2() && thisTB->nColorUnfocus == BLACK_WHITE)
+        thisTB->nColorUnfocus = BLACK_CYAN; // its extent is seen
     thisTB->szText = nullptr;
     thisTB->nLength = 0;
     thisTB->nBorder = NOBORDER;
