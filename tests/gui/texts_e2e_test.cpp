@@ -50,10 +50,14 @@ TEST(Texts, LinesAreWhatTheTerminalCanShow)
         const char *term, *locale;
         const char *line, *thick;
     } rows[] = {
-        {"linux", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"}, {"putty", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
-        {"tmux", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},  {"vt100", "C.UTF-8", "qqq", "a"},
-        {"xterm", "C.UTF-8", "qqq", "a"},                     {"linux", "C", "qqq", "a"},
-        {"sun", "C", "---", ":"},                             {"sun", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
+        {"linux", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
+        {"putty", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
+        {"tmux", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
+        {"vt100", "C.UTF-8", "qqq", "a"},
+        {"xterm", "C.UTF-8", "qqq", "a"},
+        {"linux", "C", "qqq", "a"},
+        {"sun", "C", "---", ":"},
+        {"sun", "C.UTF-8", "\u2500\u2500\u2500", "\u2592"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.term) + ' ' + row.locale);

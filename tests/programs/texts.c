@@ -98,7 +98,8 @@ static void show(const char* szText)
     kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, szText, NULL, NULL, NULL, NULL, NULL);
     kulgui_show(0);
     kulgui_create(1);
-    kulgui_config(1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, szText, BORDER, 1, 2, 76, 18, NULL, NULL, NULL, NULL, NULL);
+    kulgui_config(1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, szText, BORDER, 1, 2, 76, 18, NULL, NULL, NULL, NULL,
+                  NULL);
     showItems(szText);
     showMenus(szText);
     showBoxes(szText);
@@ -137,7 +138,8 @@ int main(int argc, char** argv)
     kulprogbar_create(1, 1);
     kulprogbar_config(1, 1, KUL_KEEP, KUL_KEEP, 2, 3, 9, 3, 9, LATERAL);
     kulbutton_create(1, 2);
-    kulbutton_config(1, 2, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 5, 9, 1, "Gr\u00f6\u00dfe", NULL, NULL, NULL, NULL);
+    kulbutton_config(1, 2, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 5, 9, 1, "Gr\u00f6\u00dfe", NULL, NULL, NULL,
+                     NULL);
     kulgui_exec(1);
     kulgui_destroyAll();
     return 0;

@@ -134,6 +134,14 @@ bool selectElement(Record& menu, int nElement)
     return true;
 }
 
+template <typename Record>
+Steps stepsOf(Record& menu)
+{
+    return {&menu, countElements(menu), [](void* list, int nIndex) {
+                return stepOf(elementsOf(*static_cast<Record*>(list))(nIndex));
+            }};
+}
+
 // Whether Enter runs anything.
 template <typename Record>
 requires requires(Record& menu)
@@ -173,8 +181,8 @@ void handleMenuKey(Handler<Record>& handler, int nKey, const MenuKeys& keys)
             handler.run(element->onClick);
         return;
     }
-    const StepKeys steps = {keys.nBack, keys.nForward, pageOf(*menu)};
-    menu->nSelect = stepped(nBefore, nKey, steps, countElements(*menu), elementsOf(*menu));
+    menu->nSelect =
+        stepped(nBefore, nKey, {keys.nBack, keys.nForward, pageOf(*menu)}, stepsOf(*menu));
     handler.selection.nSelect = menu->nSelect;
     if (menu->nSelect == nBefore)
         return;
@@ -190,7 +198,7 @@ int runMenu(int nChain, int nRef, const MenuKeys& keys)
     if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
         return 10;
     if (isEdition2())
-        start->nSelect = settled(start->nSelect, countElements(*start), elementsOf(*start));
+        start->nSelect = settled(start->nSelect, stepsOf(*start));
     Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
     handler.call(&Record::onFocus);
     while (const int nKey = handler.key(keys.obeysControls ? nothingPending : nullptr)) {

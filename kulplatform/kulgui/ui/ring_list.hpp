@@ -173,6 +173,15 @@ int countElements(const RingList<Record>& list)
     return std::max(list.nElements, 0);
 }
 
+template <typename Record>
+Steps stepsOf(RingList<Record>& list)
+{
+    keepView(list);
+    return {&list, countElements(list), [](void* any, int nIndex) {
+                return stepOf(elementAt(*static_cast<RingList<Record>*>(any), nIndex));
+            }};
+}
+
 // Puts the cursor on an element and shows it. False when there is none.
 template <typename Record>
 bool selectElement(RingList<Record>& list, int nElement)
@@ -196,7 +205,7 @@ bool stepList(RingList<Record>& list, int nKey)
     }
     const int nBefore = cursorOf(list);
     const StepKeys keys = {KS_UP, KS_DOWN, std::max(list.nLastShowed - list.nFirstShowed, 1)};
-    const int nTo = stepped(nBefore, nKey, keys, countElements(list), elementsOf(list));
+    const int nTo = stepped(nBefore, nKey, keys, stepsOf(list));
     return nTo != nBefore && selectElement(list, nTo);
 }
 
@@ -216,7 +225,7 @@ int runList(int nChain, int nRef, const ListKeys<Record>& keys)
     auto& start = *findUI<RingList<Record>>(nChain, nRef, keys.type);
     keepView(start);
     if (isEdition2())
-        cursorOf(start) = settled(cursorOf(start), countElements(start), elementsOf(start));
+        cursorOf(start) = settled(cursorOf(start), stepsOf(start));
     bringIntoView(start);
     Handler<RingList<Record>> handler({nChain, nRef, keys.type, cursorOf(start), start.nSelect, 0});
     handler.call(&Record::onFocus);

@@ -70,9 +70,12 @@ bool selectNext(kul::Toolbar& toolbar, bool forward)
     return false;
 }
 
-auto buttonsOf(kul::Toolbar& toolbar)
+kul::Steps stepsOf(kul::Toolbar& toolbar)
 {
-    return [&toolbar](int nIndex) { return toolbar.place.find(toolbar.Button, nIndex); };
+    return {&toolbar, kul::countElements(toolbar), [](void* list, int nIndex) {
+                auto& buttons = *static_cast<kul::Toolbar*>(list);
+                return kul::stepOf(buttons.place.find(buttons.Button, nIndex));
+            }};
 }
 
 kul::StepKeys stepKeys(const KULTOOLBAR& toolbar)
@@ -116,8 +119,7 @@ bool step(kul::Handler<kul::Toolbar>& handler, int nKey)
     if (!toolbar || nKey == KS_ENTER)
         return false;
     const int nBefore = toolbar->nSelect;
-    toolbar->nSelect = kul::stepped(nBefore, nKey, stepKeys(*toolbar), kul::countElements(*toolbar),
-                                    buttonsOf(*toolbar));
+    toolbar->nSelect = kul::stepped(nBefore, nKey, stepKeys(*toolbar), stepsOf(*toolbar));
     handler.selection.nSelect = toolbar->nSelect;
     if (toolbar->nSelect != nBefore) {
         SetCurrentSelection(&handler.selection);
@@ -324,8 +326,7 @@ int kultoolbar_execKeys(int nChain, int nRef)
     if (toolbar->nVisible != T)
         return 10;
     if (kul::isEdition2())
-        toolbar->nSelect =
-            kul::settled(toolbar->nSelect, kul::countElements(*toolbar), buttonsOf(*toolbar));
+        toolbar->nSelect = kul::settled(toolbar->nSelect, stepsOf(*toolbar));
     kul::Handler<kul::Toolbar> handler({nChain, nRef, TOOLBAR, 0, toolbar->nSelect, 0});
     handler.call(&KULTOOLBAR::onFocus);
     while (const int nKey = handler.key(bothShown))
