@@ -10,6 +10,7 @@
 
 #include "file/byte_search.hpp"
 #include "file/file_rows.hpp"
+#include "kulgui.h"
 #include "support/temporary_file.hpp"
 
 namespace {
@@ -34,10 +35,19 @@ Text open(const TemporaryFile& file)
     return text;
 }
 
-// In a locale of UTF-8 while it lives; tests begin and end in the C locale.
+// In a locale of UTF-8 and an edition while it lives; tests begin and end in the C locale and the
+// first edition.
 struct Utf8 {
-    Utf8() { EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr); }
-    ~Utf8() { std::setlocale(LC_ALL, "C"); }
+    explicit Utf8(int nEdition = 1)
+    {
+        EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+        kulgui_setEdition(nEdition);
+    }
+    ~Utf8()
+    {
+        std::setlocale(LC_ALL, "C");
+        kulgui_setEdition(1);
+    }
 };
 
 std::string shown(FileRows& rows, const FileRows::Row& row)
@@ -45,27 +55,24 @@ std::string shown(FileRows& rows, const FileRows::Row& row)
     std::string result;
     int nColumn = 0;
     for (FilePlace place = row.start; place < row.end;) {
-        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
-        if (now.character == L' ')
-            result.append(static_cast<std::size_t>(now.nCells), ' ');
-        else if (now.character < 0x80)
-            result += static_cast<char>(now.character);
-        else
-            result += '#';
-        nColumn += now.nCells;
-        place += now.nBytes;
+        const kul::Letter now = rows.letter(place, row.end, nColumn);
+        const wchar_t first = now.shown[0];
+        result.append(first == L' ' ? static_cast<std::size_t>(now.nColumns) : first != 0,
+                      first < 0x80 ? static_cast<char>(first) : '#');
+        nColumn += now.nColumns;
+        place += static_cast<FilePlace>(now.nBytes);
     }
     return result;
 }
 
 TEST(FileRowsTest, LaysOutAwkwardText)
 {
-    const Utf8 locale;
     struct {
         const char* szName;
         std::string text;
         int nColumns;
         Rows rows;
+        Rows rowsOfEdition2 = rows;
     } const cases[] = {
         // clang-format off
         {"empty", "", 10, {}},
@@ -75,7 +82,12 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         {"control bytes", std::string("a\0b\x1b[1m\x7f", 8), 10, {"a?b?[1m?"}},
         {"invalid bytes", "\xff\xc3(\xe2\x82", 10, {"?\?(??"}},
         {"characters of many bytes", "gr\xc3\xbc\xc3\x9f \xe2\x82\xac", 10, {"gr## #"}},
-        {"control and joining characters", "a\xc2\x85" "b\xcc\x81", 10, {"a?b?"}},
+        {"control and joining characters", "a\xc2\x85" "b\xcc\x81", 10, {"a?b?"}, {"a?b"}},
+        {"marks go with their letter", "abe\xcc\x81\xcc\xa3\xe4\xb8\xad\xcc\x81", 3, {"abe", "??", "#?"}, {"abe", "#"}},
+        {"marks without a letter", "\xcc\x81 \xcc\x81\t\xcc\x81", 20, {"? ?     ?"}},
+        {"what has no picture", "\xef\xbb\xbf" "a\xe2\x80\x8b" "bc\xc2\xad\n\xe2\x80\x8d", 3,
+            {"?a?", "bc#", "?"}, {"abc", ""}},
+        {"what turns the direction", "a\xe2\x80\xae" "b\xd8\x9c", 10, {"a?b?"}},
         {"as wide as the row", "abc defgh\nx", 9, {"abc defgh", "x"}},
         {"at blanks", "abc defgh ij", 9, {"abc defgh", "ij"}},
         {"inside of a word", "abc defghi", 9, {"abc ", "defghi"}},
@@ -99,22 +111,25 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         SCOPED_TRACE(test.szName);
         const TemporaryFile file(test.text);
         const Text text = open(file);
-        FileRows rows(*text, test.nColumns);
-        Rows got;
-        for (FilePlace place = 0; place < text->size() && got.size() < 20;) {
-            const FileRows::Row row = rows.row(place);
-            got.push_back(shown(rows, row));
-            place = row.next;
+        for (const int nEdition : {1, 2}) {
+            const Utf8 locale(nEdition);
+            FileRows rows(*text, test.nColumns);
+            Rows got;
+            for (FilePlace place = 0; place < text->size() && got.size() < 20;) {
+                const FileRows::Row row = rows.row(place);
+                got.push_back(shown(rows, row));
+                place = row.next;
+            }
+            EXPECT_EQ(got, nEdition == 1 ? test.rows : test.rowsOfEdition2);
         }
-        EXPECT_EQ(got, test.rows);
     }
 }
 
 // Words, blanks, characters of several bytes, and lines of all lengths around the sizes that count.
 std::string randomText(std::mt19937& random)
 {
-    const char* const parts[] = {"a",  "word", " ",  "   ",          "\t",           "\r",
-                                 "\0", "\xff", "\n", "\xe2\x82\xac", "\xe4\xb8\xad", "\r\n"};
+    const char* const parts[] = {"a",  "word",         " ",        "   ",          "\t",           "\r",  "\0", "\xff",
+                                 "\n", "\xe2\x82\xac", "\xcc\x81", "\xe4\xb8\xad", "\xe2\x80\x8b", "\r\n"};
     const std::size_t sizes[] = {3, 200, FileText::kPiece - 5, FileText::kPiece * 5 / 2};
     std::string text;
     const std::size_t nLines = random() % 12;
@@ -130,9 +145,9 @@ std::string randomText(std::mt19937& random)
 
 TEST(FileRowsTest, RowsAreTheSameOnAllWays)
 {
-    const Utf8 locale;
-    for (unsigned seed = 0; seed < 12; ++seed) {
+    for (unsigned seed = 0; seed < 16; ++seed) {
         SCOPED_TRACE(seed);
+        const Utf8 locale(1 + static_cast<int>(seed % 2));
         std::mt19937 random(seed);
         const std::string bytes = randomText(random);
         const TemporaryFile file(bytes);
@@ -145,7 +160,8 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
             ASSERT_GT(row.next, place);
             ASSERT_LE(row.end, row.next);
             for (; shownUpTo < row.start; ++shownUpTo)
-                ASSERT_NE(std::string(" \t\r\n").find(bytes[static_cast<std::size_t>(shownUpTo)]), std::string::npos);
+                ASSERT_NE(std::string(" \t\r\n\xe2\x80\x8b").find(bytes[static_cast<std::size_t>(shownUpTo)]),
+                          std::string::npos);
             shownUpTo = row.end;
             starts.push_back(place);
             place = row.next;

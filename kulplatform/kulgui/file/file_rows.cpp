@@ -5,6 +5,7 @@
 #include <cwchar>
 
 #include "../gui/draw.hpp"
+#include "../gui/edition.hpp"
 #include "../gui/text.hpp"
 
 namespace kul {
@@ -12,57 +13,68 @@ namespace kul {
 namespace {
 
 constexpr int kTab = 8;
+
 // Bytes of a character, at the most, in any encoding that is in use; without wide characters in
 // curses a byte is a character.
-constexpr int kLongest = NCURSES_WIDECHAR ? 8 : 1;
+constexpr std::size_t kLongest = NCURSES_WIDECHAR ? 8 : 1;
+
+// One character for a row of nColumns; the stand-in where it has no column of its own.
+Letter character(std::string_view bytes, int nColumns)
+{
+    wchar_t shown = 0;
+    std::mbstate_t state{};
+    const std::size_t nMost = std::min(bytes.size(), kLongest);
+    const std::size_t nBytes = std::mbrtowc(&shown, bytes.data(), nMost, &state);
+    if (nBytes == 0 || nBytes > nMost)
+        return {1, 1, {kStandIn}};
+    const int nWidth = wcwidth(shown);
+    if (nWidth < 1 || nWidth > nColumns)
+        return {nBytes, 1, {kStandIn}};
+    return {nBytes, nWidth, {shown}};
+}
 
 } // namespace
 
 FileRows::FileRows(FileText& text, int nColumns)
-    : text_(text), nColumns_(std::clamp(nColumns, 1, kMaxColumns))
+    : text_(text), nColumns_(std::clamp(nColumns, 1, kMaxColumns)), marks_(isEdition2())
 {
+}
+
+// The bytes at a place, as many as it takes to know the letter there.
+std::string_view FileRows::window(FilePlace place, FilePlace end)
+{
+    const auto nMost = static_cast<std::size_t>(std::min<FilePlace>(kWindow, end - place));
+    const std::string_view here = text_.at(place);
+    if (here.size() >= nMost)
+        return {here.data(), nMost};
+    std::size_t nBytes = 0;
+    for (int nByte; nBytes < nMost && (nByte = text_.byteAt(place)) >= 0; ++place)
+        window_[nBytes++] = static_cast<char>(nByte);
+    return {window_, nBytes};
 }
 
 std::string_view FileRows::plainFrom(FilePlace place, FilePlace end)
 {
     const std::string_view bytes = text_.at(place);
-    const std::size_t nMost = std::min(bytes.size(), static_cast<std::size_t>(end - place));
-    std::size_t n = 0;
-    while (n < nMost && isPlain(bytes[n]))
+    const FilePlace nMost = std::min(static_cast<FilePlace>(bytes.size()), end - place);
+    FilePlace n = 0;
+    while (n < nMost && isPlain(bytes.data()[n]))
         ++n;
-    return {bytes.data(), n};
+    // What a mark may stand on is no letter of its own.
+    if (marks_ && n > 0 && place + n < end && text_.byteAt(place + n) >= 0x80)
+        --n;
+    return {bytes.data(), static_cast<std::size_t>(std::max<FilePlace>(n, 0))};
 }
 
-FileRows::Glyph FileRows::glyph(FilePlace place, FilePlace end, int nColumn)
+Letter FileRows::letter(FilePlace place, FilePlace end, int nColumn)
 {
-    const int nByte = text_.byteAt(place);
-    if (nByte == '\t')
-        return {L' ', 1, kTab - nColumn % kTab};
-    if (nByte >= 0x80)
-        return wideGlyph(place, end);
-    return {isPlain(static_cast<char>(nByte)) ? static_cast<wchar_t>(nByte) : kStandIn, 1, 1};
-}
-
-// A character of the locale's encoding.
-FileRows::Glyph FileRows::wideGlyph(FilePlace place, FilePlace end)
-{
-    char bytes[kLongest] = {};
-    std::size_t nBytes = 0;
-    for (; nBytes < kLongest && place < end; ++place) {
-        const int nByte = text_.byteAt(place);
-        if (nByte < 0)
-            break;
-        bytes[nBytes++] = static_cast<char>(nByte);
-    }
-    wchar_t character = 0;
-    std::mbstate_t state{};
-    const std::size_t nUsed = std::mbrtowc(&character, bytes, nBytes, &state);
-    if (nUsed == 0 || nUsed > nBytes)
-        return {kStandIn, 1, 1};
-    const int nCells = wcwidth(character);
-    if (nCells < 1 || nCells > nColumns_)
-        return {kStandIn, static_cast<int>(nUsed), 1};
-    return {character, static_cast<int>(nUsed), nCells};
+    const std::string_view bytes = window(place, end);
+    const char first = bytes.empty() ? '\0' : bytes.front();
+    if (first == '\t')
+        return {1, kTab - nColumn % kTab, {L' '}};
+    if (isAscii(first) && !isPlain(first))
+        return {1, 1, {kStandIn}};
+    return marks_ ? nextLetter(bytes, nColumns_) : character(bytes, nColumns_);
 }
 
 // The byte of the first character that starts at a cell or behind it.
@@ -92,9 +104,29 @@ FileRows::Row FileRows::row(FilePlace start)
     const std::string_view plain = plainFrom(start, start + nColumns_);
     const FilePlace newline = start + static_cast<FilePlace>(plain.size());
     const FilePlace edge = ((start - FileText::kBehind) / FileText::kPiece + 1) * FileText::kPiece;
-    if (newline + kLongest < edge && text_.byteAt(newline) == '\n')
+    if (newline + kWindow < edge && text_.byteAt(newline) == '\n')
         return {start, newline, newline + 1};
     return wrappedRow(start, edge);
+}
+
+// Bytes that end the line at a place before end; -1 while it goes on.
+int FileRows::lineEndAt(FilePlace place, FilePlace end)
+{
+    const int nByte = place < end ? text_.byteAt(place) : -1;
+    if (nByte < 0)
+        return 0;
+    if (nByte == '\n')
+        return 1;
+    return nByte == '\r' && text_.byteAt(place + 1) == '\n' ? 2 : -1;
+}
+
+// Adds what begins so many bytes behind the row's start to the nCells that are there.
+void FileRows::addCells(int& nCells, FilePlace nPlace, int nColumns, bool blank)
+{
+    for (int i = 0; i < nColumns; ++i) {
+        places_[nCells] = i == 0 ? static_cast<int>(nPlace) : -1;
+        cells_[nCells++] = blank ? ' ' : 'x';
+    }
 }
 
 // A row of a line that is longer or holds more than plain characters. Cuts are at or behind edge.
@@ -104,31 +136,23 @@ FileRows::Row FileRows::wrappedRow(FilePlace start, FilePlace edge)
     FilePlace cut = -1; // not known: it matters near the edge only
     FilePlace place = start;
     int nCells = 0;
-    int nLineEnd = -1; // bytes that end the line, -1 while it goes on
-    while (nCells < nWanted) {
-        if (cut < 0 && place + kLongest > edge)
+    int nLineEnd = -1;
+    while (nCells < nWanted && nLineEnd < 0) {
+        if (cut < 0 && place + kWindow > edge)
             cut = text_.nextCut(start);
         const FilePlace end = cut < 0 ? edge : cut;
-        const int nByte = place < end ? text_.byteAt(place) : -1;
-        if (nByte < 0 || nByte == '\n')
-            nLineEnd = nByte < 0 ? 0 : 1;
-        else if (nByte == '\r' && text_.byteAt(place + 1) == '\n')
-            nLineEnd = 2;
-        if (nLineEnd >= 0)
-            break;
-        const bool blank = nByte == ' ' || nByte == '\t';
-        places_[nCells] = static_cast<int>(place - start);
-        cells_[nCells++] = blank ? ' ' : 'x';
-        if (nByte < 0x80 && nByte != '\t') {
-            ++place;
+        const FilePlace room = place + nWanted - nCells;
+        const std::string_view plain = plainFrom(place, std::min(end, room));
+        for (const char byte : plain)
+            addCells(nCells, place++ - start, 1, byte == ' ');
+        if (!plain.empty())
             continue;
-        }
-        const Glyph now = glyph(place, end, nCells - 1);
-        for (int i = 1; i < now.nCells; ++i, ++nCells) {
-            places_[nCells] = -1;
-            cells_[nCells] = cells_[nCells - 1];
-        }
-        place += now.nBytes;
+        nLineEnd = lineEndAt(place, end);
+        if (nLineEnd >= 0)
+            continue;
+        const Letter now = letter(place, end, nCells);
+        addCells(nCells, place - start, now.nColumns, now.shown[0] == L' ');
+        place += static_cast<FilePlace>(now.nBytes);
     }
     const FilePlace next = place + std::max(nLineEnd, 0);
     if (nCells <= nColumns_)

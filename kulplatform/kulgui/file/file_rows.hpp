@@ -9,6 +9,7 @@
 #ifndef KUL_FILE_FILE_ROWS_HPP
 #define KUL_FILE_FILE_ROWS_HPP
 
+#include "../gui/columns.hpp"
 #include "file_text.hpp"
 
 namespace kul {
@@ -17,9 +18,6 @@ class FileRows {
 public:
     // Wider rows wrap there.
     static constexpr int kMaxColumns = 1000;
-
-    // What stands for characters that cannot be shown.
-    static constexpr wchar_t kStandIn = L'?';
 
     // nColumns is taken into 1..kMaxColumns.
     FileRows(FileText& text, int nColumns);
@@ -30,20 +28,15 @@ public:
         FilePlace next; // start of the row below
     };
 
-    // What some bytes look like; a tab is as many blanks as it takes.
-    struct Glyph {
-        wchar_t character;
-        int nBytes;
-        int nCells;
-    };
-
     // The row that starts at a place; without a next one (next is start) at the end of the file.
     Row row(FilePlace start);
 
-    // The character at a place before end, in that column of a row.
-    Glyph glyph(FilePlace place, FilePlace end, int nColumn);
+    // The letter at a place before end, in that column of a row. A tab is a blank of as many
+    // columns as it takes, and a control character is the stand-in. In edition 1 a letter is one
+    // character, and the stand-in where that has no column of its own.
+    Letter letter(FilePlace place, FilePlace end, int nColumn);
 
-    // The bytes from a place to an end that are a character and a cell each, as far as they lie
+    // The bytes from a place to an end that are a letter and a column each, as far as they lie
     // together; they stay until the next call.
     std::string_view plainFrom(FilePlace place, FilePlace end);
 
@@ -58,15 +51,22 @@ private:
     // A row and what lineStart looks at behind it, and what a last tab is too long.
     static constexpr int kCells = 2 * kMaxColumns + 1 + 8;
 
+    // What is looked at to know a letter; marks that lie behind are none of this letter.
+    static constexpr int kWindow = 64;
+
     Row wrappedRow(FilePlace start, FilePlace edge);
     FilePlace placeOf(int nCell, int nCells, FilePlace start, FilePlace end) const;
     int shownCells(int nCells) const;
-    Glyph wideGlyph(FilePlace place, FilePlace end);
+    std::string_view window(FilePlace place, FilePlace end);
+    int lineEndAt(FilePlace place, FilePlace end);
+    void addCells(int& nCells, FilePlace nPlace, int nColumns, bool blank);
 
     FileText& text_;
     int nColumns_;
+    bool marks_; // whether letters take the marks behind them along
+    char window_[kWindow];
     char cells_[kCells]; // one character each, however it is encoded
-    int places_[kCells]; // first byte of the cell's character, from the row's start; -1: as before
+    int places_[kCells]; // first byte of the cell's letter, from the row's start; -1: as before
 };
 
 } // namespace kul

@@ -152,10 +152,11 @@ bool FileText::isReplacedAt(const char* szName) const
 
 // ---- Bytes and lines near a place ----------------------------------------------------------
 
-std::string_view FileText::at(FilePlace place)
+// Makes the page that holds a place the one that was used last. False when there is nothing.
+bool FileText::turnTo(FilePlace place)
 {
     if (place < 0 || place >= size_)
-        return {};
+        return false;
     const FilePlace number = place / kPage;
     Page* page = &pages_[0];
     for (Page& candidate : pages_) {
@@ -183,10 +184,7 @@ std::string_view FileText::at(FilePlace place)
     lastPlace_ = number * kPage;
     lastSize_ =
         static_cast<std::uint64_t>(std::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));
-    const FilePlace nLeft = lastPlace_ + static_cast<FilePlace>(lastSize_) - place;
-    return nLeft > 0
-               ? std::string_view(last_ + (place - lastPlace_), static_cast<std::size_t>(nLeft))
-               : std::string_view();
+    return place - lastPlace_ < static_cast<FilePlace>(lastSize_);
 }
 
 // Reading has found nothing more at a place.

@@ -46,15 +46,20 @@ public:
 
     // The bytes at a place, up to the end of the page or the file: empty where there is none.
     // They stay for at least two more calls.
-    std::string_view at(FilePlace place);
+    std::string_view at(FilePlace place)
+    {
+        const auto nOffset = static_cast<std::uint64_t>(place - lastPlace_);
+        if (nOffset >= lastSize_ && !turnTo(place))
+            return {};
+        return {last_ + (place - lastPlace_),
+                static_cast<std::size_t>(lastPlace_ + static_cast<FilePlace>(lastSize_) - place)};
+    }
 
     // The byte at a place, -1 for none.
     int byteAt(FilePlace place)
     {
-        const auto nOffset = static_cast<std::uint64_t>(place - lastPlace_);
-        if (nOffset >= lastSize_ && at(place).empty())
-            return -1;
-        return static_cast<unsigned char>(last_[place - lastPlace_]);
+        const std::string_view bytes = at(place);
+        return bytes.empty() ? -1 : static_cast<unsigned char>(bytes.front());
     }
 
     // The last newline in [from, place), the first one in [from, to); -1 for none.
@@ -117,6 +122,7 @@ private:
         char bytes[kPage];
     };
 
+    bool turnTo(FilePlace place);
     char* chunkBytes();
     std::string_view chunk(FilePlace place);
     Counted markAt(std::int64_t nMark) const;

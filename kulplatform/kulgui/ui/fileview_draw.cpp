@@ -5,6 +5,7 @@
 
 #include "../file/file_rows.hpp"
 #include "../gui/draw.hpp"
+#include "../gui/screen.hpp"
 #include "component.hpp"
 #include "fileview.hpp"
 
@@ -36,11 +37,26 @@ using kul::kMaxFileRows;
 
 constexpr int kScrollStyle = 1;
 
-// A row, on blanks as wide as the box: these come first, for a plain character that takes the place
-// of one half of a wide one is lost when the other half goes. Cells outside of the window are left
-// out, and so is what lies there in part.
+// A row of plain characters goes out in one run with the blanks behind them.
+bool drawPlainRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
+{
+    char cells[FileRows::kMaxColumns];
+    const std::string_view plain = rows.plainFrom(row.start, row.end);
+    const auto nPlain = static_cast<int>(plain.size());
+    if (nPlain < row.end - row.start || nPlain > box.nWidth || box.nWidth > FileRows::kMaxColumns)
+        return false;
+    std::fill(std::copy(plain.begin(), plain.end(), cells), cells + box.nWidth, ' ');
+    kul::plainRun(win, nY, box.nX, {cells, static_cast<std::size_t>(box.nWidth)});
+    return true;
+}
+
+// Any other row is drawn on blanks as wide as the box: these come first, for a plain character that
+// takes the place of one half of a wide one is lost when the other half goes. Cells outside of the
+// window are left out, and so is what lies there in part.
 void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const FileRows::Row& row)
 {
+    if (drawPlainRow(win, nY, box, rows, row))
+        return;
     const int nRight =
         static_cast<int>(std::min<long long>(std::min(box.nWidth, FileRows::kMaxColumns),
                                              static_cast<long long>(getmaxx(win)) - box.nX));
@@ -56,11 +72,11 @@ void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const File
             nColumn += static_cast<int>(plain.size());
             continue;
         }
-        const FileRows::Glyph now = rows.glyph(place, row.end, nColumn);
-        place += now.nBytes;
-        nColumn += now.nCells;
-        if (now.character != L' ' && nColumn <= nRight)
-            kul::drawLetter(win, nY, nX, {1, now.nCells, {now.character}});
+        const kul::Letter now = rows.letter(place, row.end, nColumn);
+        place += static_cast<FilePlace>(now.nBytes);
+        nColumn += now.nColumns;
+        if (now.shown[0] != L' ' && nColumn <= nRight)
+            kul::drawLetter(win, nY, nX, now);
     }
 }
 
@@ -122,7 +138,10 @@ void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
     FilePlace bottom = 0;
     {
         const kul::Attribute color(win, nFocus == 1 ? view.nColorFocus : view.nColorUnfocus);
-        bottom = drawText(win, view, kul::fileBox(view));
+        const FileBox box = kul::fileBox(view);
+        bottom = drawText(win, view, box);
+        if (nFocus == 1)
+            kul::showCursorAt(win, box.nY, box.nX);
     }
     if (view.nBorder == BORDER)
         DrawBorder(win, view.nY, view.nX, view.nHeight, view.nWidth, view.nColorUnfocus);
