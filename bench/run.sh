@@ -64,6 +64,11 @@ for scene in menu checks options; do
     row "$scene: one key (Down)" "$(instructions $scene 100)" "" "$(instructions $scene 10000)"
     row "$scene: adding one element" "" "$(adding $scene 1000)" "$(adding $scene 10000)"
 done
+row "fields, and descriptions: adding one each" "" "$(adding fields 1000)" "$(adding fields 10000)"
+
+echo
+row "Instructions to draw English texts" "by bytes" "by columns" ""
+row "labels, lists, fields, a button, a wrapped text" "$(instructions texts 9)" "$(instructions texts-columns 9)" ""
 
 for program in "$bench"/*_bench; do
     echo

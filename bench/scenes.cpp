@@ -2,6 +2,7 @@
 #include "scenes.hpp"
 
 #include <algorithm>
+#include <clocale>
 #include <cstdio>
 #include <string>
 
@@ -165,12 +166,63 @@ void rewriteRows(long nTimes)
     }
 }
 
+void buildFields(int nElements)
+{
+    kulstatbar_create(kDialog, 101);
+    kulstatbar_config(kDialog, 101, KUL_KEEP, nullptr);
+    kuldescrfield_create(kDialog, 102);
+    kuldescrfield_config(kDialog, 102, KUL_KEEP, KUL_KEEP, 2, 2, 30, 20, 6);
+    for (int i = 0; i < nElements; ++i) {
+        kulstatbar_addElement(kDialog, 101, i % 30, 9, elementText(i).c_str(), LEFT, nullptr);
+        kuldescrfield_addElement(kDialog, 102, elementText(i).c_str(), "What it means");
+    }
+}
+
+constexpr char kSentence[] = "The device has been restarted, and its clock was set by a server.";
+
+void buildTexts(int nElements)
+{
+    buildFields(3);
+    buildChecks(nElements);
+    kulcheckbox_addElement(kDialog, 1, kSentence, 0, 1, nullptr, nullptr);
+    kullabel_create(kDialog, 103);
+    kullabel_config(kDialog, 103, KUL_KEEP, KUL_KEEP, 1, 8, 30, 5, CENTER, BORDER, kSentence);
+    addButton(2, 26, 9, "Button");
+}
+
+void buildTextsInColumns(int nElements)
+{
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+    kulgui_setEdition(2);
+    buildTexts(nElements);
+}
+
+// Into the dialog's window, and no further.
+void drawTexts(long nTimes)
+{
+    GUI* gui = GetChain(kDialog)->Pointer;
+    for (long i = 0; i < nTimes; ++i) {
+        ShowDisplayComponents(gui);
+        ShowUIComponents(gui);
+        NewStrToBox(gui->winMain, 2, 2, 22, GetWrapTextHeight(22, kSentence), RED_BLUE, LEFT,
+                    kSentence);
+    }
+}
+
 const kulbench::Scene kScenes[] = {
-    {"focus", buildButtons, runDialog, KS_TAB},    {"focus-plain", buildButtons, repaintButtons, 0},
-    {"button", buildButtons, runDialog, KS_ENTER}, {"items", buildItems, runDialog, KS_ENTER},
-    {"items-plain", buildItems, rewriteRows, 0},   {"menu", buildMenu, runDialog, KS_DOWN},
-    {"checks", buildChecks, runDialog, KS_DOWN},   {"options", buildOptions, runDialog, KS_DOWN},
-    {"text", buildText, runDialog, 'x'},           {"letters", buildLetters, runDialog, 'x'},
+    {"focus", buildButtons, runDialog, KS_TAB},
+    {"focus-plain", buildButtons, repaintButtons, 0},
+    {"button", buildButtons, runDialog, KS_ENTER},
+    {"items", buildItems, runDialog, KS_ENTER},
+    {"items-plain", buildItems, rewriteRows, 0},
+    {"menu", buildMenu, runDialog, KS_DOWN},
+    {"checks", buildChecks, runDialog, KS_DOWN},
+    {"options", buildOptions, runDialog, KS_DOWN},
+    {"fields", buildFields, runDialog, KS_TAB},
+    {"texts", buildTexts, drawTexts, 0},
+    {"texts-columns", buildTextsInColumns, drawTexts, 0},
+    {"text", buildText, runDialog, 'x'},
+    {"letters", buildLetters, runDialog, 'x'},
 };
 
 } // namespace

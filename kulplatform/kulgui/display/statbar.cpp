@@ -16,12 +16,11 @@ void dropElement(KULSTATELEMENT& element)
 // The column where a field's text starts.
 int textColumn(const KULSTATELEMENT& element)
 {
-    const int nLength = kul::widthOf(element.szText);
     switch (element.nAlignment) {
     case CENTER:
-        return kul::shifted(element.nX, Offset(element.nWidth, nLength));
+        return kul::shifted(element.nX, Offset(element.nWidth, kul::widthOf(element.szText)));
     case RIGHT:
-        return kul::shifted(element.nX, static_cast<long long>(element.nWidth) - nLength);
+        return kul::shifted(element.nX, element.nWidth - 1LL * kul::widthOf(element.szText));
     default:
         return element.nX;
     }

@@ -12,6 +12,11 @@
 
 namespace {
 
+bool allPlain(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char each) { return kul::isPlain(each); });
+}
+
 // Number of plain characters at the front; without the last one if a mark may stand on it.
 std::size_t plainCount(std::string_view text)
 {
@@ -141,13 +146,22 @@ long long printFront(const Row& row, int nX, std::string_view& text)
     return letter.nColumns;
 }
 
+// Prints a text that is not plain, or not whole.
+void printOther(WINDOW* win, int nY, int nX, std::string_view text, bool onRow)
+{
+    if (kul::isEdition2())
+        kul::printLetters(win, nY, nX, INT_MAX, text, kul::Controls::Whole);
+    else if (wmove(win, nY, nX) != ERR)
+        printCharacters(win, text, onRow);
+}
+
 } // namespace
 
 namespace kul {
 
 void drawText(WINDOW* win, int nY, int nX, std::string_view text, int nWidth)
 {
-    if (std::all_of(text.begin(), text.end(), isPlain))
+    if (allPlain(text))
         plainRun(win, nY, nX, text);
     else if (countsColumns())
         printLetters(win, nY, nX, INT_MAX, text, Controls::InOneColumn, nWidth);
@@ -159,21 +173,19 @@ void print(WINDOW* win, int nY, int nX, const char* szText)
 {
     const std::string_view text(szText);
     const long long room = getmaxx(win) - static_cast<long long>(nX);
-    if (nX >= 0 && static_cast<long long>(text.size()) <= room &&
-        std::all_of(text.begin(), text.end(), isPlain))
+    if (nX >= 0 && static_cast<long long>(text.size()) <= room && allPlain(text))
         plainRun(win, nY, nX, text);
-    else if (isEdition2())
-        printLetters(win, nY, nX, INT_MAX, text, Controls::Whole);
-    else if (wmove(win, nY, nX) != ERR)
-        printCharacters(win, text, false);
+    else
+        printOther(win, nY, nX, text, isEdition2());
 }
 
 void printOnRow(WINDOW* win, int nY, int nX, const char* szText)
 {
-    if (isEdition2())
-        print(win, nY, nX, szText);
-    else if (wmove(win, nY, nX) != ERR)
-        printCharacters(win, szText, true);
+    const std::string_view text(szText);
+    if (nX >= 0 && allPlain(text))
+        plainRun(win, nY, nX, text);
+    else
+        printOther(win, nY, nX, text, true);
 }
 
 void printLetters(WINDOW* win, int nY, int nX, int nEnd, std::string_view text, Controls controls,

@@ -49,14 +49,19 @@ void swapFirst(char* str, std::size_t nCount, char this_char, char that_char)
     std::replace(str, str + nCount, this_char, that_char);
 }
 
+// The bytes of a line of nLength columns, if it is all in ASCII, and the one behind.
+std::string_view lookedAt(std::string_view text, int nStart, int nLength)
+{
+    const auto nFirst = static_cast<std::size_t>(nStart);
+    const std::size_t nMost = static_cast<std::size_t>(std::max(nLength, 0)) + 1;
+    return {text.data() + nFirst, std::min(text.size() - nFirst, nMost)};
+}
+
 // Bytes of a line of nLength columns, or one more than the rest of the text has if that is shorter.
 int lineBytes(std::string_view text, int nStart, int nLength)
 {
     const std::string_view rest(text.data() + nStart,
                                 text.size() - static_cast<std::size_t>(nStart));
-    const std::size_t nLooked = static_cast<std::size_t>(std::max(nLength, 0)) + 1;
-    if (kul::isAscii({rest.data(), std::min(rest.size(), nLooked)}))
-        return nLength;
     const std::string_view line = kul::fitting(rest, nLength);
     const bool isShorter = line.size() == rest.size() && kul::columnsOf(line) < nLength;
     return static_cast<int>(line.size()) + (isShorter ? 1 : 0);
@@ -74,7 +79,8 @@ bool isBroken(std::string_view text, int nPlace)
         --first;
     while (isLetter(end))
         ++end;
-    return !kul::isAscii({text.data() + first, static_cast<std::size_t>(end - first)});
+    return !kul::isAscii({text.data() + first, static_cast<std::size_t>(end - first)}) &&
+           kul::countsColumns();
 }
 
 } // namespace
@@ -82,56 +88,34 @@ bool isBroken(std::string_view text, int nPlace)
 namespace kul {
 
 RowWalk::RowWalk(const char* szText, int nWidth)
-    : row_(nWidth > 0 ? szText : nullptr), ahead_(row_), space_(row_), wordEnd_(row_),
-      end_(nullptr), width_(nWidth), used_(0), spaceUsed_(0), wordBroken_(false)
+    : row_(nWidth > 0 ? szText : nullptr), ahead_(row_), space_(row_), width_(nWidth), surplus_(0),
+      end_(nullptr), wordEnd_(row_), wordBroken_(false)
 {
 }
 
-// Looks ahead until the row is full, or the line ends. Whether it is full.
-bool RowWalk::fill()
+// Takes the character ahead that is no plain one: a letter, or the marks on the one before. False
+// when there is no room for it in the row.
+bool RowWalk::takeOther(bool full)
 {
-    while (true) {
-        const char* from = ahead_;
-        const std::ptrdiff_t room = width_ - used_;
-        std::ptrdiff_t n = 0;
-        for (; n<room&& static_cast<signed char>(from[n])> '\n'; ++n)
-            space_ = from[n] == ' ' ? from + n : space_;
-        ahead_ += n;
-        if (space_ >= from)
-            spaceUsed_ = used_ + (space_ - from) + 1;
-        used_ += n;
-        if (!isAscii(*ahead_) && countsColumns()) {
-            if (!takeLetter())
-                return true;
-            continue;
-        }
-        if (used_ == width_)
-            return true;
-        if (*ahead_ == '\n' || *ahead_ == '\0')
-            return false;
-        ++ahead_;
-        ++used_;
+    if (isAscii(*ahead_) || !countsColumns()) {
+        ahead_ += full ? 0 : 1;
+        return !full;
     }
-}
-
-// Takes a letter, or the marks on the one before, if there is room for them in the row.
-bool RowWalk::takeLetter()
-{
     if (!end_)
         end_ = ahead_ + std::strlen(ahead_);
     const std::string_view rest(ahead_, static_cast<std::size_t>(end_ - ahead_));
-    const std::size_t nMarks = ahead_ > row_ && isWordOrEnd(ahead_[-1]) ? marksAt(rest) : 0;
+    const bool onLetter = ahead_ > row_ && isWordOrEnd(ahead_[-1]);
+    const auto nMarks = static_cast<std::ptrdiff_t>(onLetter ? marksAt(rest) : 0);
     if (nMarks > 0) {
         ahead_ += nMarks;
+        surplus_ += nMarks;
         return true;
     }
-    if (used_ == width_)
-        return false;
     const Letter letter = nextLetter(rest, static_cast<int>(width_));
-    if (used_ + letter.nColumns > width_)
+    if (ahead_ - row_ - surplus_ + letter.nColumns > width_)
         return false;
     ahead_ += letter.nBytes;
-    used_ += letter.nColumns;
+    surplus_ += static_cast<std::ptrdiff_t>(letter.nBytes) - letter.nColumns;
     return true;
 }
 
@@ -140,11 +124,31 @@ bool RowWalk::isBrokenWord()
 {
     if (row_ >= wordEnd_) {
         wordBroken_ = false;
-        wordEnd_ = row_ + (*row_ == ' ' ? 1 : 0);
+        wordEnd_ = row_ + 1; // it may be a space
         for (; !isBlank(*wordEnd_) && *wordEnd_ != '\n'; ++wordEnd_)
             wordBroken_ = wordBroken_ || !isAscii(*wordEnd_);
+        wordBroken_ = (wordBroken_ || !isAscii(*row_)) && countsColumns();
     }
-    return wordBroken_ && countsColumns();
+    return wordBroken_;
+}
+
+// Looks ahead to the end of the row. Whether the row is full, and not the line at its end.
+inline bool RowWalk::fill()
+{
+    while (true) {
+        const char* ahead = ahead_;
+        const char* space = space_;
+        std::ptrdiff_t room = width_ + surplus_ - (ahead - row_);
+        for (; room > 0 && static_cast<signed char>(*ahead) > '\n'; ++ahead, --room)
+            space = *ahead == ' ' ? ahead : space;
+        ahead_ = ahead;
+        space_ = space;
+        const bool full = room <= 0;
+        if (full ? isAscii(*ahead) : *ahead == '\n' || *ahead == '\0')
+            return full;
+        if (!takeOther(full))
+            return true;
+    }
 }
 
 std::optional<std::string_view> RowWalk::next()
@@ -156,24 +160,26 @@ std::optional<std::string_view> RowWalk::next()
     if (!fill()) { // the line ends here
         end = ahead_;
         row_ = *end == '\0' ? nullptr : ++ahead_;
-        used_ = 0;
+        surplus_ = 0;
     } else if (ahead_[-1] == ' ') {
         end = ahead_;
         row_ = end;
-        used_ = 0;
+        surplus_ = 0;
     } else if (space_ > start) { // a word is cut: it goes to the next row
         end = space_;
         row_ = end + 1;
-        used_ -= spaceUsed_;
-    } else if (isBrokenWord()) {
+        if (surplus_ != 0) {
+            const std::string_view kept(row_, static_cast<std::size_t>(ahead_ - row_));
+            surplus_ = ahead_ - row_ - columnsOf(kept);
+        }
+    } else if (isEdition2() && isBrokenWord()) {
         end = ahead_;
         if (isBlank(*end) || *end == '\n') // the word ends here, too
             ++ahead_;
         row_ = *end == '\0' ? nullptr : ahead_;
-        used_ = 0;
+        surplus_ = 0;
     } else {
         ++row_;
-        --used_;
     }
     return std::string_view(start, static_cast<std::size_t>(end - start));
 }
@@ -227,7 +233,7 @@ int lineEnd(std::string_view text, int nStart, int nLength)
         return static_cast<int>(size - 1);
     if (size < nStart || nStart < 0)
         return -1;
-    const bool columns = countsColumns();
+    const bool columns = !isAscii(lookedAt(text, nStart, nLength)) && countsColumns();
     const int nBytes = columns ? lineBytes(text, nStart, nLength) : nLength;
     if (size < static_cast<long long>(nStart) + nBytes)
         return static_cast<int>(size - 1);
@@ -246,7 +252,7 @@ int lineEnd(std::string_view text, int nStart, int nLength)
     if (at(text, nLast + 1LL) != ' ') {
         while (nEnd > nStart && isCut(nEnd))
             --nEnd;
-        if (nEnd == nStart && columns && isBroken(text, nStart))
+        if (nEnd == nStart && isEdition2() && isBroken(text, nStart))
             return nLast;
     } else if (isBlank(cells[nEnd])) {
         do {

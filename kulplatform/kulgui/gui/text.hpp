@@ -30,18 +30,17 @@ public:
 
 private:
     bool fill();
-    bool takeLetter();
+    bool takeOther(bool full);
     bool isBrokenWord();
 
-    const char* row_;          // where the next row starts; null after the last
-    const char* ahead_;        // the first character that was not looked at
-    const char* space_;        // the last space before that; what lies before row_ does not count
-    const char* wordEnd_;      // behind the word that was looked at last
-    const char* end_;          // of the text, when it is known
-    std::ptrdiff_t width_;     // in columns, as are
-    std::ptrdiff_t used_;      // what lies from row_ to ahead_
-    std::ptrdiff_t spaceUsed_; // and to behind space_
-    bool wordBroken_;          // whether the word breaks between letters
+    const char* row_;   // where the next row starts; null after the last
+    const char* ahead_; // the first character that was not looked at
+    const char* space_; // the last space before that; what lies before row_ does not count
+    std::ptrdiff_t width_;
+    std::ptrdiff_t surplus_; // bytes from row_ to ahead_ that are more than columns
+    const char* end_;        // of the text, when it is known
+    const char* wordEnd_;    // behind the word that was looked at last
+    bool wordBroken_;        // whether that breaks between letters
 };
 
 // Whether texts are laid out by columns: in edition 2 and in a locale, with a curses that knows
