@@ -411,6 +411,7 @@ KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
  *                     goes to the next element that begins with it; disabled elements are passed
  *                     over. A menu runs onSelect after a move, and at Enter its own onClick, then
  *                     that of the element. Check lists end when they are hidden.
+ *   text boxes        insert letters and scroll; what counts are characters. See their chapter.
  *   focus             a dialog whose component in focus is gone begins with its first one.
  *   the cursor        of the terminal stands where the user is, for braille displays and screen
  *                     readers.

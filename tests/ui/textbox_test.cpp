@@ -455,8 +455,12 @@ TEST_F(LetterBoxTest, TakesTextsAndLimits)
     }
 }
 
-TEST_F(LetterBoxTest, IsUnderlinedWithoutColours)
+TEST_F(LetterBoxTest, IsSeenWithoutFocus)
 {
+    fill({4, 1}, "a");
+    GetChain(1)->Pointer->nCurrentUI = -1;
+    kulgui_show(1);
+    EXPECT_EQ(cellOf(window(1), 2, 2).pair, BLACK_CYAN);
     const NoColors none;
     fill({4, 3, BORDER}, "a");
     GetChain(1)->Pointer->nCurrentUI = -1;

@@ -137,22 +137,24 @@ constexpr kul::EditKey kKeys[] = {
     {KS_DOWN, TextBoxGoDown},         {KS_RIGHT, TextBoxGoRight}, {KS_F1, [](KULTEXTBOX*) {}},
 };
 
-constexpr kul::TextManners kManners = {kKeys,
-                                       type,
-                                       [](KULTEXTBOX& box) { return box.nCursorPos - 1; },
-                                       [](KULTEXTBOX& box) { return box.nCursorPos + 1; },
-                                       moved,
-                                       draw,
-                                       drawAlone,
-                                       fits,
-                                       [](std::string_view text, int nByte) {
-                                           return nByte <= static_cast<int>(text.size()) ? nByte
-                                                                                         : -1;
-                                       },
-                                       INT_MAX,
-                                       1,
-                                       false,
-                                       A_NORMAL};
+int placeOf(std::string_view text, int nByte)
+{
+    return nByte <= static_cast<int>(text.size()) ? nByte : -1;
+}
+
+constexpr kul::TextManners kManners = {.keys = kKeys,
+                                       .type = type,
+                                       .before = [](KULTEXTBOX& box) { return box.nCursorPos - 1; },
+                                       .after = [](KULTEXTBOX& box) { return box.nCursorPos + 1; },
+                                       .moved = moved,
+                                       .draw = draw,
+                                       .drawAlone = drawAlone,
+                                       .fits = fits,
+                                       .placeOf = placeOf,
+                                       .nMost = INT_MAX,
+                                       .nRoom = 1,
+                                       .behind = false,
+                                       .extent = A_NORMAL};
 
 } // namespace
 

@@ -269,9 +269,19 @@ bool fits(KULTEXTBOX& box, std::string_view text)
            kul::lettersOf(text) <= box.nMaxLength;
 }
 
-constexpr kul::TextManners kManners = {
-    kKeys, type,  before, after,      moved, draw, drawAlone, fits, kul::placeOfLetter,
-    kMost, kRoom, true,   A_UNDERLINE};
+constexpr kul::TextManners kManners = {.keys = kKeys,
+                                       .type = type,
+                                       .before = before,
+                                       .after = after,
+                                       .moved = moved,
+                                       .draw = draw,
+                                       .drawAlone = drawAlone,
+                                       .fits = fits,
+                                       .placeOf = kul::placeOfLetter,
+                                       .nMost = kMost,
+                                       .nRoom = kRoom,
+                                       .behind = true,
+                                       .extent = A_UNDERLINE};
 
 } // namespace
 
