@@ -82,12 +82,24 @@ bool isAllowed(const KULTEXTBOX& box, const Typed& typed, bool mark)
     return mark || kul::nextLetter(typed.text()).shown[0] == typed.character;
 }
 
+void noteCount(KULTEXTBOX& box, int nLetters)
+{
+    if (kul::TextState* state = kul::stateOf(box)) {
+        state->nLetters = nLetters;
+        state->nCounted = box.nLength;
+    }
+}
+
 // How many letters the text has. Of one that only type() has changed since this is known, so that a
-// long paste takes no time for what is there already.
+// long paste takes no time for what is there already, nor for what finds no room.
 int count(KULTEXTBOX& box)
 {
     const kul::TextState* state = kul::stateOf(box);
-    return state && state->nLetters >= 0 ? state->nLetters : kul::lettersOf(kul::textOf(box));
+    if (state && state->nLetters >= 0 && state->nCounted == box.nLength)
+        return state->nLetters;
+    const int nLetters = kul::lettersOf(kul::textOf(box));
+    noteCount(box, nLetters);
+    return nLetters;
 }
 
 int before(KULTEXTBOX& box)
@@ -112,8 +124,7 @@ bool enter(KULTEXTBOX& box, const Typed& typed, bool mark, bool overwrites)
     if (!isAllowed(box, typed, mark) || size > kul::roomOf(box) || nLetters > box.nMaxLength)
         return false;
     kul::replaceText(box, box.nCursorPos, nEnd, typed.text());
-    if (kul::TextState* state = kul::stateOf(box))
-        state->nLetters = nLetters;
+    noteCount(box, nLetters);
     return true;
 }
 
