@@ -232,7 +232,32 @@ void Terminal::sendSlowly(std::string_view bytes, int gap)
     }
 }
 
-bool Terminal::pump(int atMost)
+void Terminal::paste(std::string_view bytes, int bytesASecond)
+{
+    const int flags = fcntl(line_.get(), F_GETFL);
+    fcntl(line_.get(), F_SETFL, flags | O_NONBLOCK);
+    const auto start = std::chrono::steady_clock::now();
+    size_t sent = 0;
+    for (size_t received = 0; sent < bytes.size() && running();) {
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start;
+        const size_t carried =
+            bytesASecond ? static_cast<size_t>(passed.count() * bytesASecond) : bytes.size();
+        const size_t due = std::min(carried, bytes.size());
+        const ssize_t count =
+            due > sent ? ::write(line_.get(), bytes.data() + sent, due - sent) : 0;
+        sent += count > 0 ? static_cast<size_t>(count) : 0;
+        if (bytesASecond && carried <= received) {
+            poll(nullptr, 0, 1);
+            continue;
+        }
+        const size_t before = this->received().size();
+        pump(1, bytesASecond ? carried - received : 4096);
+        received += this->received().size() - before;
+    }
+    fcntl(line_.get(), F_SETFL, flags);
+}
+
+bool Terminal::pump(int atMost, size_t most)
 {
     // Poll ignores closed descriptors. What a program wrote last may arrive after its end has.
     constexpr int kAfterglow = 20;
@@ -244,7 +269,7 @@ bool Terminal::pump(int atMost)
         return pump(0);
     }
     char bytes[4096];
-    const ssize_t count = ::read(line_.get(), bytes, sizeof bytes);
+    const ssize_t count = ::read(line_.get(), bytes, std::min(most, sizeof bytes));
     if (count <= 0)
         return false;
     feed(std::string_view(bytes, static_cast<size_t>(count)));

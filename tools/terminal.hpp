@@ -60,8 +60,13 @@ public:
     void send(std::string_view bytes);
     void sendSlowly(std::string_view bytes, int gap); // with a gap between each two bytes
 
+    // Sends more than the line holds, and reads meanwhile; both as a line of so many bytes a second
+    // does, or as fast as the program takes it. Stops when the program ends.
+    void paste(std::string_view bytes, int bytesASecond = 0);
+
     // Waiting. Each returns whether what it waits for came before the deadline.
-    bool pump(int atMost); // the next output of the program; false also for its end
+    // The next output of the program, and no more than that; false also for its end.
+    bool pump(int atMost, size_t bytes = 4096);
     bool settle(int quiet = kQuiet, int deadline = kDeadline); // no output and nothing being done
     bool waitFor(const std::function<bool()>& holds, int deadline = kDeadline);
     bool waitForText(std::string_view text, int deadline = kDeadline); // anywhere on the screen

@@ -169,6 +169,27 @@ TEST(Screen, KeepsTheOrderOfDialogsWhoeverIsDrawn)
     EXPECT_EQ(terminal.paintedMost(), 1) << "not even for a moment";
 }
 
+// A paste comes whole, over a fast line and one of 9600 baud; its newline is a blank.
+TEST(Screen, TakesAPasteWhole)
+{
+    std::string letters;
+    for (int i = 0; i < 230; ++i)
+        letters += static_cast<char>('a' + i % 26);
+    for (const int speed : {0, 960}) {
+        Terminal terminal(program("dialogs", {"second", "text"}));
+        ASSERT_TRUE(terminal.waitForText("Main") && terminal.settle());
+        terminal.mark();
+        terminal.paste("\033[200~" + letters + "\r!\033[201~", speed);
+        EXPECT_TRUE(terminal.waitForText("!") && terminal.settle()) << terminal.text();
+        std::string shown;
+        for (int row = 0; row < 8; ++row)
+            shown += look(terminal, 6 + row, 13, 1, 30).substr(0, 30);
+        EXPECT_EQ(shown, letters + "4!44444444");
+        EXPECT_TRUE(speed || terminal.received().size() < 2 * letters.size())
+            << "an update for each read, not each key";
+    }
+}
+
 TEST(Screen, SendsWholeScreensToASlowReader)
 {
     Launch launch = program("flood");

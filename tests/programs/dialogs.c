@@ -5,6 +5,7 @@
  *   behind    a second dialog is shown, which it overlaps
  *   third     and a third one, which overlaps the second
  *   list      the dialog holds a check box list of ten in place of the buttons
+ *   text      the dialog holds a text box in place of the buttons
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  *   second    in edition 2
  * Enter draws all that is around the dialog again, and writes "drawn".
@@ -56,11 +57,13 @@ int main(int argc, char** argv)
 {
     int list = 0;
     int poll = 0;
+    int text = 0;
     for (int i = 1; i < argc; ++i) {
         desktop |= strcmp(argv[i], "desktop") == 0;
         behind |= strcmp(argv[i], "behind") == 0;
         third |= strcmp(argv[i], "third") == 0;
         list |= strcmp(argv[i], "list") == 0;
+        text |= strcmp(argv[i], "text") == 0;
         poll |= strcmp(argv[i], "poll") == 0;
         if (strcmp(argv[i], "second") == 0)
             kulgui_setEdition(2);
@@ -80,6 +83,9 @@ int main(int argc, char** argv)
     addButton(BEHIND, 1, "Lost", NULL);
     if (list) {
         addList(MAIN, 1);
+    } else if (text) {
+        kultextbox_create(MAIN, 1);
+        kultextbox_config(MAIN, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 1, 32, 10, BORDER, NOMASK, NULL, NULL, NULL, NULL);
     } else {
         addButton(MAIN, 1, "One", drawn);
         addButton(MAIN, 2, "Two", drawn);

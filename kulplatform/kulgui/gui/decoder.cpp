@@ -47,6 +47,7 @@ std::size_t KeyDecoder::feed(std::string_view bytes)
     std::memcpy(bytes_ + nEnd_, bytes.data(), nTaken);
     nEnd_ += nTaken;
     late_ = late_ && nTaken == 0;
+    open_ = open_ && nTaken == 0;
     return nTaken;
 }
 
@@ -100,12 +101,12 @@ int KeyDecoder::next()
     while (nBegin_ < nEnd_) {
         if (skipping_ != Skip::Nothing) {
             if (!skip())
-                return 0;
+                break;
             continue;
         }
         const FoundKey found = front();
         if (found.nBytes == 0)
-            return 0;
+            break;
         nBegin_ += found.nBytes;
         if (found.nKey > 0)
             return pasting_ && found.nKey == KS_ENTER ? kPastedNewline : found.nKey;
@@ -114,6 +115,7 @@ int KeyDecoder::next()
         else if (found.nKey != 0)
             skipping_ = found.nKey == kTextBegins ? Skip::Text : Skip::Control;
     }
+    open_ = true;
     return 0;
 }
 
@@ -131,13 +133,14 @@ void KeyDecoder::timePassed()
         pasting_ = false;
     skipping_ = Skip::Nothing;
     late_ = true;
+    open_ = false;
 }
 
 void KeyDecoder::clear()
 {
     nBegin_ = nEnd_ = 0;
     skipping_ = Skip::Nothing;
-    pasting_ = late_ = false;
+    pasting_ = late_ = open_ = false;
 }
 
 } // namespace kul

@@ -39,6 +39,9 @@ public:
     // The next key; 0 for none, or when its end is yet to come.
     int next();
 
+    // Whether there are bytes that next() has not looked at.
+    bool hasMore() const { return nBegin_ < nEnd_ && !open_; }
+
     // How many milliseconds to wait for the rest of what has begun; 0 when nothing has.
     int patience() const;
 
@@ -69,6 +72,7 @@ private:
     std::size_t nLearnt_ = 0;
     Skip skipping_ = Skip::Nothing;
     bool pasting_ = false;
+    bool open_ = false; // what is here is less than a key
     bool late_ = false; // no more bytes will come to those that are here
 };
 

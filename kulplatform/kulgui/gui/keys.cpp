@@ -253,6 +253,11 @@ int keyAtHand()
     return isEdition2() ? decoder.next() : 0;
 }
 
+bool hasKeysAtHand()
+{
+    return isEdition2() && decoder.hasMore();
+}
+
 int readKey(int nMilliseconds)
 {
     const int nKey = isEdition2() ? nextKey(nMilliseconds) : firstKey(nMilliseconds);

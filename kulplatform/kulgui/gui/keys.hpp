@@ -32,9 +32,10 @@ int readKey(int nMilliseconds);
 void makeTypedAheadStale();
 void forgetTypedAhead();
 
-// Edition 2: the next key of what was read already, 0 for none; and whether the beginning of one
-// was, whose rest is to be read at once.
+// Edition 2: the next key of what was read already, 0 for none; whether there may be one; and
+// whether the beginning of one was, whose rest is to be read at once.
 int keyAtHand();
+bool hasKeysAtHand();
 bool keyIsOpen();
 
 // Whether the line has been at its end for so long that nobody will type any more.

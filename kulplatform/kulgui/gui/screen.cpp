@@ -6,6 +6,7 @@
 #include "chain.hpp"
 #include "edition.hpp"
 #include "frame.hpp"
+#include "keys.hpp"
 #include "line.hpp"
 #include "signals.hpp"
 
@@ -144,7 +145,8 @@ Pass::~Pass()
 Pause::Pause() : nHeld_(nPasses)
 {
     nPasses = 0;
-    update();
+    if (!hasKeysAtHand())
+        update();
 }
 
 Pause::~Pause()

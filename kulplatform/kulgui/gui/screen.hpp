@@ -3,7 +3,8 @@
 // One update of the terminal at a time. Drawing goes into windows; a Pass holds the update back
 // until the outermost one ends, so that what a key or a poll redraws reaches the terminal once,
 // and only the cells that differ. A Pause makes the terminal up to date and lets what runs inside
-// it (a callback, the wait for a key) update it again by passes of its own.
+// it (a callback, the wait for a key) update it again by passes of its own. While more keys are at
+// hand, what they change is not shown between them.
 #ifndef KUL_GUI_SCREEN_HPP
 #define KUL_GUI_SCREEN_HPP
 

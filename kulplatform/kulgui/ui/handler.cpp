@@ -3,6 +3,7 @@
 // The one place where key handlers wait.
 #include "handler.hpp"
 
+#include <optional>
 #include <utility>
 
 #include "../gui/decoder.hpp"
@@ -32,6 +33,18 @@ int meant(int nKey)
     return GetCurrentSelection()->nType == TEXTBOX ? KS_SPACE : 0;
 }
 
+// What a handler has to draw, and has not while more keys were at hand.
+std::optional<CURRENT> undrawn;
+
+void drawLate()
+{
+    const CURRENT now = *GetCurrentSelection();
+    SetCurrentSelection(&*undrawn);
+    undrawn.reset();
+    ShowUIColors();
+    SetCurrentSelection(&now);
+}
+
 } // namespace
 
 Loop::Loop(int nChain)
@@ -46,6 +59,8 @@ Loop::~Loop()
 {
     if (Dialog* dialog = own_ ? findDialog(nChain_) : nullptr)
         dialog->asked = outer_;
+    if (own_ && undrawn && undrawn->nChain == nChain_)
+        drawLate();
 }
 
 int runHandler(const UIKind& kind, int nChain, int nRef)
@@ -56,13 +71,14 @@ int runHandler(const UIKind& kind, int nChain, int nRef)
     return nResult;
 }
 
-// What was typed ahead is read before the terminal is brought up to date: a paste is shown once for
-// each read.
+// What was typed ahead is used up before anything is drawn: a paste is shown once for each read.
 int waitOnce()
 {
     ++nWaits;
     if (const int nKey = keyAtHand())
         return meant(nKey);
+    if (undrawn)
+        drawLate();
     const Pause pause;
     lookAtTerminal();
     const int nKey = awaitKey();
@@ -92,8 +108,14 @@ void HandlerBase::show()
 {
     if (isOver())
         return;
+    if (undrawn && undrawn->nChain != selection.nChain)
+        drawLate();
     SetCurrentSelection(&selection);
-    ShowUIColors();
+    undrawn.reset();
+    if (hasKeysAtHand())
+        undrawn = selection;
+    else
+        ShowUIColors();
 }
 
 void HandlerBase::run(KULCALLBACK callback)
