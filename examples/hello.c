@@ -4,6 +4,7 @@
  */
 #include <kulgui.h>
 
+#include <locale.h>
 #include <stdio.h>
 
 enum { DESKTOP, QUESTION };
@@ -26,6 +27,9 @@ static void addButton(int ref, int column, const char* text)
 
 int main(void)
 {
+    setlocale(LC_ALL, ""); /* texts and lines as the user's terminal shows them */
+    kulgui_setEdition(2);  /* today's keys and manners */
+
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, WHITE_BLUE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Hello", NULL, NULL, NULL,
                        NULL, NULL);
@@ -34,7 +38,6 @@ int main(void)
                   BORDER, 5, 4, 30, 8, NULL, NULL, NULL, NULL, NULL);
     addButton(YES, 4, "Yes");
     addButton(NO, 16, "No");
-    kulgui_setTabbing(QUESTION, T);
 
     if (NCursesEnv(1) != 0) {
         fprintf(stderr, "hello: this is no terminal that can be used\n");

@@ -12,7 +12,7 @@ static const struct {
 } kTexts[] = {
     {"Show", "Boxes, lines, labels, bars and a status line, with values of this machine."},
     {"Lists", "Time zones, of which one is chosen; network interfaces, any of which are checked."},
-    {"Text", "A host name and a password, checked at every key."},
+    {"Text", "A host name and a password, checked at every key; the same words in four languages."},
     {"Logs", "A file of any size: search it, or follow its end."},
     {"Back", "Enter leaves this page."},
 };

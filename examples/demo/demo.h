@@ -43,6 +43,7 @@ void displayPage(void);
 void zonesPage(void);
 void networkPage(void);
 void accessPage(void);
+void languagesPage(void);
 void aboutPage(void);
 void logPage(void);
 

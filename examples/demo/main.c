@@ -4,6 +4,7 @@
  */
 #include "demo.h"
 
+#include <locale.h>
 #include <stdio.h>
 
 static const struct {
@@ -11,8 +12,8 @@ static const struct {
     KULCALLBACK open;
 } kPages[] = {
     {"This machine", machinePage}, {"Display items", displayPage}, {"Time zone", zonesPage},
-    {"Network", networkPage},      {"Access", accessPage},         {"Log files", logPage},
-    {"About", aboutPage},
+    {"Network", networkPage},      {"Access", accessPage},         {"Languages", languagesPage},
+    {"Log files", logPage},        {"About", aboutPage},
 };
 enum { PAGES = sizeof kPages / sizeof *kPages };
 
@@ -44,7 +45,6 @@ static void makeDialog(int nChain, const char* szTitle, int nWidth, int nHeight,
     kulgui_create(nChain);
     kulgui_config(nChain, PAGE_COLOR, HERE, THERE, OFF, szTitle, BORDER, (COLS - nW) / 2,
                   (LINES - nH + 1) / 2, nW, nH, NULL, onPoll, NULL, NULL, NULL);
-    kulgui_setTabbing(nChain, T);
 }
 
 const GUI* openPage(const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
@@ -109,6 +109,8 @@ static void makeMenu(void)
 
 int main(int argc, char** argv)
 {
+    setlocale(LC_ALL, "");
+    kulgui_setEdition(2);
     setLogFile(argc > 1 ? argv[1] : NULL);
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, WHITE_BLUE, HERE, THERE, OFF, szDesktop, NULL, refreshDesktop, NULL,

@@ -16,9 +16,9 @@
  *  4. Keep value. Where a call says so, the argument KUL_KEEP leaves a setting at its default.
  *  5. Places. nX counts columns and nY rows from 0 at the top left corner of the dialog's window,
  *     frame included; only a dialog's own nX and nY count from the corner of the screen. nWidth
- *     and nHeight are columns and rows. What lies outside of the window is not drawn, but a text
- *     that is not wrapped (a caption, an element of a menu, a field of a status bar) and reaches
- *     beyond the right edge goes on at the start of the next row.
+ *     and nHeight are columns and rows. What lies outside of the window is not drawn. In edition 1
+ *     a text that is not wrapped (a caption, an element of a menu, a field of a status bar) and
+ *     reaches beyond the right edge goes on at the start of the next row.
  *  6. Colours. A colour set is one of the 56 pairs of COLORSET, foreground_background. Fields and
  *     arguments are ints, so that KUL_KEEP and a plain number can be given as well.
  *  7. Ownership. The library owns every record, window and panel that it makes and frees them
@@ -33,6 +33,16 @@
  *     NCursesEnv(1) first. It is given back as it was found by kulgui_destroyAll, by exit, and by
  *     a signal that ends the program, but not by KILL, nor by _exit; kulgui_destroyAll leaves
  *     standard input's status flags at O_APPEND.
+ * 11. Texts are in the encoding of the program's locale. A program calls setlocale(LC_ALL, "") from
+ *     locale.h before anything else: without that every text is taken for ASCII, other letters are
+ *     rubbish, and so are frames on terminals in UTF-8 that know no other lines than Unicode's. In
+ *     edition 2 texts are wrapped, centred and cut by columns: an East Asian letter takes two, a
+ *     combining mark none, and a letter that would be cut in half is left out. Where this header
+ *     counts the characters of a text, these are columns; edition 1 and a program without a locale
+ *     count bytes. What cannot be shown (bytes that are no letter of the locale, C1, a mark without
+ *     a letter before it, marks that turn the direction of writing) is one '?' each; what has no
+ *     picture (a soft hyphen, joiners, variation selectors, blanks of no width) is left out. No
+ *     text does anything to the terminal.
  */
 #ifndef KULGUI_H
 #define KULGUI_H
@@ -413,6 +423,9 @@ KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
  *                     that of the element. Check lists end when they are hidden.
  *   text boxes        insert letters and scroll; what counts are characters. See their chapter.
  *   focus             a dialog whose component in focus is gone begins with its first one.
+ *   texts             are laid out by columns, in the language of the program's locale. A word of
+ *                     letters beyond ASCII that is wider than its row breaks between letters.
+ *                     Nothing goes on in the next row that the window cannot show: it is cut.
  *   the cursor        of the terminal stands where the user is, for braille displays and screen
  *                     readers.
  *   colours           by default dialogs are black on white on a desktop of white on blue, the

@@ -89,4 +89,20 @@ TEST(Demo, ShowsItsItems)
 )");
 }
 
+TEST(Demo, SpeaksFourLanguages)
+{
+    for (const char* term : {"xterm-256color", "linux", "tmux"}) {
+        SCOPED_TRACE(term);
+        Launch launch = demo(term);
+        launch.environment.push_back("LC_ALL=C.UTF-8");
+        Terminal terminal(launch);
+        ASSERT_TRUE(terminal.waitForText("Quit"));
+        for (const char* key : {"l", "\r", "\033[B", "\033[B", " ", "\t", "Z", "o", "ë", " ", "李"})
+            terminal.press(key);
+        ASSERT_TRUE(terminal.waitForText("你好，Zoë 李！")) << terminal.text();
+        EXPECT_EQ(terminal.row(6), "          │ │( ) Deutsch   │  │应用更改后，设备将重新启动。请不要  │ │");
+        EXPECT_EQ(terminal.row(12), "          │ 姓名      Zoë 李                                         │");
+    }
+}
+
 } // namespace

@@ -31,8 +31,8 @@ wint_t letterOf(int nKey)
     return nKey > ' ' && nKey < 127 ? std::towlower(static_cast<wint_t>(nKey)) : 0;
 }
 
-// An element from nFrom on that can be selected and begins with a letter, 0 for any, up to the end of
-// the list in that direction; -1 for none.
+// An element from nFrom on that can be selected and begins with a letter, 0 for any, up to the end
+// of the list in that direction; -1 for none.
 int seek(int nFrom, int nDirection, const Steps& steps, wint_t letter = 0)
 {
     for (int n = nFrom; n >= 0 && n < steps.nCount; n += nDirection) {
