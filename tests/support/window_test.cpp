@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "gui/description.hpp"
+#include "gui/update.hpp"
 #include "ui/component.hpp"
 
 namespace {
@@ -85,6 +86,7 @@ void* __real_calloc(std::size_t count, std::size_t size);
 char* __real_strdup(const char* text);
 int __real_doupdate();
 void __real_free(void* memory);
+ssize_t __real_write(int file, const void* bytes, std::size_t size);
 
 // clang-format off
 void* __wrap_malloc(std::size_t size) { return allocationFails() ? nullptr : __real_malloc(size); }
@@ -117,6 +119,13 @@ int __wrap_doupdate()
 {
     ++nUpdates;
     return __real_doupdate();
+}
+
+// The library's own updates.
+ssize_t __wrap_write(int file, const void* bytes, std::size_t size)
+{
+    ++nUpdates;
+    return __real_write(file, bytes, size);
 }
 
 int __wrap__ZN3kul8awaitKeyEv()
@@ -259,6 +268,7 @@ NoColors::~NoColors()
 void WindowTest::SetUp()
 {
     startCurses();
+    kul::beginUpdates();
     ASSERT_EQ(kulgui_create(0), 0);
     ASSERT_EQ(kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "primary", nullptr, nullptr, nullptr,
                                  nullptr, nullptr),

@@ -1,200 +1,232 @@
 // SPDX-License-Identifier: MIT
 //
-// Frames are letters between lines, and lines are letters of a second alphabet. Where a terminal
-// has one string for all attributes ("sgr"), curses sends it at each change of the alphabet; it
-// takes the colours with it, which follow anew:
-//
-//     with sgr      ESC[0;10m SO ESC[34m ESC[47m x ESC[0;10m SI ESC[34m ESC[47m text
-//     without it    SO x SI text
-//
-// That is a third of what a screen costs. So curses is given the description without this string,
-// compiled as term(5) says, in place of a file: it takes "hex:" and the digits for the name of a
-// database. An older curses finds nothing under that name and goes on to the real description.
+// A description may hold pauses for slow terminals, "$<5>"; where the line can hold the terminal's
+// bytes back they are not needed, and a terminal that needs them is not one of ours.
 #include "description.hpp"
 
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
 
+#include <curses.h>
 #include <langinfo.h>
-#include <term.h>
 
 #include "line.hpp"
-#include "memory.hpp"
+#include "update.hpp"
+
+// Last: it makes macros of common words.
+#include <term.h>
 
 namespace kul {
 
 namespace {
 
-constexpr char kVariable[] = "TERMINFO";
-constexpr char kPrefix[] = "TERMINFO=hex:";
-constexpr int kMagic = 01036; // numbers of 32 bits
-constexpr std::size_t kMostBytes = 8192;
+Codes now;
 
-// A compiled description as hexadecimal digits, little end first. It remembers when it was full.
-class Digits {
-public:
-    Digits() { std::memcpy(text_, kPrefix, sizeof kPrefix); }
-
-    void put(int nValue, int nBytes)
-    {
-        for (; nBytes > 0; --nBytes, nValue >>= 8, ++nBytes_) {
-            if (nBytes_ >= kMostBytes)
-                continue;
-            char* at = text_ + sizeof kPrefix - 1 + 2 * nBytes_;
-            at[0] = "0123456789abcdef"[nValue >> 4 & 15];
-            at[1] = "0123456789abcdef"[nValue & 15];
-            at[2] = '\0';
+// Copies a string of the description without its pauses; false for none or one that is too long.
+bool strip(const char* szString, char* out, std::size_t room)
+{
+    std::size_t size = 0;
+    *out = '\0';
+    if (!isString(szString))
+        return false;
+    for (const char* at = szString; *at; ++at) {
+        const char* pauseEnd = std::strncmp(at, "$<", 2) == 0 ? std::strchr(at, '>') : nullptr;
+        if (pauseEnd) {
+            at = pauseEnd;
+            continue;
         }
-    }
-
-    void put(const char* szText)
-    {
-        for (; *szText; ++szText)
-            put(*szText, 1);
-        put(0, 1);
-    }
-
-    bool isFull() const { return nBytes_ > kMostBytes; }
-
-    // Numbers lie at even places.
-    void align() { put(0, static_cast<int>(nBytes_ % 2)); }
-
-    char* text() { return text_; }
-
-private:
-    char text_[sizeof kPrefix + 2 * kMostBytes];
-    std::size_t nBytes_ = 0;
-};
-
-template <typename Names>
-int count(const Names& names)
-{
-    int n = 0;
-    while (names[n])
-        ++n;
-    return n;
-}
-
-int size(const char* szText)
-{
-    return szText ? static_cast<int>(std::strlen(szText)) + 1 : 0;
-}
-
-// Whether standing out is bold reverse video by the string for all attributes: its own string is
-// reverse video alone on some of these terminals.
-bool standsOutBold()
-{
-    const char* szAll = tigetstr("sgr");
-    char* szBold = copyText(tiparm(szAll, 0, 0, 1, 0, 0, 1, 0, 0, 0));
-    const char* szStandout = tiparm(szAll, 1, 0, 0, 0, 0, 0, 0, 0, 0);
-    const bool same = szBold && szStandout && std::strcmp(szStandout, szBold) == 0;
-    std::free(szBold);
-    return same && isString(tigetstr("bold"));
-}
-
-// The terminal's strings in their order, null for those that are not there or not wanted.
-struct Strings {
-    static constexpr int kMost = 1024;
-    const char* texts[kMost];
-    int nCount = 0;
-    int nBytes = 0; // that they take together
-    char standout[64] = "";
-
-    Strings()
-    {
-        if (standsOutBold())
-            std::snprintf(standout, sizeof standout, "%s%s", tigetstr("bold"), tigetstr("rev"));
-        for (; nCount < kMost && strnames[nCount]; ++nCount) {
-            const char* szName = strnames[nCount];
-            const char* szText = std::strcmp(szName, "sgr") != 0 ? tigetstr(szName) : nullptr;
-            if (*standout && std::strcmp(szName, "smso") == 0)
-                szText = standout;
-            else if (*standout && std::strcmp(szName, "rmso") == 0)
-                szText = nullptr; // it may leave the text bold; "sgr0" is there
-            texts[nCount] = isString(szText) ? szText : nullptr;
-            nBytes += size(texts[nCount]);
+        if (size + 1 >= room) {
+            *out = '\0';
+            return false;
         }
+        out[size++] = *at;
+        out[size] = '\0';
     }
-};
+    return true;
+}
 
-// Whether curses can do without the string.
-bool isSimple()
+bool is(const char* szString, const char* szForm)
 {
-    for (const char* szName : {"sgr", "sgr0", "rev", "smacs", "rmacs"}) {
-        if (!isString(tigetstr(szName)))
+    char plain[128];
+    return strip(szString, plain, sizeof plain) && std::strcmp(plain, szForm) == 0;
+}
+
+// A column of what must be, or may be, there.
+bool allAre(std::initializer_list<const char*> pairs)
+{
+    for (const char* const* at = pairs.begin(); at != pairs.end(); at += 2) {
+        if (!is(at[0], at[1]))
             return false;
     }
-    return tigetnum("xmc") < 0;
+    return true;
 }
 
-// The one number beyond the standard ones that curses asks for: whether a terminal in UTF-8 mode
-// lacks the second alphabet.
-void compileExtension(Digits& out)
+bool placesAndErases()
 {
-    constexpr char kName[] = "U8";
-    const int nValue = tigetnum(kName);
-    if (nValue < 0)
-        return;
-    out.align();
-    for (const int nCount : {0, 1, 0, 1, size(kName)}) // booleans, numbers, strings; names, bytes
-        out.put(nCount, 2);
-    out.put(nValue, 4);
-    out.put(0, 2);
-    out.put(kName);
+    return allAre({cursor_address, "\033[%i%p1%d;%p2%dH", parm_right_cursor, "\033[%p1%dC",
+                   parm_left_cursor, "\033[%p1%dD", parm_down_cursor, "\033[%p1%dB", parm_up_cursor,
+                   "\033[%p1%dA", carriage_return, "\r", clr_eol, "\033[K"}) &&
+           strip(clear_screen, now.clear, sizeof now.clear) &&
+           std::strncmp(now.clear, "\033[H\033[", 5) == 0;
 }
 
-// Compiles the current description.
-void compile(const char* szTerm, Digits& out)
+// Terminals that are no screens, or on which attributes take up cells or must not be moved through.
+bool isOdd()
 {
-    const Strings strings;
-    out.put(kMagic, 2);
-    for (const int nSize :
-         {size(szTerm), count(boolnames), count(numnames), strings.nCount, strings.nBytes})
-        out.put(nSize, 2);
-    out.put(szTerm);
-    for (int i = 0; boolnames[i]; ++i)
-        out.put(tigetflag(boolnames[i]) > 0 ? 1 : 0, 1);
-    out.align();
-    for (int i = 0; numnames[i]; ++i)
-        out.put(tigetnum(numnames[i]), 4);
-    int nOffset = 0;
-    for (int i = 0; i < strings.nCount; ++i) {
-        out.put(strings.texts[i] ? nOffset : -1, 2);
-        nOffset += size(strings.texts[i]);
-    }
-    for (int i = 0; i < strings.nCount; ++i) {
-        if (strings.texts[i])
-            out.put(strings.texts[i]);
-    }
-    compileExtension(out);
+    return hard_copy || over_strike || tilde_glitch || ceol_standout_glitch ||
+           dest_tabs_magic_smso || magic_cookie_glitch >= 0 || !move_standout_mode ||
+           (!xon_xoff && std::strstr(cursor_address, "$<"));
 }
 
-// The environment variable while curses begins; as it was before, then.
-class Variable {
-public:
-    explicit Variable(char* szSetting)
-    {
-        const char* szValue = std::getenv(kVariable);
-        before_ = szValue ? copyText(szValue) : nullptr;
-        changed_ = (!szValue || before_) && putenv(szSetting) == 0;
+// The parameters of the codes in a string that switch something on: "7" of "\E[0;7m\017", where the
+// last is the way back to the first alphabet. False for other codes.
+bool parameters(const char* szString, char (&out)[12])
+{
+    char plain[64];
+    std::size_t size = 0;
+    *out = '\0';
+    if (!strip(szString, plain, sizeof plain))
+        return !isString(szString);
+    for (const char* at = plain; *at;) {
+        const std::size_t nOff = std::strlen(now.linesOff);
+        if (nOff > 0 && std::strncmp(at, now.linesOff, nOff) == 0) {
+            at += nOff;
+            continue;
+        }
+        if (at[0] != '\033' || at[1] != '[')
+            return false;
+        for (at += 2; *at != 'm'; at += *at == ';') {
+            const std::size_t nDigits = std::strspn(at, "0123456789");
+            if (size + nDigits + 2 > sizeof out || (nDigits == 0 && *at != ';'))
+                return false;
+            const int nValue = std::atoi(at);
+            if (nDigits > 0 && nValue != 0 && nValue != 10) {
+                if (size > 0)
+                    out[size++] = ';';
+                std::memcpy(out + size, at, nDigits);
+                size += nDigits;
+                out[size] = '\0';
+            }
+            at += nDigits;
+        }
+        ++at;
     }
+    return true;
+}
 
-    ~Variable()
-    {
-        // The setting must not stay in the environment, whatever happens.
-        if (changed_ && (!before_ || setenv(kVariable, before_, 1) != 0))
-            unsetenv(kVariable);
-        std::free(before_);
+// As the one string for all attributes has them, where there is one.
+bool askAttributes()
+{
+    char off[24];
+    if (!strip(exit_attribute_mode, off, sizeof off) ||
+        (!std::strstr(off, "\033[m") && !std::strstr(off, "\033[0m") &&
+         !std::strstr(off, "\033[0;10m")))
+        return false;
+    const char* const own[kAttributes] = {
+        enter_standout_mode, enter_underline_mode, enter_reverse_mode,
+        enter_blink_mode,    enter_dim_mode,       enter_bold_mode,
+        enter_secure_mode,   enter_protected_mode, enter_italics_mode};
+    for (int i = 0; i < kAttributes; ++i) {
+        const char* szOn = own[i];
+        if (isString(set_attributes) && i < kAttributes - 1)
+            szOn = tiparm(set_attributes, i == 0, i == 1, i == 2, i == 3, i == 4, i == 5, i == 6,
+                          i == 7, 0);
+        if (!parameters(szOn, now.attributes[i]))
+            return false;
     }
+    return true;
+}
 
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
+// "31" of "\E[31m"; null for other codes.
+const char* colorParameter(const char* szString, int nColor)
+{
+    static char parameter[16];
+    char plain[sizeof parameter];
+    if (!isString(szString) || !strip(tiparm(szString, nColor), plain, sizeof plain) ||
+        std::strncmp(plain, "\033[", 2) != 0)
+        return nullptr;
+    const std::size_t size = std::strspn(plain + 2, "0123456789;");
+    if (std::strcmp(plain + 2 + size, "m") != 0)
+        return nullptr;
+    std::memcpy(parameter, plain + 2, size);
+    parameter[size] = '\0';
+    return parameter;
+}
 
-private:
-    char* before_;
-    bool changed_;
-};
+bool colorIs(const char* szString, char kind, int nColor)
+{
+    const char wanted[] = {kind, static_cast<char>('0' + nColor), '\0'};
+    const char* szParameter = colorParameter(szString, nColor);
+    return szParameter && std::strcmp(szParameter, wanted) == 0;
+}
+
+bool askColors()
+{
+    now.hasDefaultColors = is(orig_pair, "\033[39;49m");
+    now.attributesWithoutColor =
+        no_color_video > 0 ? static_cast<unsigned>(no_color_video) & 0xff : 0;
+    now.erasesInColor = back_color_erase;
+    now.nColors = max_colors > 0 ? max_colors : 0;
+    if (now.nColors == 0)
+        return true;
+    for (int i = 0; i < 8; ++i) {
+        if (!colorIs(set_a_foreground, '3', i) || !colorIs(set_a_background, '4', i))
+            return false;
+    }
+    const int nLast = now.nColors - 1;
+    return nLast < 8 ||
+           (colorParameter(set_a_foreground, nLast) && colorParameter(set_a_background, nLast));
+}
+
+// Whether curses would not use the second alphabet in a locale that has these characters itself:
+// some terminals have one or the other.
+bool alphabetIsLost(const char* szTerm)
+{
+    if (const char* szAsked = std::getenv("NCURSES_NO_UTF8_ACS"))
+        return std::atoi(szAsked) != 0;
+    const int nLost = tigetnum("U8");
+    if (nLost >= 0)
+        return nLost != 0;
+    return std::strstr(szTerm, "linux") ||
+           (std::strstr(szTerm, "screen") && std::getenv("TERMCAP"));
+}
+
+void askLines()
+{
+    std::memset(now.lineBytes, 0, sizeof now.lineBytes);
+    const char* szPairs = isString(acs_chars) && *now.linesOn ? acs_chars : "";
+    for (; szPairs[0] && szPairs[1]; szPairs += 2) {
+        if (static_cast<unsigned char>(szPairs[0]) < kLetters)
+            now.lineBytes[static_cast<unsigned char>(szPairs[0])] = szPairs[1];
+    }
+#if NCURSES_WIDECHAR
+    now.glyphs =
+        std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0 && NCURSES_WACS('q')->chars[0] >= kLetters;
+    const char* szTerm = std::getenv("TERM");
+    now.glyphsOnly = now.glyphs && alphabetIsLost(szTerm ? szTerm : "");
+#endif
+}
+
+void ask()
+{
+    now = {};
+    strip(enter_alt_charset_mode, now.linesOn, sizeof now.linesOn);
+    if (!*now.linesOn || !strip(exit_alt_charset_mode, now.linesOff, sizeof now.linesOff))
+        *now.linesOn = '\0';
+    now.fontIsAttribute = std::strncmp(now.linesOn, "\033[", 2) == 0;
+    now.waitsAtEdge = eat_newline_glitch || !auto_right_margin;
+    now.placesColumn = is(column_address, "\033[%i%p1%dG");
+    now.placesRow = is(row_address, "\033[%i%p1%dd");
+    now.reversesFeed = is(scroll_reverse, "\033M");
+    now.feeds = is(cursor_down, "\n");
+    now.backspaces = is(cursor_left, "\b");
+    now.tabs = is(tab, "\t") && init_tabs == 8;
+    now.erasesCells = is(erase_chars, "\033[%p1%dX");
+    now.repeats = is(repeat_char, "%p1%c\033[%p2%{1}%-%db");
+    askLines();
+    now.known = placesAndErases() && !isOdd() && askAttributes() && askColors();
+}
 
 #if NCURSES_WIDECHAR
 void settleLines() {}
@@ -203,15 +235,25 @@ void settleLines() {}
 // there, but goes on to draw with its letters.
 void settleLines()
 {
-    const char* szOrder = std::getenv("NCURSES_NO_UTF8_ACS");
-    const bool lacking = szOrder ? std::atoi(szOrder) != 0 : tigetnum("U8") > 0;
-    if (!lacking || std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0)
+    const char* szTerm = std::getenv("TERM");
+    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0 || !alphabetIsLost(szTerm ? szTerm : ""))
         return;
-    for (const char* line :
+    for (const char* szLine :
          {"q-", "x|", "a:", "l+", "k+", "m+", "j+", "t+", "u+", "v+", "w+", "n+", "`+"})
-        acs_map[static_cast<unsigned char>(line[0])] = static_cast<chtype>(line[1]);
+        acs_map[static_cast<unsigned char>(szLine[0])] = static_cast<chtype>(szLine[1]);
 }
 #endif
+
+// What curses has kept back since it began must come before what others write.
+void flushCurses()
+{
+    if (curs_set(0) != ERR)
+        return;
+    clearok(newscr, FALSE);
+    leaveok(newscr, TRUE);
+    doupdate(); // of nothing, which leaves the cursor nowhere
+    clearok(newscr, TRUE);
+}
 
 } // namespace
 
@@ -220,30 +262,33 @@ bool isString(const char* szString)
     return szString && szString != reinterpret_cast<char*>(-1);
 }
 
+const Codes& codes()
+{
+    return now;
+}
+
+const char* colorParameter(bool foreground, int nColor)
+{
+    const char* szParameter =
+        colorParameter(foreground ? set_a_foreground : set_a_background, nColor);
+    return szParameter ? szParameter : "";
+}
+
 SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
 {
-    int nResult = 0;
-    if (setupterm(szTerm, fileno(output), &nResult) != OK)
+    SCREEN* screen = newterm(szTerm, output, input);
+    if (!screen)
         return nullptr;
-    const bool usable = isString(tigetstr("cup"));
-    const char* szName = szTerm ? szTerm : std::getenv("TERM");
-    Digits digits;
-    const bool lean = usable && szName && isSimple();
-    if (lean)
-        compile(szName, digits);
-    del_curterm(cur_term);
-    if (!usable)
+    if (!isString(cursor_address)) {
+        reset_shell_mode();
+        delscreen(screen);
         return nullptr;
-    setOutput(output);
-    SCREEN* screen = nullptr;
-    if (!lean || digits.isFull()) {
-        screen = newterm(szTerm, output, input);
-    } else {
-        const Variable variable(digits.text());
-        screen = newterm(szTerm, output, input);
     }
-    if (screen)
-        settleLines();
+    setOutput(output);
+    ask();
+    settleLines();
+    flushCurses();
+    beginUpdates();
     return screen;
 }
 

@@ -128,6 +128,14 @@ void writeAll(const char* bytes, std::size_t size)
     }
 }
 
+Controls passingControls()
+{
+    termios tty{};
+    if (tcgetattr(nOutput, &tty) != 0 || !(tty.c_oflag & OPOST))
+        return {true, true};
+    return {!(tty.c_oflag & ONLCR), (tty.c_oflag & TABDLY) != XTABS};
+}
+
 Blocking::Blocking() : nFlags_(fcntl(nOutput, F_GETFL))
 {
     if (nFlags_ == -1 || !(nFlags_ & O_NONBLOCK))

@@ -37,6 +37,13 @@ void noteOutside();
 // must have begun.
 void noteInside();
 
+// Whether line feeds and tabs go out as they are.
+struct Controls {
+    bool feeds;
+    bool tabs;
+};
+Controls passingControls();
+
 // Whether leaving the screen brings back what was there before; else it has to be cleared.
 bool hasOwnScreen();
 

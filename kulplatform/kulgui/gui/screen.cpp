@@ -9,6 +9,7 @@
 #include "keys.hpp"
 #include "line.hpp"
 #include "signals.hpp"
+#include "update.hpp"
 
 namespace kul {
 
@@ -17,14 +18,15 @@ namespace {
 int nPasses = 0;
 const OnTop* onTop = nullptr;
 
-// A cell of a window; without a window, none.
-struct Cell {
+Turn turn = Turn::Program;
+
+// Where the user is; without a window, nowhere.
+struct {
     WINDOW* win;
     int nY;
     int nX;
-};
+} user;
 
-Cell user;
 bool cursorSeen = false;
 
 // The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
@@ -58,44 +60,34 @@ void raiseFocused()
         raisePanels(gui->pnlShadow, gui->pnlMain);
 }
 
-// Where the terminal's cursor is to stand, as a cell of the whole screen; none where the user is
-// not seen.
-Cell cursorCell()
+// Where the terminal's cursor is to stand; nowhere if the user is not seen.
+Place cursorPlace()
 {
     PANEL* top = panel_below(nullptr);
     if (!user.win || user.win != (top ? panel_window(top) : stdscr))
-        return {};
+        return kNowhere;
     if (user.nY < 0 || user.nY >= getmaxy(user.win) || user.nX < 0 || user.nX >= getmaxx(user.win))
-        return {};
-    const Cell cell{newscr, getbegy(user.win) + user.nY, getbegx(user.win) + user.nX};
-    return cell.nY < LINES && cell.nX < COLS ? cell : Cell{};
+        return kNowhere;
+    const Place place{getbegy(user.win) + user.nY, getbegx(user.win) + user.nX};
+    return place.nY < LINES && place.nX < COLS ? place : kNowhere;
 }
 
-// Whether the terminal's cursor is not where it should be, as curses has it.
-bool cursorMoves()
+void showCursor(bool seen)
 {
-    const Cell cell = cursorCell();
-    if (!cell.win)
-        return cursorSeen;
-    return !cursorSeen || getcury(curscr) != cell.nY || getcurx(curscr) != cell.nX;
+    const Blocking blocking;
+    curs_set(seen ? 1 : 0);
+    cursorSeen = seen;
 }
 
 // Updates the terminal; its cursor goes where the user is, and is seen only while it stands there.
-// Curses sends nothing for a cursor that stays as it is.
-void send()
+void send(Place place)
 {
-    const Cell cell = cursorCell();
-    const Blocking blocking;
-    if (cell.win) {
-        leaveok(newscr, FALSE);
-        wmove(newscr, cell.nY, cell.nX);
-    } else if (cursorSeen) {
-        curs_set(0);
-    }
-    doupdate();
-    if (cell.win)
-        curs_set(1);
-    cursorSeen = cell.win != nullptr;
+    const bool seen = place != kNowhere;
+    if (cursorSeen && !seen)
+        showCursor(false);
+    updateTerminal(place, turn == Turn::Program);
+    if (seen && !cursorSeen)
+        showCursor(true);
 }
 
 void compose()
@@ -118,15 +110,17 @@ void update()
     const bool anew = resumed(); // the terminal shows something else now, and no cursor
     forgetResumed();
     if (anew) {
-        const Blocking blocking;
         clearok(curscr, TRUE);
-        curs_set(0);
+        forgetTerminal();
+        showCursor(false);
     }
     if (anew || anyTouched())
         compose();
-    // What was drawn may be what was there before; curses would search the screen for blanks.
-    if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorMoves())
-        send();
+    const Place place = cursorPlace();
+    // What was drawn may be what was there before.
+    if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorSeen != (place != kNowhere) ||
+        movesCursor(place, turn == Turn::Program))
+        send(place);
 }
 
 } // namespace
@@ -142,16 +136,18 @@ Pass::~Pass()
         update();
 }
 
-Pause::Pause() : nHeld_(nPasses)
+Pause::Pause(Turn now) : nHeld_(nPasses), before_(turn)
 {
     nPasses = 0;
-    if (!hasKeysAtHand())
+    turn = now;
+    if (!hasKeysAtHand() || movesCursor(kNowhere, true))
         update();
 }
 
 Pause::~Pause()
 {
     nPasses = nHeld_;
+    turn = before_;
 }
 
 OnTop::OnTop(int nChain) : nChain_(nChain), outer_(onTop)

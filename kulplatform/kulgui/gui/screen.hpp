@@ -20,15 +20,19 @@ public:
     Pass& operator=(const Pass&) = delete;
 };
 
+// Who has a turn while it lives: the program, or nobody until a key comes.
+enum class Turn { Program, Wait };
+
 class Pause {
 public:
-    Pause();
+    explicit Pause(Turn turn);
     ~Pause();
     Pause(const Pause&) = delete;
     Pause& operator=(const Pause&) = delete;
 
 private:
     int nHeld_;
+    Turn before_;
 };
 
 // While it lives, this dialog stands above the other ones whenever the terminal is updated.

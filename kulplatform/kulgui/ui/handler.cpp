@@ -79,7 +79,7 @@ int waitOnce()
         return meant(nKey);
     if (undrawn)
         drawLate();
-    const Pause pause;
+    const Pause pause(Turn::Wait);
     lookAtTerminal();
     const int nKey = awaitKey();
     if (nKey == 0)

@@ -96,7 +96,7 @@ void ExecOnFunction(KULCALLBACK Function)
 {
     if (!Function)
         return;
-    const kul::Pause pause;
+    const kul::Pause pause(kul::Turn::Program);
     const CURRENT before = defCurrent;
     Function();
     defCurrent = before;

@@ -94,7 +94,7 @@ bool textboxAccepts(int nChain, int nRef)
     const auto* box = findUI<TextBox>(nChain, nRef, TEXTBOX);
     if (!box || !box->state.onCheck || !box->szText)
         return true;
-    const Pause pause;
+    const Pause pause(Turn::Program);
     const CURRENT before = *GetCurrentSelection();
     const bool accepted = box->state.onCheck(box->szText) == 0;
     SetCurrentSelection(&before);

@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: MIT
+//
+// Curses gives a row without the second halves of its wide letters. Rows with such letters, and
+// those with cells that were declared unknown, are read cell by cell.
+#include "cells.hpp"
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+#include <iterator>
+#include <utility>
+
+namespace kul {
+
+namespace {
+
+constexpr attr_t kCommonAttributes = A_STANDOUT | A_UNDERLINE | A_REVERSE | A_BLINK | A_DIM |
+                                     A_BOLD | A_ALTCHARSET | A_INVIS | A_PROTECT | A_ITALIC |
+                                     A_COLOR | A_CHARTEXT;
+static_assert(A_STANDOUT == 1U << 16 && A_BOLD == 1U << 21 && A_INVIS == 1U << 23 &&
+              A_PROTECT == 1U << 24 && A_ITALIC == 1U << 31);
+
+// In the order of Codes.
+unsigned numbered(attr_t attributes)
+{
+    return (attributes >> 16 & 0x3f) | (attributes >> 17 & 0xc0) | (attributes >> 23 & 0x100);
+}
+
+// Attributes that do not go together with colours are left out; reverse video is had by swapping
+// the colours.
+void dropAttributes(Style& style)
+{
+    const unsigned nDropped = style.attributes & codes().attributesWithoutColor;
+    if (nDropped & kReverse)
+        std::swap(style.foreground, style.background);
+    style.attributes &= ~nDropped;
+}
+
+// Colours of a pair as the terminal numbers them; false for those that it has no code for. Pair 0
+// has colours as well, unless the program has asked for the terminal's own.
+bool colorsOf(int nPair, Style& style)
+{
+    if (COLOR_PAIRS <= 0)
+        return true;
+    if (nPair > SHRT_MAX ||
+        pair_content(static_cast<short>(nPair), &style.foreground, &style.background) != OK)
+        return false;
+    dropAttributes(style);
+    return style.foreground >= kDefaultColor && style.foreground < codes().nColors &&
+           style.background >= kDefaultColor && style.background < codes().nColors;
+}
+
+#if NCURSES_WIDECHAR
+
+void blankOut(ScreenCell& cell)
+{
+    std::fill(std::begin(cell.chars), std::end(cell.chars), L'\0');
+    cell.chars[0] = ' ';
+    cell.attr &= ~A_CHARTEXT;
+}
+
+constexpr wchar_t kFirstWide = 0x1100; // no letter before it takes two columns
+
+attr_t attributesOf(const ScreenCell& cell)
+{
+    return cell.attr;
+}
+
+int pairOf(const ScreenCell& cell)
+{
+    return cell.ext_color;
+}
+
+#else
+
+attr_t attributesOf(const ScreenCell& cell)
+{
+    return cell;
+}
+
+int pairOf(const ScreenCell& cell)
+{
+    return PAIR_NUMBER(cell);
+}
+
+#endif
+
+} // namespace
+
+bool ScreenRow::prepare()
+{
+    if (nRoom_ > COLS)
+        return true;
+    void* cells = std::realloc(cells_, (static_cast<std::size_t>(COLS) + 1) * sizeof *cells_);
+    if (!cells)
+        return false;
+    cells_ = static_cast<ScreenCell*>(cells);
+    nRoom_ = COLS + 1;
+    return true;
+}
+
+void ScreenRow::fill(const ScreenCell& cell)
+{
+    std::fill_n(cells_, COLS, cell);
+}
+
+#if NCURSES_WIDECHAR
+
+ScreenCell blankCell()
+{
+    ScreenCell cell{};
+    cell.chars[0] = ' ';
+    return cell;
+}
+
+bool ScreenRow::read(WINDOW* win, int nY)
+{
+    if (mvwin_wchnstr(win, nY, 0, cells_, COLS) == ERR)
+        return false;
+    const bool narrow = std::all_of(cells_, cells_ + COLS, [](const ScreenCell& cell) {
+        return cell.chars[0] > 0 && cell.chars[0] < kFirstWide;
+    });
+    return narrow || readEach(win, nY);
+}
+
+// Where a letter was drawn over half of a wide one, or a window covers it, the half that is left is
+// shown as a blank.
+bool ScreenRow::readEach(WINDOW* win, int nY)
+{
+    for (int x = 0; x < COLS; ++x) {
+        if (mvwin_wch(win, nY, x, &cells_[x]) == ERR)
+            return false;
+    }
+    for (int x = 0; x < COLS; ++x) {
+        const bool wide =
+            letterOf(cells_[x]) >= kFirstWide && wcwidth(letterOf(cells_[x])) == 2;
+        const bool whole = x + 1 < COLS && !isTail(cells_[x]) && isTail(cells_[x + 1]);
+        if (wide && whole)
+            ++x;
+        else if (wide || isTail(cells_[x]))
+            blankOut(cells_[x]);
+    }
+    return true;
+}
+
+bool isSameLetter(const ScreenCell& one, const ScreenCell& other)
+{
+    return one.chars[0] == other.chars[0] && one.chars[1] == other.chars[1] &&
+           (one.chars[1] == 0 || std::wcsncmp(one.chars, other.chars, CCHARW_MAX) == 0) &&
+           ((one.attr ^ other.attr) & (A_ALTCHARSET | A_CHARTEXT)) == 0;
+}
+
+bool isSame(const ScreenCell& one, const ScreenCell& other)
+{
+    return one.attr == other.attr && one.ext_color == other.ext_color && isSameLetter(one, other);
+}
+
+// Curses marks the columns of a wide letter by numbers from 1 on.
+bool isTail(const ScreenCell& cell)
+{
+    return (cell.attr & A_CHARTEXT) > 1;
+}
+
+wchar_t letterOf(const ScreenCell& cell)
+{
+    return cell.chars[0];
+}
+
+int bytesOf(const ScreenCell& cell, char (&bytes)[kMostBytes])
+{
+    int nBytes = 0;
+    std::mbstate_t state{};
+    for (int i = 0; i < CCHARW_MAX && cell.chars[i]; ++i) {
+        const wchar_t letter = cell.chars[i];
+        if (letter < ' ' || (letter >= 0x7f && letter < 0xa0) || nBytes + 8 > kMostBytes)
+            return 0;
+        if (letter < kLetters) {
+            bytes[nBytes++] = static_cast<char>(letter);
+            continue;
+        }
+        const std::size_t n = std::wcrtomb(bytes + nBytes, letter, &state);
+        if (n > 8)
+            return 0;
+        nBytes += static_cast<int>(n);
+    }
+    return nBytes;
+}
+
+#else
+
+ScreenCell blankCell()
+{
+    return ' ';
+}
+
+bool ScreenRow::read(WINDOW* win, int nY)
+{
+    return mvwinchnstr(win, nY, 0, cells_, COLS) != ERR;
+}
+
+bool isSameLetter(const ScreenCell& one, const ScreenCell& other)
+{
+    return ((one ^ other) & (A_ALTCHARSET | A_CHARTEXT)) == 0;
+}
+
+bool isSame(const ScreenCell& one, const ScreenCell& other)
+{
+    return one == other;
+}
+
+bool isTail(const ScreenCell&)
+{
+    return false;
+}
+
+wchar_t letterOf(const ScreenCell& cell)
+{
+    return static_cast<wchar_t>(cell & A_CHARTEXT);
+}
+
+int bytesOf(const ScreenCell& cell, char (&bytes)[kMostBytes])
+{
+    const wchar_t letter = letterOf(cell);
+    bytes[0] = static_cast<char>(letter);
+    return letter < ' ' || (letter >= 0x7f && letter < 0xa0) ? 0 : 1;
+}
+
+#endif
+
+bool isLine(const ScreenCell& cell)
+{
+    return attributesOf(cell) & A_ALTCHARSET && letterOf(cell) != ' ';
+}
+
+bool lookOf(const ScreenCell& cell, Style& style)
+{
+    const attr_t attributes = attributesOf(cell);
+    style = {};
+    if (attributes & ~kCommonAttributes)
+        return false;
+    style.attributes = numbered(attributes);
+    return colorsOf(pairOf(cell), style);
+}
+
+} // namespace kul

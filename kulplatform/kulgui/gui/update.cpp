@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+//
+// Curses moves the terminal's cursor from where it has left it. As long as it has not updated the
+// terminal it has left it nowhere, and places it first; most programs never come further. After an
+// update by curses the cursor is brought back to its place before the program gets a turn.
+//
+// Whether anybody has called doupdate() is told by attributes of curses' picture of the terminal
+// that nothing is drawn with: doupdate() puts those of the composed screen there.
+#include "update.hpp"
+
+#include "line.hpp"
+#include "painter.hpp"
+
+namespace kul {
+
+namespace {
+
+constexpr int kMark = static_cast<int>(A_PROTECT | A_INVIS | A_BLINK | A_DIM);
+
+Pen pen;
+ScreenRow next; // as it is to be
+ScreenRow seen; // as the terminal shows it
+Place cursor = kNowhere;
+Place believed = kNowhere; // where curses takes it to be
+Style worn;
+
+bool isMarked()
+{
+    return getattrs(curscr) == kMark;
+}
+
+bool isCleared()
+{
+    return is_cleared(newscr) || is_cleared(curscr);
+}
+
+bool isDue(int nY)
+{
+    return isCleared() || is_linetouched(newscr, nY) || is_linetouched(curscr, nY);
+}
+
+// As curses leaves the terminal after an update.
+Style normalStyle()
+{
+    Style style;
+    lookOf(blankCell(), style);
+    return style;
+}
+
+// Clears the screen in the colour of its last cell, which most often is that of the largest part.
+// Where erasing does not leave that, nothing is known of what is seen then.
+bool paintClear()
+{
+    if (!next.read(newscr, LINES - 1))
+        return false;
+    Style style;
+    ScreenCell blank = next[COLS - 1];
+    if (!lookOf(blank, style) || !isErasable(blank, style)) {
+        blank = blankCell();
+        style = normalStyle();
+    }
+    pen.wear(style);
+    pen.clear();
+    seen.fill(isErasable(blank, style) ? blank : ScreenCell{});
+    return true;
+}
+
+bool paintRows()
+{
+    const bool cleared = isCleared();
+    if (cleared && !paintClear())
+        return false;
+    for (int y = 0; y < LINES; ++y) {
+        if (!isDue(y))
+            continue;
+        if (!next.read(newscr, y) || (!cleared && !seen.read(curscr, y)) ||
+            !Painter(pen, y, next, seen).paint())
+            return false;
+    }
+    return true;
+}
+
+// Tells curses what the terminal shows now.
+void note()
+{
+    for (int y = 0; y < LINES; ++y) {
+        if (!isDue(y))
+            continue;
+        copywin(newscr, curscr, y, 0, y, 0, y, COLS - 1, FALSE);
+        wtouchln(newscr, y, 1, 0);
+        wtouchln(curscr, y, 1, 0);
+    }
+    clearok(newscr, FALSE);
+    clearok(curscr, FALSE);
+}
+
+void startPen()
+{
+    const Controls controls = passingControls();
+    pen.start(cursor, worn, controls.feeds, controls.tabs);
+}
+
+// Updates by the pen. False, and nothing sent, where only curses can.
+bool updateByPen(Place to)
+{
+    if (!codes().known || !isMarked() || !next.prepare() || !seen.prepare())
+        return false;
+    startPen();
+    if (!paintRows())
+        return false;
+    pen.useLines(false);
+    if (!pen.bytes().empty())
+        pen.wear(normalStyle());
+    if (to != kNowhere)
+        pen.moveTo(to);
+    if (pen.failed())
+        return false;
+    if (!pen.bytes().empty())
+        writeAll(pen.bytes().data(), pen.bytes().size());
+    cursor = pen.place();
+    worn = pen.style();
+    note();
+    wmove(newscr, to.nY, to.nX); // refused for nowhere
+    return true;
+}
+
+Place target(Place to, bool forProgram)
+{
+    const bool back = believed != kNowhere && (forProgram || to == kNowhere);
+    return back ? believed : to;
+}
+
+// Updates by curses, and makes it leave the cursor at a known cell.
+void updateByCurses(Place to)
+{
+    const Blocking blocking;
+    if (isMarked() && believed != kNowhere) {
+        startPen();
+        pen.moveTo(believed);
+        writeAll(pen.bytes().data(), pen.bytes().size());
+    }
+    if (to != kNowhere || codes().known) {
+        to = to == kNowhere ? Place{0, 0} : to;
+        leaveok(newscr, FALSE);
+        wmove(newscr, to.nY, to.nX);
+    }
+    doupdate();
+    cursor = believed = to;
+    worn = normalStyle();
+    // It stops half way when keys are waiting, anywhere.
+    if (!is_wintouched(newscr))
+        wattrset(curscr, kMark);
+}
+
+} // namespace
+
+void beginUpdates()
+{
+    cursor = believed = kNowhere;
+    worn = {};
+    wattrset(curscr, kMark);
+}
+
+void forgetTerminal()
+{
+    cursor = kNowhere;
+    worn.attributes = ~0U; // all has to be switched off first
+}
+
+void updateTerminal(Place to, bool forProgram)
+{
+    if (!updateByPen(target(to, forProgram)))
+        updateByCurses(to);
+}
+
+bool movesCursor(Place to, bool forProgram)
+{
+    const Place there = target(to, forProgram);
+    return there != kNowhere && (isMarked() ? cursor != there : !forProgram);
+}
+
+} // namespace kul
