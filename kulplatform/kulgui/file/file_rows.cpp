@@ -18,6 +18,12 @@ constexpr int kTab = 8;
 // curses a byte is a character.
 constexpr std::size_t kLongest = NCURSES_WIDECHAR ? 8 : 1;
 
+// Whether a byte has a column of its own, whatever comes before and behind.
+constexpr bool hasOneColumn(char byte)
+{
+    return isAscii(byte) && byte != '\t' && byte != '\n' && byte != '\r';
+}
+
 // One character for a row of nColumns; the stand-in where it has no column of its own.
 Letter character(std::string_view bytes, int nColumns)
 {
@@ -53,17 +59,25 @@ std::string_view FileRows::window(FilePlace place, FilePlace end)
     return {window_, nBytes};
 }
 
-std::string_view FileRows::plainFrom(FilePlace place, FilePlace end)
+// The bytes from a place to an end that are of a kind and a letter each, as far as they lie
+// together.
+template <bool (*isOfKind)(char)>
+std::string_view FileRows::runFrom(FilePlace place, FilePlace end)
 {
     const std::string_view bytes = text_.at(place);
     const FilePlace nMost = std::min(static_cast<FilePlace>(bytes.size()), end - place);
     FilePlace n = 0;
-    while (n < nMost && isPlain(bytes.data()[n]))
+    while (n < nMost && isOfKind(bytes.data()[n]))
         ++n;
     // What a mark may stand on is no letter of its own.
     if (marks_ && n > 0 && place + n < end && text_.byteAt(place + n) >= 0x80)
         --n;
     return {bytes.data(), static_cast<std::size_t>(std::max<FilePlace>(n, 0))};
+}
+
+std::string_view FileRows::plainFrom(FilePlace place, FilePlace end)
+{
+    return runFrom<isPlain>(place, end);
 }
 
 Letter FileRows::letter(FilePlace place, FilePlace end, int nColumn)
@@ -129,23 +143,29 @@ void FileRows::addCells(int& nCells, FilePlace nPlace, int nColumns, bool blank)
     }
 }
 
+// Whether nCells are not enough to tell the row: one behind it, and if that is blank, all blanks up
+// to the next word, or as many as the row has columns.
+bool FileRows::needsMore(int nCells) const
+{
+    return nCells <= nColumns_ || (nCells <= 2 * nColumns_ && cells_[nCells - 1] == ' ');
+}
+
 // A row of a line that is longer or holds more than plain characters. Cuts are at or behind edge.
 FileRows::Row FileRows::wrappedRow(FilePlace start, FilePlace edge)
 {
-    const int nWanted = 2 * nColumns_ + 1;
     FilePlace cut = -1; // not known: it matters near the edge only
     FilePlace place = start;
     int nCells = 0;
     int nLineEnd = -1;
-    while (nCells < nWanted && nLineEnd < 0) {
+    while (nLineEnd < 0 && needsMore(nCells)) {
         if (cut < 0 && place + kWindow > edge)
             cut = text_.nextCut(start);
         const FilePlace end = cut < 0 ? edge : cut;
-        const FilePlace room = place + nWanted - nCells;
-        const std::string_view plain = plainFrom(place, std::min(end, room));
-        for (const char byte : plain)
+        const FilePlace room = place + std::max(nColumns_ + 1 - nCells, 1);
+        const std::string_view run = runFrom<hasOneColumn>(place, std::min(end, room));
+        for (const char byte : run)
             addCells(nCells, place++ - start, 1, byte == ' ');
-        if (!plain.empty())
+        if (!run.empty())
             continue;
         nLineEnd = lineEndAt(place, end);
         if (nLineEnd >= 0)
@@ -184,11 +204,17 @@ FilePlace FileRows::down(FilePlace start, int nRows)
 
 FilePlace FileRows::up(FilePlace start, int nRows)
 {
+    constexpr int kKept = 64; // of the rows above, so that few are laid out twice
+    FilePlace kept[kKept];
     while (nRows > 0 && start > 0) {
         const FilePlace piece = text_.pieceStart(start - 1);
         int nAbove = 0;
-        for (FilePlace at = piece; at < start && at < text_.size(); ++nAbove)
+        for (FilePlace at = piece; at < start && at < text_.size(); ++nAbove) {
+            kept[nAbove % kKept] = at;
             at = row(at).next;
+        }
+        if (nAbove >= nRows && nRows <= kKept)
+            return kept[(nAbove - nRows) % kKept];
         if (nAbove >= nRows)
             return down(piece, nAbove - nRows);
         nRows -= nAbove;

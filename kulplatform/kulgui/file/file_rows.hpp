@@ -54,6 +54,9 @@ private:
     // What is looked at to know a letter; marks that lie behind are none of this letter.
     static constexpr int kWindow = 64;
 
+    template <bool (*isOfKind)(char)>
+    std::string_view runFrom(FilePlace place, FilePlace end);
+    bool needsMore(int nCells) const;
     Row wrappedRow(FilePlace start, FilePlace edge);
     FilePlace placeOf(int nCell, int nCells, FilePlace start, FilePlace end) const;
     int shownCells(int nCells) const;

@@ -36,22 +36,27 @@ FileView* findView(int nChain, int nRef)
 
 // ---- Moving ---------------------------------------------------------------------------------
 
-// Shows the row that holds a place at the top, or the last rows where there are not enough below.
-void moveTo(FileView& view, FilePlace place)
+// Shows the rows from one on, or the last rows where there are not enough below.
+void showFrom(FileView& view, FileRows& rows, FilePlace row)
 {
-    FileRows rows(*view.text, kul::fileColumns(view));
     const int nRows = rowsInView(view);
     view.nColumns = kul::fileColumns(view);
-    view.top = rows.rowOf(place);
+    view.top = row;
     view.atEnd = rows.down(view.top, nRows) >= view.text->size();
     if (view.atEnd)
         view.top = std::min(view.top, rows.up(view.text->size(), nRows));
 }
 
+void moveTo(FileView& view, FilePlace place)
+{
+    FileRows rows(*view.text, kul::fileColumns(view));
+    showFrom(view, rows, rows.rowOf(place));
+}
+
 void moveRows(FileView& view, int nRows)
 {
     FileRows rows(*view.text, kul::fileColumns(view));
-    moveTo(view, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
+    showFrom(view, rows, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
 }
 
 int page(const FileView& view)
