@@ -182,7 +182,8 @@ TEST_F(WaitingTest, KeepsOrForgetsWhatIsTypedAheadByEdition)
     keyboard_.put(";5C\033[I\033");
     EXPECT_EQ(wait(), KS_RIGHT);
     EXPECT_EQ(wait(), KS_ESC);
-    keyboard_.put("ab");
+    keyboard_.put("\033[200~\r\033[201~ab");
+    EXPECT_EQ(Inkeys(), 0) << "the newline of a paste";
     EXPECT_EQ(Inkeys(), 'a');
     keyboard_.put("c");
     EXPECT_EQ(kulgui_dropKeys(), 0);

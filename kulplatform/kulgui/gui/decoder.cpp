@@ -34,8 +34,9 @@ void KeyDecoder::learn(const char* szBytes, int nKey)
     const FoundKey found = commonKey(bytes, true);
     if (found.nBytes == bytes.size() && found.nKey == nKey)
         return;
-    std::memcpy(learnt_[nLearnt_].szBytes, szBytes, bytes.size() + 1);
-    learnt_[nLearnt_++].nKey = nKey;
+    Learnt& known = learnt_[nLearnt_++];
+    known = {{}, nKey};
+    std::memcpy(known.szBytes, bytes.data(), bytes.size());
 }
 
 std::size_t KeyDecoder::feed(std::string_view bytes)

@@ -95,7 +95,7 @@ std::size_t readRest(kul::SequenceReader& reader, char* key, std::size_t size)
 // Edition 1's key.
 int firstKey(int nMilliseconds)
 {
-    char key[kKeyBytes];
+    char key[kKeyBytes] = {};
     kul::SequenceReader reader;
     std::size_t size = readBytes(key, kKeyBytes, nMilliseconds);
     for (std::size_t i = 0; i < size; ++i)
@@ -271,7 +271,8 @@ int Inkeys()
 {
     kul::makeTypedAheadStale();
     kul::forgetTypedAhead();
-    return kul::readKey(kWaitMilliseconds);
+    const int nKey = kul::readKey(kWaitMilliseconds);
+    return nKey != kul::kPastedNewline ? nKey : 0;
 }
 
 int kulgui_dropKeys()
