@@ -212,6 +212,7 @@ TEST_P(Update, ShowsWhatCursesShows)
     setenv("TERM", szTerm, 1);
     Side ours(szTerm, true);
     Side theirs(szTerm, false);
+    std::mt19937 hints; // right or wrong
     std::size_t nOurs = 0;
     std::size_t nTheirs = 0;
     for (int step = 0; step < steps(); ++step) {
@@ -219,6 +220,8 @@ TEST_P(Update, ShowsWhatCursesShows)
         const bool foreign = step % 100 == 99 && !wide; // as by a program that updates by itself
         ours.enter();
         Artist(static_cast<unsigned>(step), ours, wide, nMargin).draw();
+        const int nTop = static_cast<int>(hints() % 4) * 3;
+        kul::expectScroll(nTop, kRows - 1 - static_cast<int>(hints() % 2), static_cast<int>(hints() % 5) - 2);
         if (foreign)
             doupdate();
         else

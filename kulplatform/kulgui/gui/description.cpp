@@ -220,6 +220,8 @@ void ask()
     now.placesRow = is(row_address, "\033[%i%p1%dd");
     now.reversesFeed = is(scroll_reverse, "\033M");
     now.feeds = is(cursor_down, "\n");
+    now.scrolls = now.feeds && now.reversesFeed && is(scroll_forward, "\n") &&
+                  is(change_scroll_region, "\033[%i%p1%d;%p2%dr");
     now.backspaces = is(cursor_left, "\b");
     now.tabs = is(tab, "\t") && init_tabs == 8;
     now.erasesCells = is(erase_chars, "\033[%p1%dX");

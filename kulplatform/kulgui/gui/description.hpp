@@ -36,6 +36,7 @@ struct Codes {
     bool placesRow;
     bool reversesFeed; // a row up by one code
     bool feeds;        // a row down by a line feed
+    bool scrolls;      // and from the last row on, and back; some rows of the screen alone as well
     bool backspaces;
     bool tabs; // to each eighth column
     bool erasesCells;

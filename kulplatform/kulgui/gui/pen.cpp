@@ -191,9 +191,8 @@ void addAttributes(Short& code, bool& first, unsigned attributes)
 Short changed(const Style& from, const Style& to)
 {
     Short code;
-    const bool toDefault =
-        (to.foreground == kDefaultColor && from.foreground != kDefaultColor) ||
-        (to.background == kDefaultColor && from.background != kDefaultColor);
+    const bool toDefault = (to.foreground == kDefaultColor && from.foreground != kDefaultColor) ||
+                           (to.background == kDefaultColor && from.background != kDefaultColor);
     if (from.attributes & ~to.attributes || (toDefault && !codes().hasDefaultColors)) {
         code.add(' ', 64);
         return code;
@@ -315,6 +314,29 @@ void Pen::eraseCells(int nCount)
 void Pen::eraseRow()
 {
     add("\033[K");
+}
+
+void Pen::scroll(int nTop, int nBottom, int nRows)
+{
+    const bool isPart = nTop > 0 || nBottom < LINES - 1;
+    if (isPart) {
+        Short region;
+        region.add('\033');
+        region.add('[');
+        region.number(nTop + 1);
+        region.add(';');
+        region.number(nBottom + 1);
+        region.add('r');
+        add(region.text());
+        place_ = kNowhere;
+    }
+    moveTo({nRows > 0 ? nBottom : nTop, 0});
+    for (int i = std::abs(nRows); i > 0; --i)
+        add(nRows > 0 ? "\n" : "\033M");
+    if (isPart) {
+        add("\033[r");
+        place_ = kNowhere;
+    }
 }
 
 void Pen::clear()

@@ -55,6 +55,11 @@ public:
     void eraseRow(); // from here to its end
     void clear();    // the screen, in the colour that is worn
 
+    // Moves the rows from one to another up, or down for a number below 0; what comes in is erased
+    // in the colour that is worn. Only where it scrolls.
+    bool scrolls() const { return feeds_ && codes().scrolls; }
+    void scroll(int nTop, int nBottom, int nRows);
+
 private:
     void add(std::string_view text);
     void add(char character) { add({&character, 1}); }

@@ -160,6 +160,14 @@ OnTop::~OnTop()
     onTop = outer_;
 }
 
+void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows)
+{
+    const int nFirst = std::max(nTop, 0);
+    const int nLast = std::min(nBottom, getmaxy(win) - 1);
+    if (nFirst < nLast)
+        expectScroll(getbegy(win) + nFirst, getbegy(win) + nLast, nRows);
+}
+
 void showCursorAt(WINDOW* win, int nY, int nX)
 {
     if (isEdition2())

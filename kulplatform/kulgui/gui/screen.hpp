@@ -49,6 +49,10 @@ private:
     const OnTop* outer_;
 };
 
+// Says that rows of a window have moved up by so many, or down for a number below 0: the terminal
+// may scroll them. A hint, which changes nothing of what is shown.
+void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows);
+
 // Where the user is, told by the draw function of the component that has the focus: the terminal's
 // own cursor stands there from the next update on, as long as the cell is seen and the window is
 // that of the dialog above all others. Does nothing in edition 1, which has no cursor.

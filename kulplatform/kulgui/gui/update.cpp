@@ -8,6 +8,10 @@
 // that nothing is drawn with: doupdate() puts those of the composed screen there.
 #include "update.hpp"
 
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
 #include "line.hpp"
 #include "painter.hpp"
 
@@ -24,6 +28,17 @@ Place cursor = kNowhere;
 Place believed = kNowhere; // where curses takes it to be
 Style worn;
 
+// Rows that have moved up since the last update.
+struct Scroll {
+    int nTop;
+    int nBottom;
+    int nRows; // 0: none
+    bool operator==(const Scroll&) const = default;
+};
+
+Scroll expected;
+Scroll scrolled; // the one that the update under way makes
+
 bool isMarked()
 {
     return getattrs(curscr) == kMark;
@@ -34,9 +49,15 @@ bool isCleared()
     return is_cleared(newscr) || is_cleared(curscr);
 }
 
+bool isScrolled(int nY)
+{
+    return scrolled.nRows != 0 && nY >= scrolled.nTop && nY <= scrolled.nBottom;
+}
+
 bool isDue(int nY)
 {
-    return isCleared() || is_linetouched(newscr, nY) || is_linetouched(curscr, nY);
+    return isCleared() || isScrolled(nY) || is_linetouched(newscr, nY) ||
+           is_linetouched(curscr, nY);
 }
 
 // As curses leaves the terminal after an update.
@@ -65,15 +86,66 @@ bool paintClear()
     return true;
 }
 
+// Cells of a row that are not those of another one; all of them where that cannot be told.
+int differences(int nY, int nOther)
+{
+    if (!next.read(newscr, nY) || !seen.read(curscr, nOther))
+        return COLS;
+    int nCount = 0;
+    for (int x = 0; x < COLS; ++x)
+        nCount += isSame(next[x], seen[x]) ? 0 : 1;
+    return nCount;
+}
+
+// Whether a look at some rows shows that scrolling leaves far fewer cells to be painted. Without
+// doubt it costs less than what one of these rows costs.
+bool paysToScroll(const Scroll& scroll)
+{
+    constexpr int kLooks = 4;
+    const int nFirst = scroll.nTop - std::min(scroll.nRows, 0);
+    const int nLast = scroll.nBottom - std::max(scroll.nRows, 0);
+    int nSaved = 0;
+    for (int i = 0; i < kLooks; ++i) {
+        const int y = nFirst + (nLast - nFirst) * (2 * i + 1) / (2 * kLooks);
+        nSaved += differences(y, y) - differences(y, y + scroll.nRows);
+    }
+    return nSaved * (nLast - nFirst + 1) > 32 * kLooks;
+}
+
+void paintScroll()
+{
+    if (scrolled == Scroll{})
+        return;
+    if (isCleared() || !pen.scrolls() || !paysToScroll(scrolled)) {
+        scrolled = {};
+        return;
+    }
+    pen.wear(normalStyle());
+    pen.scroll(scrolled.nTop, scrolled.nBottom, scrolled.nRows);
+}
+
+// A row as the terminal shows it, after scrolling. What has come in there is blank.
+bool readSeen(int nY)
+{
+    const int nFrom = nY + (isScrolled(nY) ? scrolled.nRows : 0);
+    if (isScrolled(nY) && !isScrolled(nFrom)) {
+        const ScreenCell blank = blankCell();
+        seen.fill(isErasable(blank, normalStyle()) ? blank : ScreenCell{});
+        return true;
+    }
+    return seen.read(curscr, nFrom);
+}
+
 bool paintRows()
 {
     const bool cleared = isCleared();
+    paintScroll();
     if (cleared && !paintClear())
         return false;
     for (int y = 0; y < LINES; ++y) {
         if (!isDue(y))
             continue;
-        if (!next.read(newscr, y) || (!cleared && !seen.read(curscr, y)) ||
+        if (!next.read(newscr, y) || (!cleared && !readSeen(y)) ||
             !Painter(pen, y, next, seen).paint())
             return false;
     }
@@ -167,10 +239,23 @@ void forgetTerminal()
     worn.attributes = ~0U; // all has to be switched off first
 }
 
+void expectScroll(int nTop, int nBottom, int nRows)
+{
+    nTop = std::max(nTop, 0);
+    nBottom = std::min(nBottom, LINES - 1);
+    if (expected.nTop == nTop && expected.nBottom == nBottom)
+        nRows += expected.nRows;
+    expected = {};
+    if (nTop < nBottom && std::abs(nRows) <= (nBottom - nTop) / 2)
+        expected = {nTop, nBottom, nRows};
+}
+
 void updateTerminal(Place to, bool forProgram)
 {
+    scrolled = std::exchange(expected, {});
     if (!updateByPen(target(to, forProgram)))
         updateByCurses(to);
+    scrolled = {};
 }
 
 bool movesCursor(Place to, bool forProgram)

@@ -18,6 +18,10 @@ void beginUpdates();
 // Somebody else had the terminal: nothing is known of its cursor and of what letters look like.
 void forgetTerminal();
 
+// Says that rows of the screen have moved up, or down for a number below 0. The next update has
+// them scrolled where that is cheaper; right or wrong, it shows what was composed.
+void expectScroll(int nTop, int nBottom, int nRows);
+
 // Updates the terminal and leaves its cursor at a cell of the screen, or anywhere. For a program
 // that gets a turn now, and may update the terminal by itself, it is left where curses takes it to
 // be instead.

@@ -8,6 +8,7 @@
 #include <climits>
 
 #include "../file/file_rows.hpp"
+#include "../gui/draw.hpp"
 #include "../gui/polling.hpp"
 #include "handler.hpp"
 
@@ -56,6 +57,7 @@ void moveTo(FileView& view, FilePlace place)
 void moveRows(FileView& view, int nRows)
 {
     FileRows rows(*view.text, kul::fileColumns(view));
+    view.nMoved = nRows;
     showFrom(view, rows, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
 }
 
@@ -334,7 +336,12 @@ int kulfileview_execKeys(int nChain, int nRef)
         } else if (view && view->text && move != std::end(kKeyMoves)) {
             keepUp(*view);
             const FilePlace before = view->top;
+            view->nMoved = 0;
             move->move(*view);
+            const kul::FileBox box = kul::fileBox(*view);
+            if (view->top != before && view->nMoved != 0)
+                kul::rowsMoved(kul::findDialog(nChain)->winMain, box.nY,
+                               kul::shifted(box.nY, box.nHeight - 1LL), view->nMoved);
             handler.selection.nPosition = percent(*view);
             SetCurrentSelection(&handler.selection);
             if (view->top != before)

@@ -13,6 +13,7 @@ struct FileView : KULFILEVIEW {
     FileText* text; // null: no file
     FilePlace top;
     int nColumns; // to which the row at the top was laid out
+    int nMoved;   // rows up by the last key
     bool atEnd;   // the last row of the file is in view
     bool following;
 };
