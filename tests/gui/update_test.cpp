@@ -162,7 +162,7 @@ private:
 
     chtype attributes()
     {
-        constexpr chtype kSome[] = {A_REVERSE, A_BOLD,   A_UNDERLINE,       A_STANDOUT,
+        constexpr chtype kSome[] = {A_REVERSE, A_BOLD,   A_UNDERLINE,        A_STANDOUT,
                                     A_BLINK,   A_ITALIC, A_REVERSE | A_BOLD, A_DIM};
         const int nPairs = COLORS >= 256 ? kPairs + kMorePairs : kPairs;
         const chtype pair = static_cast<chtype>(COLOR_PAIR(below(nPairs)));
@@ -247,10 +247,9 @@ INSTANTIATE_TEST_SUITE_P(Terminals, Update,
                          ::testing::Values(Case{"linux", "C"}, Case{"linux", "C.UTF-8"}, Case{"linux", "C.UTF-8", true},
                                            Case{"xterm", "C"}, Case{"xterm-256color", "C.UTF-8"},
                                            Case{"xterm-256color", "C.UTF-8", true}, Case{"vt100", "C"},
-                                           Case{"vt220", "C.UTF-8", true}, Case{"screen", "C"},
-                                           Case{"tmux", "C.UTF-8"}, Case{"tmux", "C.UTF-8", true}, Case{"rxvt", "C"},
+                                           Case{"vt220", "C.UTF-8", true}, Case{"screen", "C"}, Case{"tmux", "C.UTF-8"},
+                                           Case{"tmux", "C.UTF-8", true}, Case{"rxvt", "C"},
                                            // Behind its last column the emulator is another terminal.
-                                           Case{"ansi", "C", false, 1}, Case{"putty", "C"},
-                                           Case{"putty", "C.UTF-8"}));
+                                           Case{"ansi", "C", false, 1}, Case{"putty", "C"}, Case{"putty", "C.UTF-8"}));
 
 } // namespace

@@ -14,6 +14,7 @@
 #include "gui/description.hpp"
 #include "gui/update.hpp"
 #include "ui/component.hpp"
+#include "ui/selection.hpp"
 
 namespace {
 
@@ -54,6 +55,27 @@ std::string lineGlyph(char letter)
     constexpr std::string_view kGlyphs = "┌┐└┘─│├┤┬┴▒◆";
     const std::size_t place = kLetters.find(letter);
     return place == kLetters.npos ? "?" : std::string(kGlyphs.substr(3 * place, 3));
+}
+
+// What was drawn of the dialog in focus, mostly in part, is what drawing all of it gives.
+void expectDrawnWhole()
+{
+    const CHAIN* chain = GetChain(GetCurrentSelection()->nChain);
+    WINDOW* win = chain && chain->Pointer && chain->Pointer->nVisible == T ? chain->Pointer->winMain : nullptr;
+    if (!win)
+        return;
+    WINDOW* before = dupwin(win);
+    ShowUIColors();
+    for (int y = 0; y < getmaxy(win); ++y) {
+        for (int x = 0; x < getmaxx(win); ++x) {
+            const kultest::Cell one = kultest::cellOf(before, y, x);
+            const kultest::Cell other = kultest::cellOf(win, y, x);
+            ASSERT_TRUE(one.glyph == other.glyph && one.pair == other.pair && one.attributes == other.attributes)
+                << "not drawn: " << y << ' ' << x << " '" << one.glyph << "' '" << other.glyph << "' " << one.pair
+                << ' ' << other.pair;
+        }
+    }
+    delwin(before);
 }
 
 template <typename Look>
@@ -126,6 +148,14 @@ ssize_t __wrap_write(int file, const void* bytes, std::size_t size)
 {
     ++nUpdates;
     return __real_write(file, bytes, size);
+}
+
+void __real__ZN3kul11drawFocusedENS_7ChangedE(kul::Changed changed);
+
+void __wrap__ZN3kul11drawFocusedENS_7ChangedE(kul::Changed changed)
+{
+    __real__ZN3kul11drawFocusedENS_7ChangedE(changed);
+    expectDrawnWhole();
 }
 
 int __wrap__ZN3kul8awaitKeyEv()

@@ -134,8 +134,7 @@ bool ScreenRow::readEach(WINDOW* win, int nY)
             return false;
     }
     for (int x = 0; x < COLS; ++x) {
-        const bool wide =
-            letterOf(cells_[x]) >= kFirstWide && wcwidth(letterOf(cells_[x])) == 2;
+        const bool wide = letterOf(cells_[x]) >= kFirstWide && wcwidth(letterOf(cells_[x])) == 2;
         const bool whole = x + 1 < COLS && !isTail(cells_[x]) && isTail(cells_[x + 1]);
         if (wide && whole)
             ++x;

@@ -214,6 +214,7 @@ int CreateChain(int nRef)
 
 CHAIN* GetChain(int nRef)
 {
+    ++kul::nCalls;
     CHAIN* chain = Primary;
     while (chain && chain->nRef != nRef)
         chain = kul::nextChain(chain);
@@ -381,6 +382,7 @@ UI* GetFirstUIComponentInChain(int nChain)
 
 void SetVar(int* nCurrValue, int nNewValue)
 {
+    ++kul::nCalls;
     if (nCurrValue && nNewValue != KUL_KEEP)
         *nCurrValue = nNewValue;
 }

@@ -31,6 +31,10 @@ struct Dialog : GUI {
     Mark* marks;
 };
 
+// Counts what looks for a dialog or changes a list, so that it can be told whether a program, in a
+// turn of its own, has called anything that does.
+inline unsigned nCalls = 0;
+
 // The dialog of a chain; null for an unknown chain or one without.
 Dialog* findDialog(int nChain);
 

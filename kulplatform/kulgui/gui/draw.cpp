@@ -17,6 +17,20 @@ struct Disabled {
 
 Disabled disabled;
 
+// The window with a clip; null for none.
+const WINDOW* clipped = nullptr;
+kul::Rows clipRows;
+bool clipExact = true;
+
+// The rows of a window that are drawn now.
+kul::Rows rowsDrawn(const WINDOW* win)
+{
+    const int nEnd = getmaxy(win);
+    if (win != clipped)
+        return {0, nEnd};
+    return {std::max(clipRows.nFirst, 0), std::min(clipRows.nEnd, nEnd)};
+}
+
 using Run = void (*)(WINDOW*, int, int, long long, chtype);
 
 void coloredRun(Run run, WINDOW* win, int nY, int nX, long long nCount, int nColorSet,
@@ -28,8 +42,9 @@ void coloredRun(Run run, WINDOW* win, int nY, int nX, long long nCount, int nCol
 
 void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
 {
-    const long long first = std::max<long long>(nY, 0);
-    const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), getmaxy(win));
+    const kul::Rows rows = rowsDrawn(win);
+    const long long first = std::max(nY, rows.nFirst);
+    const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), rows.nEnd);
     for (long long row = first; row < last; ++row)
         kul::hRun(win, static_cast<int>(row), nX, nWidth, ' ');
 }
@@ -89,24 +104,62 @@ bool needsParentheses()
     return !has_colors() && !(termattrs() & A_DIM);
 }
 
+Clip::Clip(WINDOW* win, Rows rows)
+{
+    clipped = win;
+    clipRows = rows;
+    clipExact = true;
+}
+
+Clip::~Clip()
+{
+    clipped = nullptr;
+}
+
+bool Clip::isExact() const
+{
+    return clipExact;
+}
+
+bool isDrawn(const WINDOW* win, int nY, int nHeight)
+{
+    return win != clipped ||
+           (nY < clipRows.nEnd && nY + static_cast<long long>(nHeight) > clipRows.nFirst);
+}
+
+void drawAcrossRows(const WINDOW* win)
+{
+    if (win == clipped)
+        clipExact = false;
+}
+
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
 {
     const long long first = std::max<long long>(nX, 0);
     const long long last = std::min<long long>(nX + nCount, getmaxx(win));
-    if (first < last)
+    if (first < last && isDrawn(win, nY))
         mvwhline(win, nY, static_cast<int>(first), character, static_cast<int>(last - first));
 }
 
 void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
 {
-    const long long first = std::max<long long>(nY, 0);
-    const long long last = std::min<long long>(nY + nCount, getmaxy(win));
+    const Rows rows = rowsDrawn(win);
+    const long long first = std::max(nY, rows.nFirst);
+    const long long last = std::min<long long>(nY + nCount, rows.nEnd);
     if (first < last)
         mvwvline(win, static_cast<int>(first), nX, character, static_cast<int>(last - first));
 }
 
+void drawCell(WINDOW* win, int nY, int nX, chtype cell)
+{
+    if (isDrawn(win, nY))
+        mvwaddch(win, nY, nX, cell);
+}
+
 void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
 {
+    if (!isDrawn(win, nY))
+        return;
     const long long first = std::max(0LL, -static_cast<long long>(nX));
     const long long last =
         std::min(static_cast<long long>(text.size()), getmaxx(win) - static_cast<long long>(nX));
@@ -132,7 +185,8 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
 
 void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter)
 {
-    if (nX < 0 || letter.shown[0] == L'\0' || shifted(nX, letter.nColumns) > getmaxx(win))
+    if (!isDrawn(win, nY) || nX < 0 || letter.shown[0] == L'\0' ||
+        shifted(nX, letter.nColumns) > getmaxx(win))
         return;
 #if NCURSES_WIDECHAR
     cchar_t cell{};
@@ -152,10 +206,10 @@ void DrawBorder(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nBackC
     const kul::Attribute color(win, nBackColor);
     const int nBottom = kul::shifted(nY, nHeight - 1LL);
     const int nRight = kul::shifted(nX, nWidth - 1LL);
-    mvwaddch(win, nY, nX, ACS_ULCORNER);
-    mvwaddch(win, nY, nRight, ACS_URCORNER);
-    mvwaddch(win, nBottom, nX, ACS_LLCORNER);
-    mvwaddch(win, nBottom, nRight, ACS_LRCORNER);
+    kul::drawCell(win, nY, nX, ACS_ULCORNER);
+    kul::drawCell(win, nY, nRight, ACS_URCORNER);
+    kul::drawCell(win, nBottom, nX, ACS_LLCORNER);
+    kul::drawCell(win, nBottom, nRight, ACS_LRCORNER);
     kul::hRun(win, nY, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
     kul::hRun(win, nBottom, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
     kul::vRun(win, kul::shifted(nY, 1), nX, nHeight - 2LL, ACS_VLINE);
@@ -185,16 +239,16 @@ void DrawThickVLine(WINDOW* win, int nY, int nX, int nHeight, int nColorSet)
 void DrawHTeeLine(WINDOW* win, int nTee, int nX, int nWidth, int nBackColor)
 {
     const kul::Attribute color(win, nBackColor);
-    mvwaddch(win, nTee, nX, ACS_LTEE);
-    mvwaddch(win, nTee, kul::shifted(nX, nWidth - 1LL), ACS_RTEE);
+    kul::drawCell(win, nTee, nX, ACS_LTEE);
+    kul::drawCell(win, nTee, kul::shifted(nX, nWidth - 1LL), ACS_RTEE);
     kul::hRun(win, nTee, kul::shifted(nX, 1), nWidth - 2LL, ACS_HLINE);
 }
 
 void DrawVTeeLine(WINDOW* win, int nY, int nTee, int nHeight, int nBackColor)
 {
     const kul::Attribute color(win, nBackColor);
-    mvwaddch(win, nY, nTee, ACS_TTEE);
-    mvwaddch(win, kul::shifted(nY, nHeight - 1LL), nTee, ACS_BTEE);
+    kul::drawCell(win, nY, nTee, ACS_TTEE);
+    kul::drawCell(win, kul::shifted(nY, nHeight - 1LL), nTee, ACS_BTEE);
     kul::vRun(win, kul::shifted(nY, 1), nTee, nHeight - 2LL, ACS_VLINE);
 }
 

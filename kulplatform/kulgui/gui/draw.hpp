@@ -64,9 +64,41 @@ public:
 // Whether the terminal can show what is disabled neither in a colour nor dim.
 bool needsParentheses();
 
+// Rows of a window: the first one, and the one behind the last.
+struct Rows {
+    int nFirst;
+    int nEnd;
+};
+
+constexpr Rows joined(Rows one, Rows other)
+{
+    return {std::min(one.nFirst, other.nFirst), std::max(one.nEnd, other.nEnd)};
+}
+
+// While it lives, what is drawn into a window changes these rows alone.
+class Clip {
+public:
+    Clip(WINDOW* win, Rows rows);
+    ~Clip();
+    Clip(const Clip&) = delete;
+    Clip& operator=(const Clip&) = delete;
+
+    // False when something could not be told row by row, and all has to be drawn.
+    bool isExact() const;
+};
+
+// Whether a row is drawn now, or one of some.
+bool isDrawn(const WINDOW* win, int nY, int nHeight = 1);
+
+// For what goes on in the next row at the right edge of one.
+void drawAcrossRows(const WINDOW* win);
+
 // Draws nCount cells to the right or down; those outside of the window are skipped.
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
 void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
+
+// Draws one cell, where the window has it.
+void drawCell(WINDOW* win, int nY, int nX, chtype cell);
 
 // Whether curses shows a character as it is, in one cell, in every locale.
 constexpr bool isPlain(char character)

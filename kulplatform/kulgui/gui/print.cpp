@@ -105,7 +105,7 @@ void drawBytes(WINDOW* win, int nY, int nX, std::string_view text)
             first += static_cast<long long>(nRun);
             continue;
         }
-        if (characterBytes(rest) == 1)
+        if (characterBytes(rest) == 1 && kul::isDrawn(win, nY))
             mvwaddnstr(win, nY, nAt, rest.data(), 1);
         ++first;
     }
@@ -149,9 +149,15 @@ long long printFront(const Row& row, int nX, std::string_view& text)
 // Prints a text that is not plain, or not whole.
 void printOther(WINDOW* win, int nY, int nX, std::string_view text, bool onRow)
 {
-    if (kul::isEdition2())
+    if (kul::isEdition2()) {
         kul::printLetters(win, nY, nX, INT_MAX, text, kul::Controls::Whole);
-    else if (wmove(win, nY, nX) != ERR)
+        return;
+    }
+    if (!onRow)
+        kul::drawAcrossRows(win);
+    else if (!kul::isDrawn(win, nY))
+        return;
+    if (wmove(win, nY, nX) != ERR)
         printCharacters(win, text, onRow);
 }
 

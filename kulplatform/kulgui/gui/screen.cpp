@@ -19,6 +19,7 @@ int nPasses = 0;
 const OnTop* onTop = nullptr;
 
 Turn turn = Turn::Program;
+unsigned nChanges = 0;
 
 // Where the user is; without a window, nowhere.
 struct {
@@ -136,16 +137,29 @@ Pass::~Pass()
         update();
 }
 
+unsigned changes()
+{
+    return nChanges;
+}
+
+void noteChange()
+{
+    ++nChanges;
+}
+
 Pause::Pause(Turn now) : nHeld_(nPasses), before_(turn)
 {
     nPasses = 0;
     turn = now;
     if (!hasKeysAtHand() || movesCursor(kNowhere, true))
         update();
+    nCalls_ = nCalls;
 }
 
 Pause::~Pause()
 {
+    if (turn == Turn::Program && (nCalls != nCalls_ || anyTouched()))
+        noteChange();
     nPasses = nHeld_;
     turn = before_;
 }

@@ -33,7 +33,13 @@ public:
 private:
     int nHeld_;
     Turn before_;
+    unsigned nCalls_;
 };
+
+// Counts what programs did that dialogs may have to show: a turn in which one called the library,
+// or drew by itself. A turn in which it did neither is not counted.
+unsigned changes();
+void noteChange();
 
 // While it lives, this dialog stands above the other ones whenever the terminal is updated.
 class OnTop {

@@ -212,5 +212,6 @@ int kulcheckbox_execKeys(int nChain, int nRef)
         return -10000;
     if (list->nVisible != T)
         return 10;
-    return kul::runList<KULCHECKBOX>(nChain, nRef, {CHECKBOX, kul::isEdition2(), click, moved});
+    return kul::runList<KULCHECKBOX>(
+        nChain, nRef, {CHECKBOX, kul::Changed::Selected, kul::isEdition2(), click, moved});
 }

@@ -175,6 +175,11 @@ Area areaOf(const KULMENU& menu)
     return {menu.nX, menu.nY, 0, 1, false};
 }
 
+Rows rowsOf(const KULDESCRMENU&)
+{
+    return {INT_MIN, INT_MAX};
+}
+
 Area areaOf(const KULDYNMENU& menu)
 {
     return {menu.nX, menu.nY, shifted(menu.nWidth, 2), shifted(menu.nHeight, 2), true};

@@ -8,6 +8,7 @@
 #include <cstddef>
 
 #include "../gui/chain.hpp"
+#include "../gui/draw.hpp"
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
 
@@ -64,6 +65,23 @@ Area areaOf(const KULDESCRMENU& menu);
 Area areaOf(const KULBUTTON& button);
 Area areaOf(const KULTOOLBAR& toolbar);
 
+// The rows that a component draws into. A description menu's are not known from its record.
+template <typename Record>
+Rows rowsOf(const Record& record)
+{
+    const Area area = areaOf(record);
+    return {area.nY, shifted(area.nY, area.nHeight)};
+}
+
+Rows rowsOf(const KULDESCRMENU& menu);
+
+// The rows of the selected element. While the view stays the same, a move of the selection changes
+// nothing else.
+struct Spot {
+    Rows rows;
+    int nView; // which elements are shown; -1 where more may change
+};
+
 // What the kinds differ in without a function of their own.
 struct UITraits {
     int nTaken;             // code for a number that is in use
@@ -86,6 +104,8 @@ struct UIKind {
     bool (*enabled)(void*);                // by the record
     bool (*clickable)(void*);              // something happens at Enter
     Area (*area)(void*);
+    Rows (*rows)(void*);
+    Spot (*spot)(void*);
     int (*focusColor)(void*); // nColorFocus of the record
     int (*unfocusColor)(void*);
     int (*disableColor)(void*);
@@ -126,6 +146,12 @@ constexpr UIKind uiRow(UITraits traits, bool (*accepts)(int, int) = nullptr)
             return false;
         },
         [](void* record) { return areaOf(*static_cast<Public*>(record)); },
+        [](void* record) { return rowsOf(*static_cast<Public*>(record)); },
+        [](void* record) {
+            if constexpr (requires(Record & own) { spotOf(own); })
+                return spotOf(*static_cast<Record*>(record));
+            return Spot{rowsOf(*static_cast<Public*>(record)), 0};
+        },
         [](void* record) { return static_cast<Public*>(record)->nColorFocus; },
         [](void* record) { return static_cast<Public*>(record)->nColorUnfocus; },
         [](void* record) { return static_cast<Public*>(record)->nColorDisable; },

@@ -55,6 +55,8 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
         kul::printLetters(win, nY, nX, nEnd, szText, kul::Controls::Skipped, nWidth);
         return;
     }
+    if (!kul::isDrawn(win, nY))
+        return;
     bool shown = false; // the letter that an accent goes to
     for (int nAt = nX; *szText && nAt < nEnd;) {
         const Print print = nextPrint(szText);
@@ -76,6 +78,8 @@ void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
         const int nY = kul::shifted(menu.nY, 1LL + i);
         if (nY >= getmaxy(win))
             break;
+        if (!kul::isDrawn(win, nY))
+            continue;
         const bool selected = view.nFirst + i == menu.nSelect;
         const int nColor = kul::elementColor(colors, *element, selected);
         if (selected && colors.focused)
@@ -117,6 +121,15 @@ void draw(GUI* gui, const KULDYNMENU& menu, kul::MenuView& view, int nFocus)
 } // namespace
 
 namespace kul {
+
+// A scroll bar tells of every move in edition 2.
+Spot spotOf(DynMenu& menu)
+{
+    follow(menu.view, menu);
+    const int nY = shifted(menu.nY, 1LL + menu.nSelect - menu.view.nFirst);
+    const bool told = isEdition2() && menu.nHeight < menu.nElements;
+    return {{nY, shifted(nY, 1)}, told ? -1 : menu.view.nFirst};
+}
 
 void dropDynmenu(KULDYNMENU& menu)
 {

@@ -28,6 +28,8 @@ inline int pageOf(const DynMenu& menu)
     return std::max(menu.nHeight - 1, 1);
 }
 
+Spot spotOf(DynMenu& menu);
+
 void dropDynmenu(KULDYNMENU& menu);
 
 } // namespace kul

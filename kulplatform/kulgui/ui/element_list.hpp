@@ -10,6 +10,7 @@
 #ifndef KUL_UI_ELEMENT_LIST_HPP
 #define KUL_UI_ELEMENT_LIST_HPP
 
+#include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
 #include "../gui/memory.hpp"
 
@@ -42,6 +43,7 @@ Element* lastOf(Element* head)
 template <typename Element>
 Element* newElement(int nEnable, const char* szText, KULCALLBACK onClick)
 {
+    ++nCalls;
     auto* element = allocate<Element>();
     if (!element)
         return nullptr;
@@ -59,6 +61,7 @@ Element* newElement(int nEnable, const char* szText, KULCALLBACK onClick)
 template <typename Element>
 void freeElement(Element* element)
 {
+    ++nCalls;
     std::free(element->szText);
     if constexpr (requires { element->szBoxText; })
         std::free(element->szBoxText);

@@ -50,6 +50,8 @@ void drawLate()
 Loop::Loop(int nChain)
     : nChain_(nChain), own_(!std::exchange(callsHandler, false)), outer_{}, onTop_(nChain)
 {
+    if (own_)
+        noteChange(); // by the program that calls it
     Dialog* dialog = own_ ? findDialog(nChain) : nullptr;
     if (dialog)
         outer_ = std::exchange(dialog->asked, {});
@@ -104,7 +106,7 @@ bool takeRefocus(int nChain)
 
 HandlerBase::HandlerBase(const CURRENT& start) : selection(start), loop_(start.nChain) {}
 
-void HandlerBase::show()
+void HandlerBase::show(Changed changed)
 {
     if (isOver())
         return;
@@ -115,7 +117,7 @@ void HandlerBase::show()
     if (hasKeysAtHand())
         undrawn = selection;
     else
-        ShowUIColors();
+        drawFocused(changed);
 }
 
 void HandlerBase::run(KULCALLBACK callback)

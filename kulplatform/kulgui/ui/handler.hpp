@@ -14,6 +14,7 @@
 #include "../gui/chain.hpp"
 #include "../gui/screen.hpp"
 #include "component.hpp"
+#include "selection.hpp"
 
 namespace kul {
 
@@ -70,8 +71,8 @@ public:
     // What the current selection is to say; the kinds keep it up to date.
     CURRENT selection;
 
-    // Stores the selection and draws the dialog.
-    void show();
+    // Stores the selection and draws what has changed; what a callback did is found out.
+    void show(Changed changed = Changed::Component);
 
     // Runs any callback, NULL for none, unless the handler is over.
     void run(KULCALLBACK callback);

@@ -209,7 +209,7 @@ int runMenu(int nChain, int nRef, const MenuKeys& keys)
             handler.selection.nSelect = menu->nSelect;
         else if (nKey == KS_ENTER)
             handler.call(&Record::onClick);
-        handler.show();
+        handler.show(Changed::Selected);
     }
     if (keys.obeysControls && ExitUIorGUIorChains() != -1)
         handler.end(10);

@@ -193,5 +193,6 @@ int kuloptions_execKeys(int nChain, int nRef)
     const auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
     if (!list || list->nVisible != T)
         return -1;
-    return kul::runList<KULOPTIONS>(nChain, nRef, {OPTIONS, true, click, moved});
+    return kul::runList<KULOPTIONS>(nChain, nRef,
+                                    {OPTIONS, kul::Changed::Component, true, click, moved});
 }

@@ -70,7 +70,7 @@ void drawScrollbar(GUI* gui, Record& list, int nColor)
     if (nCursor != 0 && nCursor != nLast)
         return;
     const Attribute color(gui->winMain, nColor);
-    mvwaddch(gui->winMain, nCursor == 0 ? list.nY : shifted(list.nY, list.nHeight - 1LL), nRight,
+    drawCell(gui->winMain, nCursor == 0 ? list.nY : shifted(list.nY, list.nHeight - 1LL), nRight,
              ACS_DIAMOND | A_REVERSE);
 }
 
@@ -108,16 +108,18 @@ void drawElements(WINDOW* win, Record& list, int nFocus, Marker marker)
         const int nHeight =
             i < list.nLastShowed ? GetWrapTextHeight(textWidth(list), element->szText) : nRows;
         const int nCut = std::min(nHeight, nRows - nUsed);
+        nUsed += nCut;
+        const auto& shown = *element;
+        element = element->Next;
+        if (!isDrawn(win, nTop, nCut))
+            continue;
         {
             const Attribute color(win, nColor);
             if (nFocus == 1 && i == cursorOf(list))
                 drawCursorBar(win, list, nTop, nX, nCut);
-            drawText(win, nTop, nX, marker(*element, static_cast<int>(i)));
+            drawText(win, nTop, nX, marker(shown, static_cast<int>(i)));
         }
-        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT,
-                    element->szText);
-        nUsed += nCut;
-        element = element->Next;
+        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT, shown.szText);
     }
 }
 
@@ -135,6 +137,26 @@ void showList(GUI* gui, Record* list, int nFocus, Marker marker)
     if (list->bScrollbar == T)
         drawScrollbar(gui, *list, list->nColorUnfocus);
     drawElements(gui->winMain, *list, nFocus, marker);
+}
+
+// A scroll bar tells of every move.
+template <typename Record>
+Spot spotOf(RingList<Record>& list)
+{
+    keepView(list);
+    const int nCursor = cursorOf(list);
+    const auto* element = list.FirstShowed;
+    if (list.bScrollbar == T || !hasRoom(list) || !element || nCursor < list.nFirstShowed ||
+        nCursor > list.nLastShowed)
+        return {rowsOf(list), -1};
+    int nY = shifted(list.nY, list.nBorder == BORDER ? 1 : 0);
+    const int nEnd = shifted(nY, viewRows(list));
+    for (int i = list.nFirstShowed; i < nCursor && element; ++i, element = element->Next)
+        nY = shifted(nY, GetWrapTextHeight(textWidth(list), element->szText));
+    if (nCursor == list.nLastShowed || !element)
+        return {{nY, nEnd}, list.nFirstShowed};
+    return {{nY, shifted(nY, GetWrapTextHeight(textWidth(list), element->szText))},
+            list.nFirstShowed};
 }
 
 // Keys.
@@ -213,6 +235,7 @@ bool stepList(RingList<Record>& list, int nKey)
 template <typename Record>
 struct ListKeys {
     UI_TYPE type;
+    Changed clickChanges;                      // at the most, what Space and Enter do
     bool endsHidden;                           // when it gets hidden; else it goes on unseen
     void (*click)(Handler<RingList<Record>>&); // runs what Space and Enter do
     void (*moved)(Handler<RingList<Record>>&); // runs the callbacks after a move
@@ -237,7 +260,7 @@ int runList(int nChain, int nRef, const ListKeys<Record>& keys)
             keys.moved(handler);
         }
         noteSelection(handler);
-        handler.show();
+        handler.show(nKey == KS_SPACE || nKey == KS_ENTER ? keys.clickChanges : Changed::Selected);
         if (nKey == KS_TAB || nKey == KS_ESC)
             handler.end(nKey == KS_TAB ? 10 : -10);
     }

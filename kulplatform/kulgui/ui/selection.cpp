@@ -2,8 +2,10 @@
 //
 // What has the focus and what is selected in it, the navigation flags, and the two things that
 // depend on them: running a callback, and drawing the dialog in focus.
+#include "selection.hpp"
 #include "../gui/chain.hpp"
 #include "../gui/screen.hpp"
+#include "component.hpp"
 
 namespace {
 
@@ -102,12 +104,22 @@ void ExecOnFunction(KULCALLBACK Function)
     defCurrent = before;
 }
 
-void ShowUIColors()
+// ---- Drawing --------------------------------------------------------------------------------
+
+namespace {
+
+// What was drawn last of the dialog that had the focus then, all of it as changes() says.
+struct {
+    int nChain;
+    int nRef;
+    const WINDOW* win;
+    unsigned nChanges;
+    bool exact; // drawing can be held to some rows
+    kul::Spot spot;
+} drawn = {-1, -1, nullptr, 0, false, {}};
+
+void drawDialog(CHAIN* chain)
 {
-    CHAIN* chain = GetChain(defCurrent.nChain);
-    if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
-        return;
-    const kul::Pass pass;
     kul::forgetCursor();
     BackgroundDisplay(chain);
     ShowDisplayComponents(chain->Pointer);
@@ -117,4 +129,81 @@ void ShowUIColors()
         else
             ShowUIComponentUnfocused(chain->Pointer, ui);
     }
+}
+
+// Draws these rows of it; false when that is not exact.
+bool drawRows(CHAIN* chain, kul::Rows rows)
+{
+    const kul::Clip clip(chain->Pointer->winMain, rows);
+    drawDialog(chain);
+    return clip.isExact();
+}
+
+// A component's record; null when there is none that can tell where it is.
+void* findShown(int nRef, const kul::UIKind*& kind)
+{
+    const UI* ui = GetUIComponentByRef(defCurrent.nChain, nRef);
+    kind = ui ? kul::uiKind(ui->nType) : nullptr;
+    return kind ? kul::findUIRecord(defCurrent.nChain, nRef, static_cast<UI_TYPE>(ui->nType))
+                : nullptr;
+}
+
+void noteDrawn(const GUI& gui, bool exact)
+{
+    const kul::UIKind* kind = nullptr;
+    void* record = findShown(defCurrent.nUserInterface, kind);
+    drawn = {defCurrent.nChain, defCurrent.nUserInterface,
+             gui.winMain,       kul::changes(),
+             exact && record,   record ? kind->spot(record) : kul::Spot{}};
+}
+
+// The rows that can have changed since the last drawing; false when that may be any.
+bool findChangedRows(kul::Changed changed, kul::Rows& rows)
+{
+    const kul::UIKind* kind = nullptr;
+    void* record = findShown(defCurrent.nUserInterface, kind);
+    if (!record)
+        return false;
+    rows = kind->rows(record);
+    const kul::Spot spot = kind->spot(record);
+    if (defCurrent.nUserInterface != drawn.nRef) {
+        if (!(record = findShown(drawn.nRef, kind)))
+            return false;
+        rows = kul::joined(rows, kind->rows(record));
+    } else if (changed == kul::Changed::Selected && spot.nView != -1 &&
+               spot.nView == drawn.spot.nView) {
+        rows = kul::joined(spot.rows, drawn.spot.rows);
+    }
+    return true;
+}
+
+} // namespace
+
+void kul::drawFocused(Changed changed)
+{
+    CHAIN* chain = GetChain(defCurrent.nChain);
+    Rows rows{};
+    if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
+        return;
+    if (!drawn.exact || drawn.nChanges != changes() || drawn.nChain != defCurrent.nChain ||
+        drawn.win != chain->Pointer->winMain || !findChangedRows(changed, rows)) {
+        ShowUIColors();
+        return;
+    }
+    const Pass pass;
+    if (drawRows(chain, rows))
+        noteDrawn(*chain->Pointer, true);
+    else
+        ShowUIColors();
+}
+
+void ShowUIColors()
+{
+    CHAIN* chain = GetChain(defCurrent.nChain);
+    if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
+        return;
+    const kul::Pass pass;
+    const bool hadWindow = chain->Pointer->winMain;
+    const bool exact = drawRows(chain, {INT_MIN, INT_MAX});
+    noteDrawn(*chain->Pointer, exact && hadWindow);
 }

@@ -17,18 +17,13 @@ chtype shownAs(char character, bool masked)
     return unctrl(byte)[1] == '\0' ? byte : '?';
 }
 
-void drawCell(WINDOW* win, int nY, int nX, chtype cell)
-{
-    mvwaddch(win, nY, nX, cell);
-}
-
 // Draws the cell of the cursor in reverse video. On a terminal without colours the whole box may be
 // so: then the cursor is what is not.
 void drawCursor(WINDOW* win, int nY, int nX, chtype cell)
 {
     const bool reversed = getattrs(win) & static_cast<int>(A_REVERSE);
     (reversed ? wattr_off : wattr_on)(win, A_REVERSE, nullptr);
-    mvwaddch(win, nY, nX, cell);
+    kul::drawCell(win, nY, nX, cell);
     (reversed ? wattr_on : wattr_off)(win, A_REVERSE, nullptr);
 }
 
@@ -67,7 +62,7 @@ bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
         }
         const bool atEnd = szText[nPlace] == '\0';
         const chtype cell = atEnd ? row.end : shownAs(szText[nPlace], row.masked);
-        (nPlace == row.nCursor ? drawCursor : drawCell)(win, nY, nAt, cell);
+        (nPlace == row.nCursor ? drawCursor : kul::drawCell)(win, nY, nAt, cell);
         if (atEnd)
             return false;
         ++nPlace;
