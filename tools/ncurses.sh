@@ -1,18 +1,18 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # Builds ncurses, of the source that Debian has, as other systems have it: for another machine,
-# narrow, or without a library of its own for the descriptions of terminals. Once for each name.
-# usage: ncurses.sh FOLDER NAME [OPTIONS FOR CONFIGURE]      leaves it in FOLDER/NAME
+# narrow, or without a library of its own for the descriptions of terminals. Once for each folder.
+# usage: ncurses.sh PREFIX [OPTIONS FOR CONFIGURE]
 set -eu
-mkdir -p "$1"
-folder=$(cd "$1" && pwd) name=$2
-shift 2
-[ -f "$folder/$name/done" ] && exit
+mkdir -p "$1" build/ncurses
+prefix=$(cd "$1" && pwd) source=$PWD/build/ncurses/source
+shift
+[ -f "$prefix/done" ] && exit
 
 # The source, by apt-get, with lists of its own: the machine's need not have source packages.
-if [ ! -f "$folder/source/configure" ]; then
-    mkdir -p "$folder/apt/lists/partial"
-    cd "$folder/apt"
+if [ ! -f "$source/configure" ]; then
+    mkdir -p build/ncurses/apt/lists/partial
+    cd build/ncurses/apt
     release=$(. /etc/os-release && echo "$VERSION_CODENAME")
     echo "deb-src http://deb.debian.org/debian $release main" >sources.list
     apt() {
@@ -21,28 +21,27 @@ if [ ! -f "$folder/source/configure" ]; then
     }
     apt update
     apt source --download-only ncurses
-    mkdir -p ../source
-    tar -xf ncurses_*.orig.tar.?z -C ../source --strip-components=1
-    rm -r "$folder/apt"
+    mkdir -p "$source"
+    tar -xf ncurses_*.orig.tar.?z -C "$source" --strip-components=1
+    rm -r "$PWD"
 fi
 
 # Terminals are described where Debian describes them, so that what is built runs here.
-mkdir -p "$folder/build-$name"
-cd "$folder/build-$name"
+mkdir -p "$prefix/build"
+cd "$prefix/build"
 {
-    "$folder/source/configure" --prefix="$folder/$name" --with-shared --with-normal --without-debug \
+    "$source/configure" --prefix="$prefix" --with-shared --with-normal --without-debug \
         --without-ada --without-cxx --without-cxx-binding --without-manpages --without-progs \
-        --without-tests --enable-overwrite \
+        --without-tests --enable-overwrite --with-build-cc=cc \
         --with-default-terminfo-dir=/usr/share/terminfo \
         --with-terminfo-dirs=/etc/terminfo:/lib/terminfo:/usr/share/terminfo "$@"
     for part in include ncurses panel; do
         make -j"$(getconf _NPROCESSORS_ONLN)" -C $part
         make -C $part install
     done
-} >build.log 2>&1 || {
-    tail -30 build.log >&2
+} >log 2>&1 || {
+    tail -30 log >&2
     exit 1
 }
-cd ..
-rm -r "build-$name"
-touch "$folder/$name/done"
+rm -r "$prefix/build"
+touch "$prefix/done"
