@@ -38,7 +38,7 @@ make_packages() {
     CFLAGS=$(flags CFLAGS CPPFLAGS) CXXFLAGS=$(flags CXXFLAGS CPPFLAGS) LDFLAGS=$(flags LDFLAGS) \
         cmake -S "$1/kulgui-$version" -B "$1/build" -G Ninja -DCMAKE_BUILD_TYPE=MinSizeRel \
         -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_DOCDIR=share/doc/libkulgui-doc \
-        -DKULGUI_BUILD_ARCHIVE=ON -DKULGUI_BUILD_TESTS=OFF -DKULGUI_BUILD_EXAMPLES=OFF \
+        -DKULGUI_BUILD_ARCHIVE=ON -DKULGUI_BUILD_DOCS=ON -DKULGUI_BUILD_TESTS=OFF -DKULGUI_BUILD_EXAMPLES=OFF \
         -DKULGUI_BUILD_BENCH=OFF -DKULGUI_MAINTAINER="$maintainer"
     ninja -C "$1/build" --quiet
     (cd "$1/build" && cpack -B "$PWD/packages")

@@ -1,0 +1,35 @@
+################################################################################
+#
+# kulgui
+#
+################################################################################
+
+KULGUI_VERSION = @VERSION@
+KULGUI_SITE = @ADDRESS@
+KULGUI_LICENSE = MIT
+KULGUI_LICENSE_FILES = LICENSE
+KULGUI_INSTALL_STAGING = YES
+KULGUI_DEPENDENCIES = ncurses
+KULGUI_CONF_OPTS = \
+	-DKULGUI_BUILD_TESTS=OFF \
+	-DKULGUI_BUILD_EXAMPLES=OFF \
+	-DKULGUI_BUILD_BENCH=OFF \
+	-DKULGUI_BUILD_DOCS=OFF
+
+ifeq ($(BR2_PACKAGE_NCURSES_WCHAR),y)
+KULGUI_CONF_OPTS += -DKULGUI_WIDE=ON
+else
+KULGUI_CONF_OPTS += -DKULGUI_WIDE=OFF
+endif
+
+ifeq ($(BR2_PACKAGE_KULGUI_KULDIALOG),y)
+KULGUI_CONF_OPTS += -DKULGUI_BUILD_KULDIALOG=ON
+else
+KULGUI_CONF_OPTS += -DKULGUI_BUILD_KULDIALOG=OFF
+endif
+
+ifeq ($(BR2_SHARED_STATIC_LIBS),y)
+KULGUI_CONF_OPTS += -DKULGUI_BUILD_ARCHIVE=ON
+endif
+
+$(eval $(cmake-package))
