@@ -17,6 +17,12 @@ constexpr int kStalled = 1000;
 
 constexpr unsigned char kDelete = 127;
 
+// Not starts_with: where that is not optimised away it needs the C++ run-time library.
+bool begins(std::string_view bytes, std::string_view start)
+{
+    return bytes.size() >= start.size() && std::equal(start.begin(), start.end(), bytes.begin());
+}
+
 } // namespace
 
 namespace kul {
@@ -87,10 +93,10 @@ FoundKey KeyDecoder::front() const
     FoundKey found = {0, 0};
     for (std::size_t i = 0; i < nLearnt_; ++i) {
         const std::string_view known(learnt_[i].szBytes);
-        if (rest().starts_with(known)) {
+        if (begins(rest(), known)) {
             if (known.size() > found.nBytes)
                 found = {known.size(), learnt_[i].nKey};
-        } else if (!late_ && known.starts_with(rest())) {
+        } else if (!late_ && begins(known, rest())) {
             return {0, 0};
         }
     }
