@@ -169,6 +169,28 @@ TEST(Screen, KeepsTheOrderOfDialogsWhoeverIsDrawn)
     EXPECT_EQ(terminal.paintedMost(), 1) << "not even for a moment";
 }
 
+// Keys that come together are drawn when they are used up, as if each had been.
+TEST(Screen, ShowsWhatWasTypedAhead)
+{
+    for (const char* kind : {"list", "text", "behind"}) {
+        SCOPED_TRACE(kind);
+        Terminal together(program("dialogs", {"second", kind}));
+        Terminal single(program("dialogs", {"second", kind}));
+        ASSERT_TRUE(together.waitForText("Main") && single.waitForText("Main") && together.settle());
+        const std::string_view keys[] = {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t"};
+        std::string all;
+        for (const std::string_view key : keys) {
+            single.press(key);
+            all += key;
+        }
+        ASSERT_NO_FATAL_FAILURE(press(together, all + "\x1b[I")); // the last one is no key
+        ASSERT_TRUE(single.settle());
+        EXPECT_EQ(look(together, 0, 0, 20, 60), look(single, 0, 0, 20, 60));
+        EXPECT_EQ(together.cursor().row, single.cursor().row);
+        EXPECT_EQ(together.cursor().column, single.cursor().column);
+    }
+}
+
 // A paste comes whole, over a fast line and one of 9600 baud; its newline is a blank.
 TEST(Screen, TakesAPasteWhole)
 {
