@@ -3,12 +3,15 @@
 // A terminal that is left as it was found, whatever happens, and the keys of any line.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -31,6 +34,8 @@ Launch script(const std::string& text, const std::string& words, const std::stri
     launch.columns = 40;
     launch.rows = 14;
     launch.term = term;
+    // A sanitizer would take crashes for itself.
+    launch.environment = {"ASAN_OPTIONS=handle_segv=0:handle_abort=0:use_sigaltstack=0:detect_leaks=0"};
     return launch;
 }
 
@@ -64,14 +69,40 @@ Act send(int signal)
     };
 }
 
+// The second act finds the terminal as the first has.
 Act twice(Act second)
 {
     return [=](Terminal& terminal) {
+        const Line inside(terminal);
         enter(terminal);
-        ASSERT_TRUE(terminal.waitForText("count 1"));
+        ASSERT_TRUE(terminal.waitForText("count 1") && terminal.settle());
+        EXPECT_TRUE(Line(terminal).hasModesOf(inside));
         EXPECT_LE(terminal.cell(11, 10).background, 0) << "a shadow is black";
         second(terminal);
     };
+}
+
+struct Way {
+    std::string name;
+    const char* words;
+    Act act;
+    int status;
+    bool closed = false; // by kulgui_destroyAll, which leaves its own flags
+    int flags = 0;       // that the line has before
+    bool sized = true;   // or it reports 0 x 0
+};
+
+// Every signal that ends a process where the program does not say otherwise.
+std::vector<Way> endings()
+{
+    std::vector<Way> ways;
+    for (int signal = 1; signal <= SIGRTMAX; ++signal) {
+        constexpr int kOthers[] = {SIGKILL, SIGSTOP, SIGTSTP, SIGTTIN, SIGTTOU, SIGCONT, SIGCHLD, SIGURG, SIGWINCH};
+        const bool left = signal > SIGSYS && signal < SIGRTMAX; // of the others, one for all
+        if (!left && std::ranges::find(kOthers, signal) == std::end(kOthers))
+            ways.push_back({"signal " + std::to_string(signal), "count", send(signal), signal});
+    }
+    return ways;
 }
 
 class Ways : public testing::TestWithParam<const char*> {};
@@ -79,20 +110,11 @@ class Ways : public testing::TestWithParam<const char*> {};
 TEST_P(Ways, LeaveTheTerminalAsItWasFound)
 {
     const bool ownScreen = GetParam() == std::string("xterm-256color"); // beside the shell's
-    const struct {
-        const char* name;
-        const char* words;
-        Act act;
-        int status;
-        bool closed = false; // by kulgui_destroyAll, which leaves its own flags
-    } ways[] = {
+    std::vector<Way> ways = {
         {"exit() in a callback", "exit", enter, exited(3)},
         {"return without closing", "return", enter, exited(4)},
         {"kulgui_destroyAll", "close", enter, exited(5), true},
         {"opened twice", "again", twice(enter), exited(5), true},
-        {"HUP", "count", send(SIGHUP), SIGHUP},
-        {"INT", "count", send(SIGINT), SIGINT},
-        {"QUIT", "count", send(SIGQUIT), SIGQUIT},
         {"TERM", "count", send(SIGTERM), SIGTERM},
         {"TERM with a handler", "handler count", send(SIGTERM), exited(6)},
         {"TERM with a handler set later", "late", twice(send(SIGTERM)), exited(6)},
@@ -104,13 +126,26 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
              enter(terminal);
          },
          exited(3)},
+        {"a bad address", "fault", enter, SIGSEGV},
+        {"a stack that is full", "overflow", enter, SIGSEGV},
+        {"abort()", "abort", enter, SIGABRT},
+        {"children that end", "fork", twice(send(SIGINT)), SIGINT},
+        {"a line that does not block", "count", twice(send(SIGTERM)), SIGTERM, false, O_NONBLOCK},
+        {"a line without a size", "close", enter, exited(5), true, 0, false},
     };
+    if (GetParam() == std::string("vt100"))
+        std::ranges::move(endings(), std::back_inserter(ways));
     const std::string database = ownScreen ? "unset TERMINFO; " : "export TERMINFO=/x; ";
     for (const auto& way : ways) {
         SCOPED_TRACE(way.name);
-        Terminal terminal(script(database + "ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
-                                 std::string("ways ") + way.words, GetParam()));
+        Launch launch = script(database + "ulimit -c 0; stty -ixon intr ^B; echo before; read go; exec \"$@\"",
+                               std::string("ways ") + way.words, GetParam());
+        launch.columns = way.sized ? launch.columns : 80;
+        launch.rows = way.sized ? launch.rows : 24;
+        launch.withoutSize = !way.sized;
+        Terminal terminal(launch);
         ASSERT_TRUE(terminal.waitForText("before"));
+        fcntl(terminal.tty(), F_SETFL, way.flags);
         const Line before(terminal);
         terminal.press("\r");
         ASSERT_TRUE(terminal.waitForText("count 0"));
@@ -162,28 +197,30 @@ pid_t foreground(const Terminal& terminal)
     return std::stoi(statusField(terminal.pid(), 8));
 }
 
+// An interactive shell puts its own modes back whenever a program stops.
 TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
 {
     for (const char* term : {"linux", "vt100", "xterm-256color"}) {
         SCOPED_TRACE(term);
-        Terminal terminal(script("set -m; echo before; read go; \"$@\"; "
-                                 "for i in 1 2; do echo stopped $i; read go; fg >/dev/null; done; "
-                                 "echo ended with $?",
-                                 "ways count", term));
+        Terminal terminal(
+            script("set -m; modes=$(stty -g); echo before; read go; \"$@\"; "
+                   "for i in 1 2; do stty $modes; echo stopped $i; read go </dev/tty; fg >/dev/null; done; "
+                   "echo ended with $?",
+                   "ways count", term));
         ASSERT_TRUE(terminal.waitForText("before"));
         const Line before(terminal);
         terminal.press("\r");
         ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
         const Line inside(terminal);
         ASSERT_NE(foreground(terminal), terminal.pid());
-        for (const char* round : {"1", "2"}) {
+        for (const int round : {1, 2}) {
             const std::string screen = terminal.text();
-            ::kill(-foreground(terminal), SIGTSTP);
-            ASSERT_TRUE(terminal.waitForText(std::string("stopped ") + round));
+            ::kill(-foreground(terminal), round == 1 ? SIGTSTP : SIGSTOP);
+            ASSERT_TRUE(terminal.waitForText("stopped " + std::to_string(round)));
             ASSERT_TRUE(terminal.settle());
             EXPECT_TRUE(Line(terminal).hasModesOf(before));
-            EXPECT_EQ(Line(terminal).flags, before.flags);
-            EXPECT_TRUE(terminal.cursor().visible);
+            EXPECT_EQ(Line(terminal).flags, round == 1 ? before.flags : inside.flags);
+            EXPECT_EQ(terminal.cursor().visible, round == 1 || term == std::string("vt100"));
 
             terminal.feed("\033[3;3Hdirt"); // what others have written meanwhile
             terminal.press("\r");
@@ -193,7 +230,7 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
             EXPECT_EQ(Line(terminal).flags, inside.flags);
             EXPECT_FALSE(terminal.cursor().visible && term != std::string("vt100"));
             terminal.press("\r");
-            EXPECT_TRUE(terminal.waitForText(std::string("count ") + round));
+            EXPECT_TRUE(terminal.waitForText("count " + std::to_string(round)));
         }
         ::kill(-foreground(terminal), SIGTERM);
         EXPECT_TRUE(terminal.waitForText("ended with 143"));
@@ -212,6 +249,41 @@ TEST(Stopping, EndsInTheBackgroundAsTheSignalSays)
     ::kill(program, SIGCONT);
     // It ends, and is not stopped for touching the terminal of somebody else.
     EXPECT_TRUE(terminal.waitFor([&] { return statusField(program, 3) == "Z"; }));
+}
+
+// Seconds of the processor that a program has had.
+double processorSeconds(const Terminal& terminal)
+{
+    std::ifstream file("/proc/" + std::to_string(terminal.pid()) + "/schedstat");
+    double nanoseconds = 0;
+    file >> nanoseconds;
+    return nanoseconds / 1e9;
+}
+
+TEST(Held, SleepsLosesNothingAndCanBeEnded)
+{
+    using namespace std::chrono;
+    Terminal terminal(script("exec \"$@\"", "ways count"));
+    ASSERT_TRUE(terminal.waitForText("count 0") && terminal.settle());
+    const Line before(terminal);
+    for (const char* text : {"count 1", "count 2"}) {
+        ASSERT_EQ(tcflow(terminal.tty(), TCOOFF), 0);
+        terminal.send("\r");
+        constexpr int kHeld = 500;
+        const double start = processorSeconds(terminal);
+        EXPECT_FALSE(terminal.waitForText(text, kHeld));
+        EXPECT_LT(processorSeconds(terminal) - start, 0.02 * kHeld / 1000 + 0.002) << "the key itself takes some";
+        if (text == std::string("count 2"))
+            break;
+        ASSERT_EQ(tcflow(terminal.tty(), TCOON), 0);
+        ASSERT_TRUE(terminal.waitForText(text) && terminal.settle());
+        EXPECT_EQ(Line(terminal).flags, before.flags);
+    }
+    const auto start = steady_clock::now();
+    terminal.kill(SIGTERM);
+    EXPECT_EQ(terminal.wait(), SIGTERM);
+    EXPECT_LT(steady_clock::now() - start, milliseconds(500));
+    EXPECT_TRUE(Line(terminal).modes.c_lflag & ICANON);
 }
 
 double processorSeconds()

@@ -10,6 +10,9 @@
  *   count     counts
  *   round     moves the focus between two buttons, each of which runs a dialog of its own first
  *   late      installs a handler for TERM, as below, and opens the terminal that is open again
+ *   fork      counts, after two children have ended, one by exit(127) and one by TERM
+ *   fault, overflow, abort
+ *             crashes: by a bad address, a stack that is full, abort()
  * and these change what the program does about signals:
  *   handler   its own handler for TERM ends it with 6
  *   ignore    INT is ignored
@@ -21,6 +24,8 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 enum { DESKTOP, MAIN, ASIDE };
 
@@ -60,10 +65,47 @@ static void onTerminate(int number)
     exit(6);
 }
 
+static void child(int number)
+{
+    const pid_t pid = fork();
+    if (pid != 0) {
+        waitpid(pid, NULL, 0);
+        return;
+    }
+    raise(number);
+    exit(127);
+}
+
+static volatile int depth = 1; /* never 0 */
+
+static int overflow(volatile int* outer)
+{
+    volatile int room[1024] = {*outer};
+    return depth ? overflow(room) + room[0] : 0;
+}
+
+static char* volatile nowhere = (char*)16;
+
+static void crash(void)
+{
+    if (strcmp(way, "fault") == 0)
+        *nowhere = 0;
+    if (strcmp(way, "overflow") == 0)
+        overflow(&depth);
+    if (strcmp(way, "abort") == 0)
+        abort();
+}
+
 static void click(void)
 {
+    crash();
     ++clicks;
     label();
+    if (strcmp(way, "fork") == 0) {
+        child(SIGCONT);
+        child(SIGTERM);
+        return;
+    }
     if (strcmp(way, "late") == 0) {
         signal(SIGTERM, onTerminate);
         NCursesEnv(1);
