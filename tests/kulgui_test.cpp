@@ -3,9 +3,14 @@
 // Dialogs as a program sees them: running, leaving, polling, and callbacks that pull the rug away.
 #include "support/window_test.hpp"
 
+#include "gui/resize.hpp"
+#include "gui/screen.hpp"
+
 #include <climits>
+#include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -326,14 +331,30 @@ TEST_F(DialogTest, FrameTitleAndShadow)
     EXPECT_EQ(kulgui_hide(9), 0);
 }
 
+// Gives the terminal a size, and looks at it as a wait does.
+void resize(int nLines, int nColumns)
+{
+    setenv("LINES", std::to_string(nLines).c_str(), 1);
+    setenv("COLUMNS", std::to_string(nColumns).c_str(), 1);
+    const kul::Pass pass;
+    kul::fitScreen();
+    kul::runOnResize();
+}
+
 TEST_F(DialogTest, SizesAndPlacesOfEveryKind)
 {
     const struct {
         int nX, nY, nWidth, nHeight;
         int nWindowWidth, nWindowHeight; // of the window
-    } rows[] = {{-5, -5, 10, 5, 10, 5},           {0, 0, 0, 0, 1, 1},
-                {79, 23, 80, 24, 80, 24},         {1000, 1000, 10, 10, 10, 10},
-                {0, 0, 100000, 100000, 512, 512}, {INT_MAX, INT_MIN, INT_MAX, INT_MIN, 512, 1}};
+        int nShownX, nShownY;            // brought in
+    } rows[] = {{-5, -5, 10, 5, 10, 5, 0, 0},
+                {0, 0, 0, 0, 1, 1, 0, 0},
+                {79, 23, 80, 24, 80, 24, 0, 0},
+                {100, 2, 60, 18, 60, 18, 20, 2},
+                {KUL_CENTER, KUL_CENTER, 11, 7, 11, 7, 34, 8},
+                {1000, 1000, 10, 10, 10, 10, 70, 14},
+                {0, 0, 100000, 100000, 512, 512, 0, 0},
+                {INT_MAX, INT_MIN, INT_MAX, INT_MIN, 512, 1, 0, 0}};
     for (const auto& row : rows) {
         kulgui_create(2);
         kulgui_config(2, INT_MAX, INT_MIN, -1, 99, "far", 0, row.nX, row.nY, row.nWidth, row.nHeight, nullptr, nullptr,
@@ -341,8 +362,80 @@ TEST_F(DialogTest, SizesAndPlacesOfEveryKind)
         kulgui_show(2);
         EXPECT_EQ(GetWindowWidth(window(2)), row.nWindowWidth);
         EXPECT_EQ(GetWindowHeight(window(2)), row.nWindowHeight);
+        WINDOW* shown = panel_window(GetChain(2)->Pointer->pnlMain);
+        EXPECT_EQ(getbegx(shown), row.nShownX);
+        EXPECT_EQ(getbegy(shown), row.nShownY);
         kulgui_destroy(2);
     }
+}
+
+TEST_F(DialogTest, KeepItsPlaceAndPictureOnScreensOfEverySize)
+{
+    makeDialog(2, 15, 8);
+    kulgui_place(2, 60, 10, KUL_KEEP, KUL_KEEP);
+    makeDialog(3, 30, 10);
+    kulgui_place(3, KUL_CENTER, KUL_CENTER, KUL_KEEP, KUL_KEEP);
+    for (int nChain : {0, 3, 2})
+        kulgui_show(nChain);
+    mvwaddch(window(2), 6, 13, 'm');
+    kulgui_setOnResize(1, [] { note("hidden"); });
+    kulgui_setOnResize(3, [] { note(std::to_string(LINES)); });
+    const struct {
+        int nLines, nColumns;
+        int nX2, nY2, nX3, nY3;
+    } rows[] = {{18, 60, 45, 10, 15, 4}, {5, 20, 5, 0, 0, 0},       {1, 1, 0, 0, 0, 0},
+                {2, 300, 60, 0, 135, 0}, {100, 80, 60, 10, 25, 45}, {24, 80, 60, 10, 25, 7}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.nLines);
+        events.clear();
+        resize(row.nLines, row.nColumns);
+        const GUI& second = *GetChain(2)->Pointer;
+        const GUI& third = *GetChain(3)->Pointer;
+        EXPECT_EQ(std::make_pair(second.nX, second.nY), std::make_pair(row.nX2, row.nY2));
+        EXPECT_EQ(std::make_pair(third.nX, third.nY), std::make_pair(row.nX3, row.nY3));
+        EXPECT_EQ(std::make_pair(getmaxx(window(2)), getmaxy(window(2))), std::make_pair(15, 8));
+        EXPECT_EQ(kultest::cellOf(window(2), 6, 13).glyph, "m");
+        EXPECT_EQ(getbegx(panel_window(second.pnlMain)), row.nX2);
+        EXPECT_EQ(panel_above(third.pnlMain), second.pnlShadow) << "the order stays";
+        EXPECT_EQ(GetChain(0)->Pointer->nWidth, row.nColumns);
+        EXPECT_EQ(events, "hidden " + std::to_string(row.nLines) + ' ');
+    }
+    kulgui_place(2, 70, KUL_KEEP, 20, 4);
+    EXPECT_EQ(kultest::picture(newscr, 13, 60, 1, 20)[0], "└──────────────────┘");
+    GetChain(2)->Pointer->nX = 3; // a program may write it as well
+    resize(30, 80);
+    EXPECT_EQ(getbegx(window(2)), 3);
+    resize(24, 80);
+    EXPECT_EQ(kulgui_place(0, 1, 1, 1, 1), -1);
+    EXPECT_EQ(kulgui_place(9, 1, 1, 1, 1), -1);
+    EXPECT_EQ(kulgui_setOnResize(9, nullptr), -1);
+}
+
+TEST_F(DialogTest, LargerThanTheScreenShowsWhereTheUserIs)
+{
+    kulgui_place(1, 0, 0, 60, 20);
+    for (int nRef : {1, 4})
+        addButton(nRef);
+    button(1).nX = 2;
+    button(4).nY = 15;
+    resize(5, 20);
+    kulgui_setTabbing(1, T);
+    events.clear();
+    typeKeys({-2, KS_TAB, -2, KS_UP, -2, 'x', -2, KS_PAGEUP, KS_LEFT, -2, KS_TAB, -2}, {[] {
+                 WINDOW* shown = panel_window(GetChain(1)->Pointer->pnlMain);
+                 std::string text;
+                 for (std::string row : kultest::picture(shown, 0, 0, 5, 20))
+                     text += row.erase(row.find_last_not_of(' ') + 1) + '|';
+                 note(text);
+             }});
+    kulgui_exec(1);
+    EXPECT_EQ(events, "+1 ┌───────────────────|│|│ ┌──────┐|│ │  B   │|│ └──────┘| -1 +4 "
+                      "||            ┌──────┐|            │  B   │|            └──────┘| "
+                      "|||            ┌──────┐|            │  B   │| "
+                      "||            ┌──────┐|            │  B   │|            └──────┘| "
+                      "||||| -4 +1 "
+                      "┌──────┐|│  B   │|└──────┘||| -1 ");
+    resize(24, 80);
 }
 
 TEST_F(DialogTest, PrimaryBackground)

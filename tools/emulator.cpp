@@ -57,8 +57,8 @@ void Emulator::attach()
         .damage =
             [](VTermRect rect, void* context) { // also for what stood there before
                 auto& self = *static_cast<Emulator*>(context);
-                for (int y = rect.start_row; y < rect.end_row; ++y)
-                    for (int x = rect.start_col; x < rect.end_col; ++x)
+                for (int y = rect.start_row; y < std::min(rect.end_row, self.rows_); ++y)
+                    for (int x = rect.start_col; x < std::min(rect.end_col, self.columns_); ++x)
                         ++self.painted_[static_cast<size_t>(y * self.columns_ + x)];
                 return 1;
             },
@@ -86,6 +86,14 @@ void Emulator::attach()
     vterm_screen_set_damage_merge(screen_, VTERM_DAMAGE_CELL);
     vterm_screen_enable_altscreen(screen_, 1);
     vterm_screen_reset(screen_, 1);
+}
+
+void Emulator::resize(int columns, int rows)
+{
+    columns_ = columns;
+    rows_ = rows;
+    mark();
+    vterm_set_size(emulator_.get(), rows, columns);
 }
 
 // What a byte stands for in the line drawing sets that the emulator does not know; else nothing.

@@ -43,6 +43,8 @@ public:
     Emulator(const Emulator&) = delete; // the callbacks hold its address
     Emulator& operator=(const Emulator&) = delete;
 
+    void resize(int columns, int rows); // what was there is kept as far as it fits
+
     void feed(std::string_view bytes);
     std::string takeAnswers(); // what a terminal says back to questions among the bytes so far
 

@@ -197,6 +197,15 @@ void Terminal::kill(int signal)
         ::kill(pid_, signal);
 }
 
+void Terminal::resize(int columns, int rows)
+{
+    winsize size{};
+    size.ws_col = static_cast<unsigned short>(columns);
+    size.ws_row = static_cast<unsigned short>(rows);
+    Emulator::resize(columns, rows);
+    checked(ioctl(tty_.get(), TIOCSWINSZ, &size), "TIOCSWINSZ");
+}
+
 void Terminal::hangUp()
 {
     line_.reset();

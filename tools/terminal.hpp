@@ -75,6 +75,7 @@ public:
     pid_t pid() const { return pid_; }
     bool running();
     void kill(int signal);
+    void resize(int columns, int rows);                // as a window does
     void hangUp();                                     // the line goes dead; the screen stays
     std::optional<int> wait(int deadline = kDeadline); // as from waitpid(); empty: still running
 

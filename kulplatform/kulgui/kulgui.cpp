@@ -5,7 +5,9 @@
 
 #include "gui/chain.hpp"
 #include "gui/edition.hpp"
+#include "gui/frame.hpp"
 #include "gui/keys.hpp"
+#include "gui/place.hpp"
 #include "gui/screen.hpp"
 #include "ui/handler.hpp"
 
@@ -229,12 +231,25 @@ int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnf
     configure(gui, {nColorStandard, nColorFocus, nColorUnfocus, nColorDisable}, szTitle, onFocus,
               onPoll, onUnfocus, onDestroy);
     SetVar(&gui.nBorder, nBorder);
-    SetVar(&gui.nX, nX);
-    SetVar(&gui.nY, nY);
-    SetVar(&gui.nWidth, nWidth);
-    SetVar(&gui.nHeight, nHeight);
+    kul::wantPlace(static_cast<kul::Dialog&>(gui), nX, nY, nWidth, nHeight);
     gui.nVisible = F;
     gui.winMain = nullptr;
+    return 0;
+}
+
+int kulgui_place(int nChain, int nX, int nY, int nWidth, int nHeight)
+{
+    CHAIN* chain = GetChain(nChain);
+    kul::Dialog* dialog = kul::findDialog(nChain);
+    if (!dialog || chain == GetPrimaryChain())
+        return -1;
+    const kul::Pass pass;
+    kul::wantPlace(*dialog, nX, nY, nWidth, nHeight);
+    kul::layOut(*dialog);
+    if (dialog->winMain) {
+        kul::redraw(chain);
+        kul::touchAll();
+    }
     return 0;
 }
 

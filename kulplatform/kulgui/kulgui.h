@@ -301,6 +301,16 @@ KULGUI_API int kulgui_config(int nChain, int nColorStandard, int nColorFocus, in
                              int nWidth, int nHeight, KULCALLBACK onFocus, KULCALLBACK onPoll,
                              KULCALLBACK onUnfocus, KULCALLBACK onDestroy, const char* szFilePath);
 
+/** Moves a dialog with what is in it, and gives it another size; its items and components stay
+ * where they are in it. nX, nY, nWidth, nHeight as for kulgui_config, KUL_KEEP for what it has.
+ * Returns 0, -1 for an unknown chain, one without dialog or the primary one. */
+KULGUI_API int kulgui_place(int nChain, int nX, int nY, int nWidth, int nHeight);
+
+/** Has onResize run when the screen has got another size, after the dialogs were fitted into it and
+ * before that is shown; NULL for none. It runs whether the dialog is shown or not, from the wait
+ * for a key. Returns 0, -1 for an unknown chain or one without dialog. */
+KULGUI_API int kulgui_setOnResize(int nChain, KULCALLBACK onResize);
+
 /** Opens the terminal if needed, shows the dialog if it never was, and runs it: the component in
  * focus gets the keys until the dialog is left. May be called from a callback. Returns KUL_LEFT
  * after kulgui_leave; -10000 when the dialog has no component to focus, its component or itself
@@ -321,6 +331,17 @@ KULGUI_API int kulgui_destroy(int nChain);
 
 /** Gives the terminal back. Frees no chain. Always 0. */
 KULGUI_API int kulgui_destroyAll(void);
+
+/** Gives the terminal back, runs a command by /bin/sh -c, and takes the terminal again if it was
+ * open; everything is as it was. Returns the command's wait status, -1 where it cannot be run or is
+ * NULL. */
+KULGUI_API int kulgui_run(const char* szCommand);
+
+/** The same in two steps, for a program that runs something itself. Meanwhile the terminal counts
+ * as closed: nothing is drawn, and kulgui_exec takes it again as kulgui_resume does. Both return 0,
+ * -1 when the terminal is not open, or was not suspended. */
+KULGUI_API int kulgui_suspend(void);
+KULGUI_API int kulgui_resume(void);
 
 /** These four do nothing and return 0. */
 KULGUI_API int kulgui_exit(void);

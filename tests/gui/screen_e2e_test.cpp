@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -248,6 +249,41 @@ TEST(Screen, StandsOutBold)
     ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
     EXPECT_TRUE(terminal.cell(1, 59).reverse && terminal.cell(1, 59).bold) << "the line below the title";
     EXPECT_FALSE(terminal.cell(3, 59).reverse || terminal.cell(3, 59).bold);
+}
+
+// Whatever happened before, a screen is that of a program which began at its size.
+TEST(Sizes, AreAsIfTheyHadBeenSoFromTheStart)
+{
+    const Launch launch = program("sizes", {__FILE__});
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.waitForText("Main"));
+    std::minstd_rand random(1);
+    const auto below = [&](int limit) { return 1 + static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    constexpr int kBetweenKeys = 23; // five times round the nine components
+    for (int step = 0; step < 45 * kBetweenKeys; ++step) {
+        terminal.resize(below(300), below(100));
+        if (step % kBetweenKeys == 0) {
+            terminal.press("\t");
+            ASSERT_TRUE(terminal.settle());
+        }
+        while (terminal.pump(0))
+            continue;
+    }
+    struct Size {
+        int columns, rows;
+    };
+    for (const Size size : {Size{80, 24}, {40, 9}, {20, 5}, {300, 100}, {2, 2}, {1, 1}, {60, 18}}) {
+        SCOPED_TRACE(size.columns);
+        Launch fresh = launch;
+        fresh.columns = size.columns;
+        fresh.rows = size.rows;
+        Terminal expected(fresh);
+        ASSERT_TRUE(expected.settle());
+        terminal.resize(size.columns, size.rows);
+        ASSERT_TRUE(terminal.settle());
+        EXPECT_EQ(terminal.text(), expected.text());
+        expectSameScreen(terminal, expected);
+    }
 }
 
 } // namespace

@@ -12,5 +12,7 @@ int poll(struct pollfd* lines, nfds_t count, int milliseconds)
 {
     const struct timespec limit = {milliseconds / 1000, milliseconds % 1000 * 1000000L};
     const struct timespec patience = {5, 0};
+    if (milliseconds < 0)
+        return ppoll(lines, count, NULL, NULL);
     return ppoll(lines, count, milliseconds < 50 ? &limit : &patience, NULL);
 }

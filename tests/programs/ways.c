@@ -6,6 +6,7 @@
  *   return    leaves the dialog; main returns 4 with the terminal open
  *   close     leaves the dialog; the program closes the terminal, prints "closed" and returns 5
  *   raise     as close, but sends itself a TERM before it returns
+ *   paint     as close, but has changed the terminal's palette
  *   again     as close, but first opens and closes the terminal once more, with an Enter between
  *   count     counts
  *   round     moves the focus between two buttons, each of which runs a dialog of its own first
@@ -16,10 +17,13 @@
  * and these change what the program does about signals:
  *   handler   its own handler for TERM ends it with 6
  *   ignore    INT is ignored
+ * or what it has:
+ *   starved   no memory from the time on when the terminal is to be opened
  * When the dialog ends by itself the program returns 10, without a usable terminal 11.
  */
 #include <kulgui.h>
 
+#include <dlfcn.h>
 #include <signal.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -58,6 +62,20 @@ static void addRound(void)
         kulbutton_config(MAIN, ref, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 9, 1, "round", goRound, NULL, NULL,
                          NULL);
 }
+
+static int hungry;
+static int starved;
+
+/* In place of the C library's, but not of a sanitizer's. */
+#ifndef __SANITIZE_ADDRESS__
+void* malloc(size_t size)
+{
+    static void* (*allocate)(size_t);
+    if (!allocate)
+        *(void**)&allocate = dlsym(RTLD_NEXT, "malloc");
+    return starved ? NULL : allocate(size);
+}
+#endif
 
 static void onTerminate(int number)
 {
@@ -113,6 +131,8 @@ static void click(void)
     }
     if (strcmp(way, "exit") == 0)
         exit(3);
+    if (strcmp(way, "paint") == 0)
+        init_color(COLOR_RED, 500, 500, 500);
     if (strcmp(way, "count") != 0)
         kulgui_leave(MAIN);
 }
@@ -124,6 +144,8 @@ int main(int argc, char** argv)
             signal(SIGTERM, onTerminate);
         else if (strcmp(argv[i], "ignore") == 0)
             signal(SIGINT, SIG_IGN);
+        else if (strcmp(argv[i], "starved") == 0)
+            hungry = 1;
         else
             way = argv[i];
     }
@@ -136,6 +158,7 @@ int main(int argc, char** argv)
     label();
     if (strcmp(way, "round") == 0)
         addRound();
+    starved = hungry;
     for (int rounds = strcmp(way, "again") == 0 ? 2 : 1; rounds > 0; --rounds) {
         const int opened = NCursesEnv(1);
         if (opened == 0)

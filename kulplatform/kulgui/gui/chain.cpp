@@ -10,9 +10,9 @@
 
 #include <climits>
 
-#include "frame.hpp"
 #include "marks.hpp"
 #include "memory.hpp"
+#include "place.hpp"
 #include "screen.hpp"
 
 namespace {
@@ -133,7 +133,7 @@ void emptyDialog(GUI* thisGUI)
     thisGUI->UserInterface = nullptr;
     wipeList(items, WipeAllDIComponents, true);
     wipeList(components, WipeAllUIComponents, false);
-    deleteWindows(thisGUI);
+    deleteWindows(*dialog);
 }
 
 void destroyChain(CHAIN* thisChain)

@@ -18,6 +18,19 @@ struct Requests {
 
 struct Mark;
 
+// A dialog's row or column on the screen: as the program wants it, and as the record was given it.
+struct Wish {
+    int nWanted;
+    int nGiven;
+};
+
+// A cell of a window.
+struct Cell {
+    int nY;
+    int nX;
+    bool operator==(const Cell&) const = default;
+};
+
 // A dialog as it is allocated: the public record and what steers its loop.
 struct Dialog : GUI {
     bool tabs;      // Tab and Escape leave every kind of component
@@ -27,6 +40,14 @@ struct Dialog : GUI {
     int nDefault;   // number of the button for Enter, -1 for none
     int nCancel;    // and for Escape
     KULCALLBACK onKey;
+    KULCALLBACK onResize;
+    bool resized; // to be told by it
+    Wish column;
+    Wish row;
+    WINDOW* view;  // what its panel shows while it is larger than the screen, else null
+    Cell part;     // where in its window that begins
+    Cell followed; // where the user was when that was last made to be seen
+    WINDOW* kept;  // its picture during a change of size
     void* user;
     Mark* marks;
 };

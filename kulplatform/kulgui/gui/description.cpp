@@ -4,6 +4,7 @@
 // bytes back they are not needed, and a terminal that needs them is not one of ours.
 #include "description.hpp"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -22,6 +23,21 @@ namespace kul {
 namespace {
 
 Codes now;
+
+unsigned paletteAtStart = 0;
+
+// A number that is another one, most likely, once a colour was changed.
+unsigned palette()
+{
+    unsigned nSum = 0;
+    for (short nColor = 0; can_change_color() && nColor < std::min(COLORS, 256); ++nColor) {
+        short parts[3] = {};
+        color_content(nColor, &parts[0], &parts[1], &parts[2]);
+        for (const short part : parts)
+            nSum = nSum * 31 + static_cast<unsigned>(part);
+    }
+    return nSum;
+}
 
 // Copies a string of the description without its pauses; false for none or one that is too long.
 bool strip(const char* szString, char* out, std::size_t room)
@@ -292,6 +308,16 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     flushCurses();
     beginUpdates();
     return screen;
+}
+
+void notePalette()
+{
+    paletteAtStart = palette();
+}
+
+bool isPaletteKept()
+{
+    return palette() == paletteAtStart;
 }
 
 } // namespace kul

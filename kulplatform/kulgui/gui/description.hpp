@@ -58,6 +58,11 @@ const Codes& codes();
 // The parameter for a colour from 8 on, until the next call.
 const char* colorParameter(bool foreground, int nColor);
 
+// Notes the palette once colours have begun; whether it still is what it was, and the program has
+// changed none of it.
+void notePalette();
+bool isPaletteKept();
+
 } // namespace kul
 
 #endif

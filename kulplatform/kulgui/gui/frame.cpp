@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// What a dialog stands on: its defaults, its window with a shadow one cell down and to the right,
-// its title, and the background of the primary dialog.
+// What a dialog stands on: its defaults, its frame with title and shadow, and the background of the
+// primary dialog.
 #include "frame.hpp"
 
 #include <algorithm>
 
 #include "chain.hpp"
 #include "edition.hpp"
+#include "place.hpp"
 #include "print.hpp"
 #include "screen.hpp"
 #include "text.hpp"
@@ -27,43 +28,6 @@ constexpr DefaultColors kDefaultColors[2][2] = {
      {RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN}},
     {{WHITE_BLUE, WHITE_BLUE, BLACK_WHITE, BLUE_WHITE},
      {BLACK_WHITE, WHITE_BLUE, BLACK_WHITE, BLUE_WHITE}}};
-
-constexpr int kShadowPair = GREEN_YELLOW;
-
-bool shadowsMade = false;
-int nKeptOrders = 0;
-
-// A window larger than the screen shows no more, and its memory is bounded.
-int limited(int n, int least)
-{
-    return std::clamp(n, least, std::max({512, LINES, COLS}));
-}
-
-// A window for a dialog, shifted by one cell or none. Sizes and places that curses would refuse or
-// read as "to the edge of the screen" are brought into range.
-WINDOW* newDialogWindow(const GUI& gui, int nShift)
-{
-    return newwin(limited(gui.nHeight, 1), limited(gui.nWidth, 1), limited(gui.nY, 0) + nShift,
-                  limited(gui.nX, 0) + nShift);
-}
-
-void makeWindows(GUI* thisGUI)
-{
-    thisGUI->winMain = newDialogWindow(*thisGUI, 0);
-    thisGUI->winShadow = newDialogWindow(*thisGUI, 1);
-    shadowsMade = true;
-    kul::defineShadow();
-    if (thisGUI->winMain && thisGUI->winShadow) {
-        thisGUI->pnlShadow = new_panel(thisGUI->winShadow);
-        thisGUI->pnlMain = new_panel(thisGUI->winMain);
-        // The cursor has no meaning in a dialog: do not spend bytes on moving it.
-        leaveok(thisGUI->winMain, TRUE);
-        leaveok(thisGUI->winShadow, TRUE);
-        touchwin(thisGUI->winShadow);
-    }
-    if (!thisGUI->pnlShadow || !thisGUI->pnlMain)
-        kul::deleteWindows(thisGUI);
-}
 
 void printTitle(WINDOW* win, int nX, int nColor, const char* szTitle)
 {
@@ -85,53 +49,24 @@ void printFrameTitle(const GUI& gui)
                       kul::Controls::Whole);
 }
 
-void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))
-{
-    for (PANEL* panel : {pnlShadow, pnlMain}) {
-        if (panel)
-            action(panel);
-    }
-}
-
 } // namespace
 
 namespace kul {
 
-KeptOrder::KeptOrder()
+void redraw(CHAIN* thisChain)
 {
-    ++nKeptOrders;
-}
-
-KeptOrder::~KeptOrder()
-{
-    --nKeptOrders;
-}
-
-void raisePanels(PANEL* pnlShadow, PANEL* pnlMain)
-{
-    if (nKeptOrders > 0 && pnlMain && !panel_hidden(pnlMain))
-        return;
-    const bool onTop = pnlMain && pnlShadow && !panel_hidden(pnlMain) && !panel_hidden(pnlShadow) &&
-                       !panel_above(pnlMain) && panel_below(pnlMain) == pnlShadow;
-    if (!onTop)
-        setPanels(pnlShadow, pnlMain, show_panel);
-}
-
-void defineShadow()
-{
-    if (shadowsMade)
-        init_pair(kShadowPair, COLOR_BLACK, COLOR_BLACK);
-}
-
-void deleteWindows(GUI* thisGUI)
-{
-    setPanels(thisGUI->pnlShadow, thisGUI->pnlMain, del_panel);
-    for (WINDOW* win : {thisGUI->winShadow, thisGUI->winMain}) {
-        if (win && win != stdscr)
-            delwin(win);
+    GUI& gui = *thisChain->Pointer;
+    const CURRENT& current = *GetCurrentSelection();
+    const Pass pass;
+    const KeptOrder order;
+    BackgroundDisplay(thisChain);
+    ShowDisplayComponents(&gui);
+    for (UI* ui = gui.UserInterface; ui; ui = ui->Next) {
+        if (current.nChain == thisChain->nRef && current.nUserInterface == ui->nRef)
+            ShowUIComponentFocused(&gui, ui);
+        else
+            ShowUIComponentUnfocused(&gui, ui);
     }
-    thisGUI->pnlShadow = thisGUI->pnlMain = nullptr;
-    thisGUI->winShadow = thisGUI->winMain = nullptr;
 }
 
 } // namespace kul
@@ -217,12 +152,12 @@ void DlgBox(GUI* thisGUI)
         return;
     kul::Pass pass;
     if (!thisGUI->winMain && stdscr)
-        makeWindows(thisGUI);
+        kul::makeWindows(thisGUI);
     const int nColor = thisGUI->nColorStandard;
     WinFill(thisGUI->winMain, nColor);
     // Nothing but this line draws into the shadow; untouched it still is what it was.
     if (is_wintouched(thisGUI->winShadow))
-        WinFill(thisGUI->winShadow, kShadowPair);
+        WinFill(thisGUI->winShadow, kul::kShadowPair);
     DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);
     printFrameTitle(*thisGUI);
     kul::raisePanels(thisGUI->pnlShadow, thisGUI->pnlMain);
@@ -243,7 +178,7 @@ void HideDlg(DLG* dialog)
     if (!dialog)
         return;
     kul::Pass pass;
-    setPanels(dialog->pnlShadow, dialog->pnlMain, hide_panel);
+    kul::hidePanels(dialog->pnlShadow, dialog->pnlMain);
     dialog->nVisible = F;
 }
 
@@ -270,7 +205,7 @@ void BackgroundDisplay(CHAIN* thisChain)
         return;
     }
     if (gui->winMain != stdscr)
-        kul::deleteWindows(gui);
+        kul::deleteWindows(static_cast<kul::Dialog&>(*gui));
     gui->winMain = stdscr;
     gui->nWidth = GetWindowWidth(stdscr);
     gui->nHeight = GetWindowHeight(stdscr);

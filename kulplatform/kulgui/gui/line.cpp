@@ -160,17 +160,45 @@ void noteOutside()
 void noteInside()
 {
     inside = currentModes();
+    prepareBytes();
+}
+
+void prepareBytes()
+{
     ownScreen = isString(tigetstr("rmcup"));
     captureAll(leaving, {"sgr0", "op", ownScreen ? "rmcup" : "clear", "cnorm"});
     // Without a second screen to leave, what was drawn is cleared away.
     if (!ownScreen)
         captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
-    captureAll(entering, {"smcup", "civis"});
+    captureAll(entering, {"smcup", "enacs", "civis"});
 }
 
-bool hasOwnScreen()
+void clearScreen()
 {
-    return ownScreen;
+    if (!ownScreen)
+        writeAll(leaving.text, leaving.size);
+}
+
+void enterScreen()
+{
+    writeAll(entering.text, entering.size);
+}
+
+void takeQuietly(int (*take)())
+{
+    const int nLine = dup(nOutput);
+    const int nNothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    sigset_t all;
+    sigset_t before;
+    sigfillset(&all);
+    sigprocmask(SIG_SETMASK, &all, &before); // handlers give the line back
+    const bool quiet = nLine != -1 && nNothing != -1 && dup2(nNothing, nOutput) == nOutput;
+    take();
+    if (quiet)
+        dup2(nLine, nOutput);
+    sigprocmask(SIG_SETMASK, &before, nullptr);
+    close(nLine);
+    close(nNothing);
 }
 
 void restoreFlags()

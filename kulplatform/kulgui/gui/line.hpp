@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The line to the terminal, below curses: its modes and flags, and bytes that go out. Signal
-// handlers use it too, so that all but writeAll() and prepareLine() is safe at any moment.
+// handlers use leaveLine() and enterLine().
 #ifndef KUL_GUI_LINE_HPP
 #define KUL_GUI_LINE_HPP
 
@@ -34,8 +34,9 @@ private:
 void noteOutside();
 
 // Notes the same of the open line, with the bytes that leave the screen and enter it again; curses
-// must have begun.
+// must have begun. The bytes depend on the size of the screen.
 void noteInside();
+void prepareBytes();
 
 // Whether line feeds and tabs go out as they are.
 struct Controls {
@@ -44,8 +45,15 @@ struct Controls {
 };
 Controls passingControls();
 
-// Whether leaving the screen brings back what was there before; else it has to be cleared.
-bool hasOwnScreen();
+// Clears the screen and leaves the cursor in its last row, unless leaving it brings back what was
+// there before.
+void clearScreen();
+
+// The bytes that enter it again.
+void enterScreen();
+
+// Does something through curses of which the terminal gets nothing, neither bytes nor modes.
+void takeQuietly(int (*take)());
 
 // Sets standard input's flags as they were found.
 void restoreFlags();

@@ -7,8 +7,8 @@
 #include <ctime>
 
 #include "chain.hpp"
-#include "frame.hpp"
 #include "keys.hpp"
+#include "place.hpp"
 #include "screen.hpp"
 
 namespace {

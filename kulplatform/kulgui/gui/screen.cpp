@@ -5,11 +5,12 @@
 
 #include "chain.hpp"
 #include "edition.hpp"
-#include "frame.hpp"
 #include "keys.hpp"
 #include "line.hpp"
+#include "place.hpp"
 #include "signals.hpp"
 #include "update.hpp"
+#include "view.hpp"
 
 namespace kul {
 
@@ -21,14 +22,11 @@ const OnTop* onTop = nullptr;
 Turn turn = Turn::Program;
 unsigned nChanges = 0;
 
-// Where the user is; without a window, nowhere.
-struct {
-    WINDOW* win;
-    int nY;
-    int nX;
-} user;
-
+User user;
+bool userTold = false; // by showCursorAt(); else the component alone is known
+int nKeyRead = 0;      // since the last update
 bool cursorSeen = false;
+bool repaintDue = false;
 
 // The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
 // above it, so that it can go out alone; the panel library would compare all that lies below too.
@@ -64,12 +62,15 @@ void raiseFocused()
 // Where the terminal's cursor is to stand; nowhere if the user is not seen.
 Place cursorPlace()
 {
+    if (!userTold || !user.win || !isEdition2())
+        return kNowhere;
+    Cell cell = user.cell;
+    WINDOW* win = shownAt(user.win, cell);
     PANEL* top = panel_below(nullptr);
-    if (!user.win || user.win != (top ? panel_window(top) : stdscr))
+    if (win != (top ? panel_window(top) : stdscr) || cell.nY < 0 || cell.nY >= getmaxy(win) ||
+        cell.nX < 0 || cell.nX >= getmaxx(win))
         return kNowhere;
-    if (user.nY < 0 || user.nY >= getmaxy(user.win) || user.nX < 0 || user.nX >= getmaxx(user.win))
-        return kNowhere;
-    const Place place{getbegy(user.win) + user.nY, getbegx(user.win) + user.nX};
+    const Place place{getbegy(win) + cell.nY, getbegx(win) + cell.nX};
     return place.nY < LINES && place.nX < COLS ? place : kNowhere;
 }
 
@@ -107,9 +108,12 @@ void update()
 {
     if (!stdscr || isendwin())
         return;
+    const bool anew = repaintDue || resumed(); // the terminal shows something else now
     raiseFocused();
-    const bool anew = resumed(); // the terminal shows something else now, and no cursor
+    showParts(user, nKeyRead);
+    nKeyRead = 0;
     forgetResumed();
+    repaintDue = false;
     if (anew) {
         clearok(curscr, TRUE);
         forgetTerminal();
@@ -184,13 +188,40 @@ void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows)
 
 void showCursorAt(WINDOW* win, int nY, int nX)
 {
-    if (isEdition2())
-        user = {win, nY, nX};
+    if (user.win != win)
+        user = {win, {}, {nY, nX}, 1, 1};
+    user.cell = {nY, nX};
+    userTold = true;
+}
+
+void showComponent(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
+{
+    user = {win, {nY, nX}, {nY, nX}, nHeight, nWidth};
+    userTold = false;
 }
 
 void forgetCursor()
 {
     user = {};
+    userTold = false;
+}
+
+void noteKey(int nKey)
+{
+    nKeyRead = nKey;
+}
+
+void touchAll()
+{
+    touchwin(stdscr);
+    for (PANEL* panel = panel_above(nullptr); panel; panel = panel_above(panel))
+        touchwin(panel_window(panel));
+}
+
+void paintAnew()
+{
+    touchAll();
+    repaintDue = true;
 }
 
 } // namespace kul

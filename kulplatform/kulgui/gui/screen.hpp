@@ -59,13 +59,24 @@ private:
 // may scroll them. A hint, which changes nothing of what is shown.
 void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows);
 
-// Where the user is, told by the draw function of the component that has the focus: the terminal's
-// own cursor stands there from the next update on, as long as the cell is seen and the window is
-// that of the dialog above all others. Does nothing in edition 1, which has no cursor.
+// Where the component is that has the focus, and the user in it, told while it is drawn. In edition
+// 2 the terminal's own cursor stands there from the next update on, as long as the cell is seen and
+// the window is that of the dialog above all others. Of a dialog larger than the screen that part
+// is shown, in both editions.
+void showComponent(WINDOW* win, int nY, int nX, int nHeight, int nWidth);
 void showCursorAt(WINDOW* win, int nY, int nX);
 
 // Before the dialog in focus is drawn: nobody has told yet, and the cursor is hidden.
 void forgetCursor();
+
+// A key that goes to a component: where it changes nothing it may move the part that is shown.
+void noteKey(int nKey);
+
+// Has the next update look at every cell.
+void touchAll();
+
+// Has the next update paint all of the terminal.
+void paintAnew();
 
 } // namespace kul
 

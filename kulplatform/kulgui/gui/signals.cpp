@@ -20,17 +20,19 @@ namespace {
 
 // Those that neither end nor stop a process by default, that cannot be caught, or that tell a
 // process in the background to keep off the terminal.
-constexpr int kLeftAlone[] = {SIGKILL, SIGSTOP, SIGCHLD, SIGURG, SIGWINCH, SIGTTIN, SIGTTOU};
+constexpr int kLeftAlone[] = {SIGKILL, SIGSTOP, SIGCHLD, SIGURG, SIGTTIN, SIGTTOU};
 
 bool ours[NSIG];
 volatile sig_atomic_t nResumed = 0;
 volatile sig_atomic_t nAway = 0; // given back to be stopped
+volatile sig_atomic_t nResized = 0;
 volatile pid_t owner = 0;
 alignas(16) char spareStack[16384];
 
 void onEnding(int nSignal);
 void onStop(int nSignal);
 void onContinue(int nSignal);
+void onSize(int nSignal);
 
 using Action = void (*)(int);
 
@@ -43,6 +45,8 @@ Action actionOf(int nSignal)
     }
     if (nSignal == SIGTSTP)
         return onStop;
+    if (nSignal == SIGWINCH)
+        return onSize;
     return nSignal == SIGCONT ? onContinue : onEnding;
 }
 
@@ -121,6 +125,11 @@ void onContinue(int)
     errno = nError;
 }
 
+void onSize(int)
+{
+    nResized = 1;
+}
+
 } // namespace
 
 void findSignals()
@@ -174,6 +183,13 @@ bool resumed()
 void forgetResumed()
 {
     nResumed = 0;
+}
+
+bool takeSizeSignal()
+{
+    const bool result = nResized != 0;
+    nResized = 0;
+    return result;
 }
 
 } // namespace kul

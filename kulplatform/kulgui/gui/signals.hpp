@@ -23,6 +23,9 @@ bool isOwner();
 bool resumed();
 void forgetResumed();
 
+// Whether the terminal was told to have another size; forgets it.
+bool takeSizeSignal();
+
 } // namespace kul
 
 #endif

@@ -11,66 +11,95 @@
 
 #include "../kulgui.h"
 #include "description.hpp"
-#include "frame.hpp"
 #include "line.hpp"
+#include "place.hpp"
+#include "resize.hpp"
 #include "screen.hpp"
 #include "signals.hpp"
 
 namespace {
 
+enum class State { Closed, Suspended, Open };
+
 int nEnvSetting = F;
-bool isOpen = false;
+State state = State::Closed;
 
 // Ends curses' hold on the terminal; the descriptor's flags are the caller's.
-void closeScreen()
+void leaveScreen(State next)
 {
     const kul::Blocking blocking;
-    isOpen = false;
+    state = next;
     echo();
-    wclear(stdscr);
-    if (!kul::hasOwnScreen()) {
-        wnoutrefresh(stdscr);
-        doupdate();
-    }
+    kul::clearScreen();
     endwin();
     kul::giveBackSignals();
 }
 
+void closeScreen()
+{
+    leaveScreen(State::Closed);
+    wclear(stdscr);
+}
+
 void closeAtExit()
 {
-    if (!isOpen || !kul::isOwner())
+    if (state != State::Open || !kul::isOwner())
         return;
     closeScreen();
     kul::restoreFlags();
     nEnvSetting = F;
 }
 
-// Makes curses' screen on first use, takes it again later.
-bool startScreen()
+// The panel library makes a panel of its own with the first one, and ends the process without
+// memory.
+void makeHiddenPanel()
 {
-    if (stdscr) {
-        if (isendwin()) {
-            clearok(curscr, TRUE);
-            doupdate();
-        }
-        return true;
-    }
-    return isatty(STDOUT_FILENO) && kul::openScreen(nullptr, stdout, stdin) &&
-           def_prog_mode() == OK;
+    WINDOW* win = newwin(1, 1, 0, 0);
+    if (PANEL* panel = win ? new_panel(win) : nullptr)
+        del_panel(panel);
+    if (win)
+        delwin(win);
+}
+
+// Curses ends the process for some of what it cannot have memory for as it begins.
+bool startCurses()
+{
+    if (!isatty(STDOUT_FILENO) || !kul::hasMemoryFor(kul::terminalSize()) ||
+        !kul::openScreen(nullptr, stdout, stdin))
+        return false;
+    kul::startSize();
+    start_color();
+    kul::notePalette();
+    makeHiddenPanel();
+    return def_prog_mode() == OK;
+}
+
+// Has curses take the terminal again. It would reset the palette although nothing has changed it.
+void resumeCurses()
+{
+    if (kul::isPaletteKept())
+        kul::takeQuietly(doupdate);
+    else
+        doupdate();
+    kul::enterScreen();
+    kul::paintAnew();
+    kul::fitScreen();
 }
 
 // Whether curses is ready on the terminal, in our modes.
 bool beginScreen()
 {
     const kul::Blocking blocking;
-    if (!startScreen())
+    if (!stdscr && !startCurses())
         return false;
-    wclear(stdscr);
+    if (isendwin())
+        resumeCurses();
+    if (state != State::Suspended)
+        wclear(stdscr);
     leaveok(stdscr, TRUE);
     noecho();
     raw();
     curs_set(0);
-    start_color();
     InitializeColorSets();
     kul::defineShadow();
     return true;
@@ -80,10 +109,12 @@ bool beginScreen()
 
 bool kul::lookAtTerminal()
 {
-    if (!resumed())
+    if (state != State::Open || !isSizeDue())
         return false;
-    const Pass pass; // its update paints everything
-    return true;
+    const bool anew = fitScreen() || resumed();
+    const Pass pass;
+    runOnResize();
+    return anew;
 }
 
 int NCursesEnv(int nRef)
@@ -101,16 +132,16 @@ int NCursesEnv(int nRef)
 int SetupGUIEnvironment()
 {
     static bool atExit = false;
-    const bool wasOpen = isOpen;
-    if (!wasOpen) {
+    const bool wasOpen = state == State::Open;
+    if (state == State::Closed)
         kul::noteOutside();
+    if (!wasOpen)
         kul::findSignals();
-    }
     if (!beginScreen())
         return -1;
     fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK);
     kul::noteInside();
-    isOpen = true;
+    state = State::Open;
     if (!wasOpen)
         kul::takeSignals();
     if (!atExit)
@@ -121,8 +152,9 @@ int SetupGUIEnvironment()
 int EndGUIEnvironment()
 {
     fcntl(STDIN_FILENO, F_SETFL, O_APPEND);
-    if (isOpen)
+    if (state == State::Open)
         closeScreen();
+    state = State::Closed;
     return 0;
 }
 
@@ -136,4 +168,33 @@ int InitializeColorSets()
         }
     }
     return 0;
+}
+
+int kulgui_suspend()
+{
+    if (state != State::Open)
+        return -1;
+    leaveScreen(State::Suspended);
+    kul::restoreFlags();
+    nEnvSetting = F;
+    return 0;
+}
+
+int kulgui_resume()
+{
+    if (state != State::Suspended)
+        return -1;
+    const kul::Pass pass; // its update paints everything
+    return NCursesEnv(1);
+}
+
+int kulgui_run(const char* szCommand)
+{
+    if (!szCommand)
+        return -1;
+    const bool wasOpen = kulgui_suspend() == 0;
+    const int nStatus = std::system(szCommand);
+    if (wasOpen)
+        kulgui_resume();
+    return nStatus;
 }

@@ -7,6 +7,7 @@
 #include "../gui/draw.hpp"
 #include "../gui/edition.hpp"
 #include "../gui/marks.hpp"
+#include "../gui/screen.hpp"
 #include "button.hpp"
 #include "descrmenu.hpp"
 #include "dynmenu.hpp"
@@ -98,6 +99,10 @@ void show(GUI* gui, UI* ui, bool focused)
     if (dialog && kul::isDisabled(*dialog, *ui)) {
         showDisabled(gui, *kind, ui->Pointer);
         return;
+    }
+    if (focused) {
+        const kul::Area area = kind->area(ui->Pointer);
+        kul::showComponent(gui->winMain, area.nY, area.nX, area.nHeight, area.nWidth);
     }
     {
         const int nColor = focused ? kind->focusColor(ui->Pointer) : kul::FocusMark::kNone;

@@ -157,8 +157,10 @@ int HandlerBase::key(bool (*goOn)(const GUI&, const void* record))
             break;
         const int nKey = nextKey();
         const int nLeft = nKey != 0 && !isOver() ? navigate(nKey) : 0;
-        if (nLeft != 0)
+        if (nLeft != 0) {
+            noteKey(nLeft);
             return nLeft;
+        }
     }
     return 0;
 }
