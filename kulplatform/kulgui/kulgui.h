@@ -2066,7 +2066,8 @@ KULGUI_API void FillString(char* szBuffer, int nLength, char cOneChar);
  * A text is wrapped to rows of nWidth columns. A row ends at a newline, or when it is full: the
  * word that it cuts then starts the next row, even one that ends with the row, unless the row's
  * last column holds a space. A word that is as long as a row is taken off from its front, an empty
- * row for each character, until the rest fits. A width below 1 gives no rows.
+ * row for each character, until the rest fits; in edition 2 one with a letter beyond ASCII breaks
+ * between letters, and all of it is shown. A width below 1 gives no rows.
  */
 
 /** A place in a list of starts of lines. */
@@ -2103,7 +2104,9 @@ KULGUI_API int ReturnLineStart(const char* szText, int nStart, int nLength);
 /** Index of the last character of a line at nStart that has nLength columns: the end of a text
  * shorter than nLength or than what is left, else the first newline, else where a word ends with
  * the line, else the space before the word that is cut, nStart without one. Where a blank follows
- * the line, blanks at its end are left out. -1 for a start outside of the text. */
+ * the line, blanks at its end are left out. -1 for a start outside of the text. Indexes are bytes,
+ * nLength is columns; a word that fills the line and has a letter beyond ASCII is cut where the
+ * line is full (edition 2). */
 KULGUI_API int ReturnLineEnd(const char* szText, int nStart, int nLength);
 
 /** Distance from nStart to the next newline; -1 for none, or when its index is above nLength. */

@@ -114,13 +114,6 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text);
 // characters are printed as curses does it.
 void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter);
 
-// Length of a text as an int, however long.
-inline int length(const char* szText)
-{
-    const std::size_t size = std::strlen(szText);
-    return size < INT_MAX ? static_cast<int>(size) : INT_MAX;
-}
-
 } // namespace kul
 
 #endif

@@ -213,8 +213,7 @@ std::string_view cutText(const char* szText, long long nColumns)
 
 std::string_view viewOf(const char* szText)
 {
-    return szText ? std::string_view(szText, static_cast<std::size_t>(length(szText)))
-                  : std::string_view();
+    return szText ? std::string_view(szText, strnlen(szText, INT_MAX)) : "";
 }
 
 int lineStart(std::string_view text, int nStart, int nLength)
