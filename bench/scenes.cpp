@@ -90,7 +90,7 @@ void buildMenu(int nElements)
 void buildChecks(int nElements)
 {
     kulcheckbox_create(kDialog, 1);
-    kulcheckbox_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 30, 10, BORDER, nullptr,
+    kulcheckbox_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 1, 30, 12, BORDER, nullptr,
                        nullptr, nullptr, nullptr);
     for (int i = 0; i < nElements; ++i)
         kulcheckbox_addElement(kDialog, 1, elementText(i).c_str(), 0, 1, nullptr, nullptr);
@@ -99,7 +99,7 @@ void buildChecks(int nElements)
 void buildOptions(int nElements)
 {
     kuloptions_create(kDialog, 1);
-    kuloptions_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, 30, 10, BORDER, 0, 0, nullptr,
+    kuloptions_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 1, 30, 12, BORDER, 0, 0, nullptr,
                       nullptr, nullptr, nullptr);
     for (int i = 0; i < nElements; ++i)
         kuloptions_addElement(kDialog, 1, elementText(i).c_str(), 1, nullptr, nullptr);

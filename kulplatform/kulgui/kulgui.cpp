@@ -123,6 +123,16 @@ bool isEnd(int nResult)
     return nResult == -10000 || nResult == KUL_LEFT || nResult == KUL_CANCELLED;
 }
 
+// At the end of a dialog over another one that has waited: draws the component that has the focus
+// there again. When the upper one goes, what it uncovers is right, and nothing is sent twice.
+void showBelow(const CURRENT& below)
+{
+    GUI* gui = kul::findDialog(below.nChain);
+    UI* ui = gui ? GetUIComponentByRef(below.nChain, below.nUserInterface) : nullptr;
+    if (ui && gui->nVisible == T && gui->winMain && kul::waitsBelow(below.nChain))
+        ShowUIComponentFocused(gui, ui);
+}
+
 // Runs the handler of the component in focus, once. nStill counts components in a row that did not
 // wait for a key, being hidden for instance: when it reaches all of them, this waits, or the loop
 // would spin without a key or a poll.
@@ -264,6 +274,7 @@ int kulgui_exec(int nChain)
     }
     const int nBefore = GetActiveChain();
     CURRENT* selection = GetCurrentSelection();
+    const CURRENT below = *selection;
     const kul::Pass pass;
     const kul::Loop loop(nChain);
     SetActiveChain(nChain);
@@ -275,6 +286,7 @@ int kulgui_exec(int nChain)
     ExecuteUnfocusFunction(kul::findDialog(nChain));
     SetActiveChain(nBefore);
     SetCurrentSelection(selection);
+    showBelow(below);
     return nResult;
 }
 

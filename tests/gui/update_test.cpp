@@ -164,6 +164,8 @@ private:
     {
         constexpr chtype kSome[] = {A_REVERSE, A_BOLD,   A_UNDERLINE,        A_STANDOUT,
                                     A_BLINK,   A_ITALIC, A_REVERSE | A_BOLD, A_DIM};
+        if (below(100) == 0)
+            return A_HORIZONTAL | A_BOLD; // curses alone knows what that is
         const int nPairs = COLORS >= 256 ? kPairs + kMorePairs : kPairs;
         const chtype pair = static_cast<chtype>(COLOR_PAIR(below(nPairs)));
         return below(3) ? pair : pair | kSome[below(8)];

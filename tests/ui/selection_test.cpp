@@ -65,8 +65,7 @@ const Kind kKinds[] = {
     {"description menu",
      [](int nRef, int, int) {
          kuldescrmenu_create(1, nRef);
-         kuldescrmenu_config(1, nRef, kSame, kSame, kSame, kSame, kSame, 30, 20, 8, nullptr, nullptr, nullptr,
-                             nullptr);
+         kuldescrmenu_config(1, nRef, kSame, kSame, kSame, kSame, kSame, 30, 20, 8, nullptr, nullptr, nullptr, nullptr);
          for (int i = 0; i < 3; ++i)
              kuldescrmenu_addElement(1, nRef, 1, element(i).c_str(), "what it means\nand more", nullptr, nullptr);
      }},
@@ -103,8 +102,8 @@ protected:
 // Two of a kind, one over the other in part, a text that lies across both, and keys at random.
 TEST_P(PartsTest, AreEnough)
 {
-    constexpr int kKeys[] = {KS_UP,   KS_DOWN, KS_LEFT,  KS_RIGHT, KS_DOWN, KS_RIGHT, KS_ENTER, KS_SPACE,
-                             KS_HOME, KS_END,  KS_PAGEUP, 'x',     'b',     KS_TAB,   KS_BACKSPACE};
+    constexpr int kKeys[] = {KS_UP,   KS_DOWN, KS_LEFT,   KS_RIGHT, KS_DOWN, KS_RIGHT, KS_ENTER,    KS_SPACE,
+                             KS_HOME, KS_END,  KS_PAGEUP, 'x',      'b',     KS_TAB,   KS_BACKSPACE};
     std::mt19937 numbers(1);
     for (const Kind& kind : kKinds) {
         for (const int nY : {1, 4}) {

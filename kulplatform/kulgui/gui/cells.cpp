@@ -22,6 +22,17 @@ constexpr attr_t kCommonAttributes = A_STANDOUT | A_UNDERLINE | A_REVERSE | A_BL
 static_assert(A_STANDOUT == 1U << 16 && A_BOLD == 1U << 21 && A_INVIS == 1U << 23 &&
               A_PROTECT == 1U << 24 && A_ITALIC == 1U << 31);
 
+// How cells look that were asked for in this update: there are few looks in a row.
+struct Look {
+    bool known;
+    attr_t attributes;
+    int nPair;
+    bool shown;
+    Style style;
+};
+constexpr unsigned kLooks = 16;
+Look looks[kLooks];
+
 // In the order of Codes.
 unsigned numbered(attr_t attributes)
 {
@@ -151,11 +162,6 @@ bool isSameLetter(const ScreenCell& one, const ScreenCell& other)
            ((one.attr ^ other.attr) & (A_ALTCHARSET | A_CHARTEXT)) == 0;
 }
 
-bool isSame(const ScreenCell& one, const ScreenCell& other)
-{
-    return one.attr == other.attr && one.ext_color == other.ext_color && isSameLetter(one, other);
-}
-
 // Curses marks the columns of a wide letter by numbers from 1 on.
 bool isTail(const ScreenCell& cell)
 {
@@ -204,11 +210,6 @@ bool isSameLetter(const ScreenCell& one, const ScreenCell& other)
     return ((one ^ other) & (A_ALTCHARSET | A_CHARTEXT)) == 0;
 }
 
-bool isSame(const ScreenCell& one, const ScreenCell& other)
-{
-    return one == other;
-}
-
 bool isTail(const ScreenCell&)
 {
     return false;
@@ -235,12 +236,22 @@ bool isLine(const ScreenCell& cell)
 
 bool lookOf(const ScreenCell& cell, Style& style)
 {
-    const attr_t attributes = attributesOf(cell);
-    style = {};
-    if (attributes & ~kCommonAttributes)
-        return false;
-    style.attributes = numbered(attributes);
-    return colorsOf(pairOf(cell), style);
+    const attr_t attributes = attributesOf(cell) & ~static_cast<attr_t>(A_CHARTEXT | A_ALTCHARSET);
+    const int nPair = pairOf(cell);
+    Look& look = looks[(static_cast<unsigned>(nPair) ^ attributes >> 17) % kLooks];
+    if (!look.known || look.attributes != attributes || look.nPair != nPair) {
+        look = {true, attributes, nPair, false, {}};
+        look.style.attributes = numbered(attributes);
+        look.shown = !(attributes & ~kCommonAttributes) && colorsOf(nPair, look.style);
+    }
+    style = look.style;
+    return look.shown;
+}
+
+void forgetLooks()
+{
+    for (Look& look : looks)
+        look.known = false;
 }
 
 } // namespace kul

@@ -37,8 +37,20 @@ private:
 // As curses has it for a screen with nothing on it.
 ScreenCell blankCell();
 
+// The same letter, whatever it looks like.
+bool isSameLetter(const ScreenCell& one, const ScreenCell& other);
+
 // Exactly the same for curses.
-bool isSame(const ScreenCell& one, const ScreenCell& other);
+inline bool isSame(const ScreenCell& one, const ScreenCell& other)
+{
+#if NCURSES_WIDECHAR
+    return one.attr == other.attr && one.ext_color == other.ext_color &&
+           one.chars[0] == other.chars[0] && one.chars[1] == other.chars[1] &&
+           (one.chars[1] == 0 || isSameLetter(one, other));
+#else
+    return one == other;
+#endif
+}
 
 // The second half of a wide letter.
 bool isTail(const ScreenCell& cell);
@@ -49,11 +61,11 @@ wchar_t letterOf(const ScreenCell& cell);
 // Whether its letter is one of the second alphabet.
 bool isLine(const ScreenCell& cell);
 
-// The same letter, whatever it looks like.
-bool isSameLetter(const ScreenCell& one, const ScreenCell& other);
-
 // How a cell looks; false where only curses knows.
 bool lookOf(const ScreenCell& cell, Style& style);
+
+// Before an update: the program may have changed the colours of pairs.
+void forgetLooks();
 
 // The bytes of a letter of the first alphabet, 0 if it cannot be written.
 constexpr int kMostBytes = 40;

@@ -29,7 +29,12 @@ bool isErasable(const ScreenCell& cell, const Style& style)
 
 bool Painter::paint()
 {
-    for (int x = 0; x < COLS;) {
+    nLast_ = COLS - 1;
+    while (nLast_ >= 0 && isSame(next_[nLast_], seen_[nLast_]))
+        --nLast_;
+    while (nFirst_ < nLast_ && isSame(next_[nFirst_], seen_[nFirst_]))
+        ++nFirst_;
+    for (int x = nFirst_; x <= nLast_;) {
         if (!differs(x)) {
             ++x;
             continue;
@@ -57,6 +62,7 @@ bool Painter::differs(int nX) const
 // The column behind the last one before nEnd that differs.
 int Painter::lastChange(int nX, int nEnd) const
 {
+    nEnd = std::min(nEnd, nLast_ + 1);
     while (nEnd > nX && !differs(nEnd - 1))
         --nEnd;
     return nEnd;
@@ -120,7 +126,7 @@ int Painter::erase(int nX, const Style& style)
         pen_.eraseRow();
         return nCount;
     }
-    const int nBack = lastChange(nEnd, COLS) > nEnd ? 3 + digits(nCount) : 0;
+    const int nBack = nLast_ >= nEnd ? 3 + digits(nCount) : 0;
     if (!codes().erasesCells || nCount <= 3 + digits(nCount) + nBack)
         return 0;
     pen_.wear(style);
@@ -132,7 +138,8 @@ int Painter::erase(int nX, const Style& style)
 // is left out, behind which terminals differ.
 int Painter::repeat(int nX, char letter)
 {
-    if (!codes().repeats)
+    constexpr int kLeast = 6;
+    if (!codes().repeats || nX + kLeast >= COLS || !isSame(next_[nX], next_[nX + kLeast - 1]))
         return 0;
     const int nEnd = std::min(nX + runOf(nX), COLS - 1);
     const int nCount = lastChange(nX, nEnd) - nX;

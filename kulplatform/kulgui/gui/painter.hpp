@@ -20,6 +20,10 @@ public:
     // False where only curses knows how to show a cell.
     bool paint();
 
+    // The columns from the first to the last one that differ for curses; none if the last is lower.
+    int firstChanged() const { return nFirst_; }
+    int lastChanged() const { return nLast_; }
+
 private:
     bool differs(int nX) const;
     int lastChange(int nX, int nEnd) const;
@@ -36,6 +40,8 @@ private:
 
     Pen& pen_;
     int nY_;
+    int nFirst_ = 0;
+    int nLast_ = -1;
     const ScreenRow& next_;
     const ScreenRow& seen_;
 };

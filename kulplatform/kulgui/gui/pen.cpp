@@ -276,6 +276,13 @@ void Pen::wear(const Style& style)
     if (style == style_)
         return;
     const Short less = changed(style_, style);
+    const bool added =
+        !(style_.attributes & ~style.attributes) && style.foreground >= 0 && style.background >= 0;
+    if (added) { // and nothing to switch off, which would be longer
+        add(less.text());
+        style_ = style;
+        return;
+    }
     const Short all = anew(style);
     const bool offFirst = all.size() < less.size();
     if (offFirst && codes().fontIsAttribute)

@@ -74,6 +74,12 @@ Place cursorPlace()
     return place.nY < LINES && place.nX < COLS ? place : kNowhere;
 }
 
+// While the program has a turn the cursor is not hidden: it may be needed again at once.
+bool isCursorSeen(Place place)
+{
+    return place != kNowhere || (cursorSeen && turn == Turn::Program);
+}
+
 void showCursor(bool seen)
 {
     const Blocking blocking;
@@ -84,7 +90,7 @@ void showCursor(bool seen)
 // Updates the terminal; its cursor goes where the user is, and is seen only while it stands there.
 void send(Place place)
 {
-    const bool seen = place != kNowhere;
+    const bool seen = isCursorSeen(place);
     if (cursorSeen && !seen)
         showCursor(false);
     updateTerminal(place, turn == Turn::Program);
@@ -123,7 +129,7 @@ void update()
         compose();
     const Place place = cursorPlace();
     // What was drawn may be what was there before.
-    if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorSeen != (place != kNowhere) ||
+    if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorSeen != isCursorSeen(place) ||
         movesCursor(place, turn == Turn::Program))
         send(place);
 }
@@ -184,6 +190,16 @@ void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows)
     const int nLast = std::min(nBottom, getmaxy(win) - 1);
     if (nFirst < nLast)
         expectScroll(getbegy(win) + nFirst, getbegy(win) + nLast, nRows);
+}
+
+bool waitsBelow(int nChain)
+{
+    const OnTop* other = onTop;
+    while (other && other->chain() == onTop->chain())
+        other = other->outer();
+    while (other && other->chain() != nChain)
+        other = other->outer();
+    return other;
 }
 
 void showCursorAt(WINDOW* win, int nY, int nX)

@@ -49,6 +49,7 @@ public:
     OnTop(const OnTop&) = delete;
     OnTop& operator=(const OnTop&) = delete;
     int chain() const { return nChain_; }
+    const OnTop* outer() const { return outer_; }
 
 private:
     int nChain_;
@@ -58,6 +59,9 @@ private:
 // Says that rows of a window have moved up by so many, or down for a number below 0: the terminal
 // may scroll them. A hint, which changes nothing of what is shown.
 void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows);
+
+// Whether a loop or handler of this dialog waits below the one that runs now.
+bool waitsBelow(int nChain);
 
 // Where the component is that has the focus, and the user in it, told while it is drawn. In edition
 // 2 the terminal's own cursor stands there from the next update on, as long as the cell is seen and

@@ -290,8 +290,14 @@ void NewStrToBox(WINDOW* win, int nXPos, int nYPos, int nWidth, int nHeight, int
     }
 }
 
+// A plain text that fits is one row, and most are.
 int GetWrapTextHeight(int nWidth, const char* szText)
 {
+    int nPlain = 0;
+    while (szText && nPlain < nWidth && kul::isPlain(szText[nPlain]))
+        ++nPlain;
+    if (nPlain > 0 && nPlain < nWidth && szText[nPlain] == '\0')
+        return 1;
     int nRows = 0;
     for (kul::RowWalk walk(szText, nWidth); walk.next();)
         nRows = kul::shifted(nRows, 1);

@@ -24,6 +24,10 @@ constexpr int kMark = static_cast<int>(A_PROTECT | A_INVIS | A_BLINK | A_DIM);
 Pen pen;
 ScreenRow next; // as it is to be
 ScreenRow seen; // as the terminal shows it
+int nFirstDue;  // rows that were looked at
+int nLastDue;
+int nFirstChanged; // columns that differ for curses in any row
+int nLastChanged;
 Place cursor = kNowhere;
 Place believed = kNowhere; // where curses takes it to be
 Style worn;
@@ -56,8 +60,8 @@ bool isScrolled(int nY)
 
 bool isDue(int nY)
 {
-    return isCleared() || isScrolled(nY) || is_linetouched(newscr, nY) ||
-           is_linetouched(curscr, nY);
+    return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isScrolled(nY) ||
+           isCleared();
 }
 
 // As curses leaves the terminal after an update.
@@ -139,15 +143,27 @@ bool readSeen(int nY)
 bool paintRows()
 {
     const bool cleared = isCleared();
+    nFirstDue = LINES;
+    nLastDue = -1;
+    nFirstChanged = COLS;
+    nLastChanged = -1;
     paintScroll();
+    if (scrolled != Scroll{}) {
+        nFirstChanged = 0;
+        nLastChanged = COLS - 1;
+    }
     if (cleared && !paintClear())
         return false;
     for (int y = 0; y < LINES; ++y) {
         if (!isDue(y))
             continue;
-        if (!next.read(newscr, y) || (!cleared && !readSeen(y)) ||
-            !Painter(pen, y, next, seen).paint())
+        nFirstDue = std::min(nFirstDue, y);
+        nLastDue = y;
+        Painter painter(pen, y, next, seen);
+        if (!next.read(newscr, y) || (!cleared && !readSeen(y)) || !painter.paint())
             return false;
+        nFirstChanged = std::min(nFirstChanged, painter.firstChanged());
+        nLastChanged = std::max(nLastChanged, painter.lastChanged());
     }
     return true;
 }
@@ -155,10 +171,11 @@ bool paintRows()
 // Tells curses what the terminal shows now.
 void note()
 {
-    for (int y = 0; y < LINES; ++y) {
+    for (int y = nFirstDue; y <= nLastDue; ++y) {
         if (!isDue(y))
             continue;
-        copywin(newscr, curscr, y, 0, y, 0, y, COLS - 1, FALSE);
+        if (nFirstChanged <= nLastChanged)
+            copywin(newscr, curscr, y, nFirstChanged, y, nFirstChanged, y, nLastChanged, FALSE);
         wtouchln(newscr, y, 1, 0);
         wtouchln(curscr, y, 1, 0);
     }
@@ -169,6 +186,7 @@ void note()
 void startPen()
 {
     const Controls controls = passingControls();
+    forgetLooks();
     pen.start(cursor, worn, controls.feeds, controls.tabs);
 }
 

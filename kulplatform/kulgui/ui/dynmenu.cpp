@@ -57,6 +57,13 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
     }
     if (!kul::isDrawn(win, nY))
         return;
+    const std::string_view text(szText);
+    if (nX >= 0 && std::all_of(text.begin(), text.end(), kul::isPlain)) {
+        kul::plainRun(
+            win, nY, nX,
+            {szText, std::min(text.size(), static_cast<std::size_t>(std::max(nEnd - nX, 0)))});
+        return;
+    }
     bool shown = false; // the letter that an accent goes to
     for (int nAt = nX; *szText && nAt < nEnd;) {
         const Print print = nextPrint(szText);
