@@ -171,42 +171,13 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
             const FilePlace place = starts[i];
             const FilePlace next = i + 1 < starts.size() ? starts[i + 1] : text->size();
             ASSERT_EQ(rows.rowOf(place + static_cast<FilePlace>(random()) % (next - place)), place);
-            ASSERT_EQ(rows.up(place, 1), starts[i > 0 ? i - 1 : 0]);
-            ASSERT_EQ(rows.up(place, 23), starts[i > 23 ? i - 23 : 0]);
+            for (const std::size_t n : {1U, 23U, 70U})
+                ASSERT_EQ(rows.up(place, static_cast<int>(n)), starts[i > n ? i - n : 0]);
             ASSERT_EQ(rows.down(place, 7), i + 7 < starts.size() ? starts[i + 7] : text->size());
         }
         ASSERT_EQ(rows.up(text->size(), 5),
                   starts.empty() ? 0 : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
     }
-}
-
-TEST(FileRowsTest, CutsLongLinesBetweenCharacters)
-{
-    const Utf8 locale;
-    std::string bytes;
-    while (bytes.size() < 3 * FileText::kPiece)
-        bytes += "\xe2\x82\xac";
-    const TemporaryFile file(bytes);
-    const Text text = open(file);
-    FileRows rows(*text, 10);
-    for (FilePlace place = 0; place < text->size();) {
-        const FileRows::Row row = rows.row(place);
-        ASSERT_EQ(shown(rows, row), std::string(static_cast<std::size_t>(row.end - row.start) / 3, '#'));
-        for (; place < row.next; ++place)
-            ASSERT_TRUE(place % FileText::kPiece > 3 || rows.rowOf(place) == row.start) << place;
-    }
-}
-
-// Bytes that look like the middle of a character move the cut, so that a row starts before it.
-TEST(FileRowsTest, CutsStrayBytesTheSameOnAllWays)
-{
-    constexpr FilePlace kEdge = FileText::kPiece;
-    const TemporaryFile file(std::string(2 * kEdge, '\x80'));
-    const Text text = open(file);
-    FileRows rows(*text, 8);
-    EXPECT_EQ(rows.down(0, kEdge / 8), kEdge);
-    EXPECT_EQ(rows.row(kEdge).next, kEdge + 3);
-    EXPECT_EQ(rows.rowOf(kEdge + 4), kEdge + 3);
 }
 
 TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
@@ -257,39 +228,6 @@ TEST(FileTextTest, FindsTextAcrossTheBuffersItReads)
                 EXPECT_EQ(text->find(wanted, 0).nLine, static_cast<int>(kBuffer - nBefore)) << nSize << szFirst;
             EXPECT_EQ(text->find(wanted + 'c', 0).nLine, -1);
         }
-    }
-}
-
-TEST(FileTextTest, KnowsLinesAndFindsText)
-{
-    for (unsigned seed = 0; seed < 8; ++seed) {
-        SCOPED_TRACE(seed);
-        std::mt19937 random(seed);
-        const std::string bytes = randomText(random) + "needle" + randomText(random);
-        const TemporaryFile file(bytes);
-        const Text text = open(file);
-        std::vector<std::size_t> lines = {0};
-        for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
-            if (bytes[i] == '\n')
-                lines.push_back(i + 1);
-        }
-        for (int i = 0; i < 20; ++i) {
-            const std::size_t nLine = random() % lines.size();
-            const std::size_t end = nLine + 1 < lines.size() ? lines[nLine + 1] : bytes.size();
-            EXPECT_EQ(text->lineStart(static_cast<int>(nLine)), static_cast<FilePlace>(lines[nLine]));
-            EXPECT_EQ(text->lineOf(static_cast<FilePlace>(lines[nLine] + random() % (end - lines[nLine]))),
-                      static_cast<int>(nLine));
-            const std::size_t from = random() % bytes.size();
-            const std::string wanted = i == 0 ? "needle" : bytes.substr(from, 1 + random() % 9000);
-            const std::size_t found = bytes.find(wanted, lines[nLine]);
-            const bool isFound = found != std::string::npos && wanted.find('\n') == std::string::npos;
-            const FileText::Match match = text->find(wanted, static_cast<int>(nLine));
-            EXPECT_EQ(match.place, isFound ? static_cast<FilePlace>(found) : -1);
-            EXPECT_EQ(match.line, match.nLine < 0 ? -1 : text->lineStart(match.nLine));
-        }
-        EXPECT_EQ(text->lineStart(static_cast<int>(lines.size())), -1);
-        EXPECT_EQ(text->find("", static_cast<int>(lines.size())).nLine, -1);
-        EXPECT_EQ(text->find("", -5).nLine, 0);
     }
 }
 

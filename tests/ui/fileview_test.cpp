@@ -301,30 +301,6 @@ TEST_F(FileviewTest, FollowsInADialogWithoutTheFocus)
     EXPECT_EQ(kultest::picture(window(1), 6, 3, 1, 8), (Rows{"new     "}));
 }
 
-// Whatever happens to the file between two looks, keys and drawing go on.
-TEST_F(FileviewTest, SurvivesAFileThatIsCutOffBetweenLooks)
-{
-    load(lines(0, 60000));
-    type({KS_END});
-    file_.write("only\n");
-    shown();
-    type({-2, KS_PAGEUP}, {[] { theFile->write("less"); }});
-    EXPECT_EQ(text(), (Rows{"less", "", "", ""}));
-    EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
-
-    // Drawing is the first to notice, for the search has taken the memory of what is in view.
-    std::string bytes;
-    while (bytes.size() < 300000)
-        bytes += std::string(5000, 'a') + '\n';
-    load(bytes);
-    EXPECT_EQ(kulfileview_find(1, kRef, (std::string(5000, 'a') + 'b').c_str(), 0), -1);
-    file_.write("");
-    EXPECT_EQ(text()[0], "");
-    events.clear();
-    type({KS_TAB});
-    EXPECT_EQ(events.substr(0, 7), "focus0 ");
-}
-
 TEST_F(FileviewTest, TakesAnyPlaceAndSize)
 {
     file_.write(lines(0, 99));
