@@ -965,7 +965,9 @@ KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
  * newlines, counted from 0, whatever rows they take. A tab goes to the next multiple of 8 columns
  * of its row, a carriage return at the end of a line is not shown, and '?' stands for each
  * character that cannot be shown in the program's locale. Lines above 64 KiB wrap anew at multiples
- * of 64 KiB of the file. The scroll bar is there while not all of the file is in view.
+ * of 64 KiB of the file. The scroll bar is there while not all of the file is in view. In edition 2
+ * a letter keeps its combining marks, what has neither width nor picture is left out, and the
+ * terminal's cursor stands at the left of the first row.
  *
  * Only the number of a line and a search read through the file; what was counted is remembered.
  * nPosition of the selection is how far the view is in the file: 0 at its start, 100 when its end
