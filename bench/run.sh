@@ -35,7 +35,7 @@ row() {
 }
 
 row "Bytes of a key, dialog of 40 by 14" linux vt100 xterm-256color
-for scene in focus focus-plain button items text letters; do
+for scene in focus focus-plain button items text letters checks options menu checks-long; do
     case $scene in
     focus) text="focus to the next of 3 buttons" n=3 ;;
     focus-plain) text="  the same cells by curses alone" n=3 ;;
@@ -43,6 +43,10 @@ for scene in focus focus-plain button items text letters; do
     items) text="Enter that changes nothing, 20 display items" n=20 ;;
     text) text="a letter in a text box" n=20 ;;
     letters) text="a letter in a text box, edition 2" n=20 ;;
+    checks) text="an arrow key in a check list of 10" n=10 ;;
+    options) text="an arrow key in an option list of 10" n=10 ;;
+    menu) text="an arrow key in a dynamic menu of 10" n=10 ;;
+    checks-long) text="an arrow key in a check list of 100" n=100 scene=checks ;;
     esac
     row "$text" "$(bytes $scene $n linux)" "$(bytes $scene $n vt100)" "$(bytes $scene $n xterm-256color)"
 done
@@ -55,6 +59,9 @@ row "Enter that changes nothing, 3 buttons" "$(instructions button 3)" "" ""
 row "Enter that changes nothing, 20 display items" "$(instructions items 20)" "" ""
 row "  the same cells by curses alone, row by row" "$(instructions items-plain 20)" "" ""
 row "a letter in a text box" "$(instructions text 20)" "" ""
+row "an arrow key in a check list of 10" "$(instructions checks 10)" "" ""
+row "an arrow key in an option list of 10" "$(instructions options 10)" "" ""
+row "an arrow key in a dynamic menu of 10" "$(instructions menu 10)" "" ""
 row "a letter in a text box, edition 2" "$(instructions letters 20)" "" ""
 row "  one of 60,000" "$(instructions letters 60000)" "" ""
 
