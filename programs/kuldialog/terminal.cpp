@@ -2,7 +2,7 @@
 #include "terminal.hpp"
 
 #include <cstdlib>
-#include <cstring>
+#include <cstdio>
 
 #include <fcntl.h>
 #include <kulgui.h>
@@ -87,10 +87,8 @@ void closeScreen(const char* szStays)
         return;
     }
     kulgui_destroyAll();
-    if (szStays) {
-        write(STDOUT_FILENO, szStays, std::strlen(szStays));
-        write(STDOUT_FILENO, "\n", 1);
-    }
+    if (szStays)
+        dprintf(STDOUT_FILENO, "%s\n", szStays);
 }
 
 int answerDescriptor(const Settings& settings)
