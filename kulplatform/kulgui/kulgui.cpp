@@ -275,7 +275,7 @@ int kulgui_exec(int nChain)
     const int nBefore = GetActiveChain();
     CURRENT* selection = GetCurrentSelection();
     const CURRENT below = *selection;
-    const kul::Pass pass;
+    const kul::Pass pass(kul::Pass::End::Later);
     const kul::Loop loop(nChain);
     SetActiveChain(nChain);
     showFirst(nChain, nBefore);

@@ -19,6 +19,10 @@
  *     and nHeight are columns and rows. What lies outside of the window is not drawn. In edition 1
  *     a text that is not wrapped (a caption, an element of a menu, a field of a status bar) and
  *     reaches beyond the right edge goes on at the start of the next row.
+ *     A dialog lies where it was configured as long as all of it is on the screen there, else it is
+ *     moved in; its record says where. One that is larger than the screen is shown in part: the part
+ *     follows the user, and an arrow or page key that changes nothing moves it. When the screen gets
+ *     another size all dialogs find their places anew, and keep their own sizes.
  *  6. Colours. A colour set is one of the 56 pairs of COLORSET, foreground_background. Fields and
  *     arguments are ints, so that KUL_KEEP and a plain number can be given as well.
  *  7. Ownership. The library owns every record, window and panel that it makes and frees them
@@ -325,7 +329,8 @@ KULGUI_API int kulgui_show(int nChain);
 KULGUI_API int kulgui_hide(int nChain);
 
 /** Frees a chain with its dialog, windows and components, also while it runs: its kulgui_exec
- * then returns -10000. Destroying the primary chain destroys all; kulgui_create begins anew.
+ * then returns -10000. What lay below is shown with the next call that draws or waits; kulgui_hide
+ * shows it at once. Destroying the primary chain destroys all; kulgui_create begins anew.
  * Returns 0, -1 for an unknown chain. */
 KULGUI_API int kulgui_destroy(int nChain);
 

@@ -83,6 +83,24 @@ Act twice(Act second)
     };
 }
 
+// A command that is run has the terminal as the shell has.
+void command(Terminal& terminal)
+{
+    const Line inside(terminal);
+    enter(terminal);
+    ASSERT_TRUE(terminal.waitForText("outside") && terminal.settle());
+    EXPECT_TRUE(Line(terminal).modes.c_lflag & ICANON);
+    EXPECT_FALSE(Line(terminal).flags & O_NONBLOCK);
+    EXPECT_TRUE(terminal.cursor().visible);
+    enter(terminal);
+    ASSERT_TRUE(terminal.waitForText("count 1") && terminal.settle());
+    EXPECT_TRUE(Line(terminal).hasModesOf(inside));
+    EXPECT_EQ(Line(terminal).flags, inside.flags);
+    EXPECT_EQ(terminal.cell(0, 0).glyph, "D") << "the desktop";
+    EXPECT_EQ(terminal.cell(11, 10).background, 0) << "a shadow";
+    terminal.kill(SIGTERM);
+}
+
 struct Way {
     std::string name;
     const char* words;
@@ -131,6 +149,7 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         {"a stack that is full", "overflow", enter, SIGSEGV},
         {"abort()", "abort", enter, SIGABRT},
         {"children that end", "fork", twice(send(SIGINT)), SIGINT},
+        {"a command", "run", command, SIGTERM},
         {"a line that does not block", "count", twice(send(SIGTERM)), SIGTERM, false, O_NONBLOCK},
         {"a line without a size", "close", enter, exited(5), true, 0, false},
     };

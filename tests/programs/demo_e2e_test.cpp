@@ -105,4 +105,29 @@ TEST(Demo, SpeaksFourLanguages)
     }
 }
 
+// What lies below is not painted first.
+TEST(Demo, QuitsFromAPageInAFewBytes)
+{
+    Terminal terminal(demo("xterm-256color"));
+    ASSERT_TRUE(terminal.waitForText("Quit"));
+    for (const char* key : {"down", "down", "enter", "tab", "right"})
+        terminal.press(*keyBytes(key));
+    ASSERT_TRUE(terminal.waitForText("Back") && terminal.settle());
+    terminal.mark();
+    terminal.press("\r");
+    EXPECT_EQ(terminal.wait(), 0);
+    EXPECT_LT(terminal.received().size(), 200U);
+}
+
+// As on a serial line.
+TEST(Demo, NoticesANewSizeWithoutASignal)
+{
+    Launch launch = demo("linux");
+    launch.argv = {"sh", "-c", "trap '' WINCH; exec " KULGUI_DEMO};
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.waitForText("Quit") && terminal.settle());
+    terminal.resize(100, 30);
+    EXPECT_TRUE(terminal.waitFor([&] { return terminal.cell(1, 99).glyph == "─"; })) << "the line below the title";
+}
+
 } // namespace

@@ -12,6 +12,7 @@
  *   round     moves the focus between two buttons, each of which runs a dialog of its own first
  *   late      installs a handler for TERM, as below, and opens the terminal that is open again
  *   fork      counts, after two children have ended, one by exit(127) and one by TERM
+ *   run       counts, after a command that says "outside" and waits for a line
  *   fault, overflow, abort
  *             crashes: by a bad address, a stack that is full, abort()
  * and these change what the program does about signals:
@@ -119,6 +120,12 @@ static void click(void)
     crash();
     ++clicks;
     label();
+    if (strcmp(way, "run") == 0) {
+        const int status = kulgui_run("echo outside; read line; exit 7");
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != 7 || kulgui_run(NULL) != -1 || kulgui_resume() != -1)
+            exit(9);
+        return;
+    }
     if (strcmp(way, "fork") == 0) {
         child(SIGCONT);
         child(SIGTERM);

@@ -138,7 +138,7 @@ void emptyDialog(GUI* thisGUI)
 
 void destroyChain(CHAIN* thisChain)
 {
-    Pass pass;
+    const Pass pass(Pass::End::Later);
     if (thisChain != Primary) {
         CHAIN* before = thisChain->Prev;
         CHAIN* after = thisChain->Next;

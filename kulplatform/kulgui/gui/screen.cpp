@@ -3,6 +3,8 @@
 // Windows are composed by curses and its panels; this room decides when, and in which order.
 #include "screen.hpp"
 
+#include <algorithm>
+
 #include "chain.hpp"
 #include "edition.hpp"
 #include "keys.hpp"
@@ -136,14 +138,14 @@ void update()
 
 } // namespace
 
-Pass::Pass()
+Pass::Pass(End end) : end_(end)
 {
     ++nPasses;
 }
 
 Pass::~Pass()
 {
-    if (--nPasses == 0)
+    if (--nPasses == 0 && end_ == End::Update)
         update();
 }
 
@@ -186,10 +188,14 @@ OnTop::~OnTop()
 
 void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows)
 {
-    const int nFirst = std::max(nTop, 0);
-    const int nLast = std::min(nBottom, getmaxy(win) - 1);
+    Cell top{nTop, 0};
+    Cell bottom{nBottom, 0};
+    WINDOW* shown = shownAt(win, top);
+    shownAt(win, bottom);
+    const int nFirst = std::max(top.nY, 0);
+    const int nLast = std::min({bottom.nY, getmaxy(shown) - 1, LINES - 1 - getbegy(shown)});
     if (nFirst < nLast)
-        expectScroll(getbegy(win) + nFirst, getbegy(win) + nLast, nRows);
+        expectScroll(getbegy(shown) + nFirst, getbegy(shown) + nLast, nRows);
 }
 
 bool waitsBelow(int nChain)

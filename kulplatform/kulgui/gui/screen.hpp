@@ -14,10 +14,17 @@ namespace kul {
 
 class Pass {
 public:
-    Pass();
+    // What a Later one has drawn is shown by the next update: the program's next call mostly takes
+    // it away again, as when it closes one dialog after the other.
+    enum class End { Update, Later };
+
+    explicit Pass(End end = End::Update);
     ~Pass();
     Pass(const Pass&) = delete;
     Pass& operator=(const Pass&) = delete;
+
+private:
+    End end_;
 };
 
 // Who has a turn while it lives: the program, or nobody until a key comes.
