@@ -51,6 +51,12 @@ for scene in focus focus-plain button items text letters checks options menu che
     row "$text" "$(bytes $scene $n linux)" "$(bytes $scene $n vt100)" "$(bytes $scene $n xterm-256color)"
 done
 
+# resizing TERM: bytes of the change
+resizing() {
+    echo $(($("$keys" sizes 10 1 "$1") - $("$keys" sizes 10 0 "$1")))
+}
+row "The screen from 80 by 24 to 60 by 18, a list of 10" "$(resizing linux)" "$(resizing vt100)" "$(resizing xterm-256color)"
+
 echo
 row "Instructions of a key, on linux" "" "" ""
 row "focus to the next of 3 buttons" "$(instructions focus 3)" "" ""

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include <sys/mman.h>
@@ -11,6 +12,8 @@
 
 #include "gui/description.hpp"
 #include "gui/draw.hpp"
+#include "gui/resize.hpp"
+#include "gui/screen.hpp"
 #include "kulgui.h"
 
 namespace {
@@ -209,6 +212,17 @@ void drawTexts(long nTimes)
     }
 }
 
+// From 80 by 24 to 60 by 18, and back, in turn.
+void resizeScreen(long nTimes)
+{
+    for (long i = 0; i < nTimes; ++i) {
+        setenv("LINES", i % 2 == 0 ? "18" : "24", 1);
+        setenv("COLUMNS", i % 2 == 0 ? "60" : "80", 1);
+        const kul::Pass pass;
+        kul::fitScreen();
+    }
+}
+
 const kulbench::Scene kScenes[] = {
     {"focus", buildButtons, runDialog, KS_TAB},
     {"focus-plain", buildButtons, repaintButtons, 0},
@@ -223,6 +237,7 @@ const kulbench::Scene kScenes[] = {
     {"texts-columns", buildTextsInColumns, drawTexts, 0},
     {"text", buildText, runDialog, 'x'},
     {"letters", buildLetters, runDialog, 'x'},
+    {"sizes", buildChecks, resizeScreen, 0},
 };
 
 } // namespace

@@ -20,9 +20,9 @@
  *     a text that is not wrapped (a caption, an element of a menu, a field of a status bar) and
  *     reaches beyond the right edge goes on at the start of the next row.
  *     A dialog lies where it was configured as long as all of it is on the screen there, else it is
- *     moved in; its record says where. One that is larger than the screen is shown in part: the part
- *     follows the user, and an arrow or page key that changes nothing moves it. When the screen gets
- *     another size all dialogs find their places anew, and keep their own sizes.
+ *     moved in; its record says where. One that is larger than the screen is shown in part: the
+ * part follows the user, and an arrow or page key that changes nothing moves it. When the screen
+ * gets another size all dialogs find their places anew, and keep their own sizes.
  *  6. Colours. A colour set is one of the 56 pairs of COLORSET, foreground_background. Fields and
  *     arguments are ints, so that KUL_KEEP and a plain number can be given as well.
  *  7. Ownership. The library owns every record, window and panel that it makes and frees them
