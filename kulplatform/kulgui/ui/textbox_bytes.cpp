@@ -99,7 +99,7 @@ void drawAlone(WINDOW* win, KULTEXTBOX& box)
     const int nWidth = kul::shifted(box.nWidth, box.nBorder == BORDER ? -1 : 0);
     const int nCursor = box.nCursor == SHOWCURSOR ? box.nCursorPos : -1;
     const bool masked = box.nMask == MASK;
-    const chtype end = masked ? '*' : ' ';
+    const chtype end = masked ? chtype{'*'} : chtype{' '};
     drawRows(win, box, {0, nWidth, nCursor, masked, end}, [](int nPlace) { return nPlace; });
 }
 

@@ -133,7 +133,7 @@ void type(KULTEXTBOX& box, int nKey)
 {
     const Typed typed = typedBy(nKey);
     kul::TextState* state = kul::stateOf(box);
-    if (typed.nBytes > 1 && isMark(typed)) {
+    if (typed.character > 127 && isMark(typed)) {
         if (box.nCursorPos > 0 && !(state && state->refused))
             enter(box, typed, true, false);
     } else {
