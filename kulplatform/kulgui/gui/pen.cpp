@@ -242,7 +242,7 @@ void Pen::add(std::string_view text)
     if (text.empty()) // a code that the terminal does not have
         return;
     if (size_ + text.size() > room_) {
-        const std::size_t room = std::max<std::size_t>(2 * room_, 1024);
+        const std::size_t room = std::max<std::size_t>({2 * room_, size_ + text.size(), 1024});
         auto* larger = static_cast<char*>(std::realloc(text_, room));
         if (!larger) {
             failed_ = true;
