@@ -348,6 +348,11 @@ KULGUI_API int kulgui_run(const char* szCommand);
 KULGUI_API int kulgui_suspend(void);
 KULGUI_API int kulgui_resume(void);
 
+/** With T, giving the terminal back leaves on the screen what is there; F, the start, clears it
+ * away. Returns 0, -1 where the terminal shows another screen then, as most do that are windows,
+ * and where it is not open. */
+KULGUI_API int kulgui_keepScreen(int bKeep);
+
 /** These four do nothing and return 0. */
 KULGUI_API int kulgui_exit(void);
 KULGUI_API int kulgui_hasExited(void);

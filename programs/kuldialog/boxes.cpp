@@ -27,33 +27,42 @@ enum ShapeName : unsigned char {
     kCommand
 };
 
-// How many arguments a box has, -1 for items without end, and which of them are numbers: so many,
-// up to the place before the last one that is required.
+// How many arguments a box has, -1 for items without end, and which of them are numbers.
 struct Shape {
     signed char least;
     signed char most;
     signed char firstNumber; // from the end if negative
     signed char numbers;
-    char text[56];
 };
 
 constexpr Shape kShapes[] = {
-    {3, 3, 1, 2, "<text> <height> <width>"},
-    {3, 3, 1, 2, "<file> <height> <width>"},
-    {3, 4, 1, 2, "<text> <height> <width> [<init>]"},
-    {4, -1, 1, 3, "<text> <height> <width> <list height> [<tag> <item>]..."},
-    {4, -1, 1, 3, "<text> <height> <width> <list height> <item, on|off>..."},
-    {4, -1, 1, 3, "<text> <height> <width> <list height> <item, depth>..."},
-    {4, -1, 1, 3, "<text> <height> <width> <form height> <field>..."},
-    {4, -1, 1, 3, "<text> <height> <width> <form height> <field, type>..."},
-    {4, 4, 1, 3, "<text> <height> <width> <percent>"},
-    {3, 4, 1, 3, "<text> <height> <width> [<percent>]"},
-    {4, 4, 1, 3, "<text> <height> <width> <seconds>"},
-    {4, -1, 1, 3, "<text> <height> <width> <percent> [<tag> <state>]..."},
-    {6, 6, 1, 5, "<text> <height> <width> <least> <most> <value>"},
-    {2, 3, -2, 2, "[<text>] <height> <width>"},
-    {3, 4, -2, 2, "[<text>] <command> <height> <width>"},
+    {3, 3, 1, 2},  {3, 3, 1, 2},  {3, 4, 1, 2},  {4, -1, 1, 3}, {4, -1, 1, 3},
+    {4, -1, 1, 3}, {4, -1, 1, 3}, {4, -1, 1, 3}, {4, 4, 1, 3},  {3, 4, 1, 3},
+    {4, 4, 1, 3},  {4, -1, 1, 3}, {6, 6, 1, 5},  {2, 3, -2, 2}, {3, 4, -2, 2},
 };
+
+// What they are called: before the size, and behind it.
+constexpr char kBefore[] =
+    "<text>\0<file>\0<text>\0<text>\0<text>\0<text>\0<text>\0<text>\0<text>\0"
+    "<text>\0<text>\0<text>\0<text>\0[<text>]\0[<text>] <command>";
+constexpr char kBehind[] = "\0\0[<init>]\0<rows> <tag item>...\0<rows> <tag item on|off>...\0"
+                           "<rows> <tag item on|off depth>...\0<rows> <field>...\0"
+                           "<rows> <field type>...\0<percent>\0[<percent>]\0<seconds>\0"
+                           "<percent> <tag state>...\0<least> <most> <value>\0\0";
+
+// The text of that place in a row of texts.
+const char* textAt(const char* szTexts, int nPlace)
+{
+    for (; nPlace > 0; --nPlace)
+        szTexts += std::strlen(szTexts) + 1;
+    return szTexts;
+}
+
+void addUsage(Buffer& text, const Box& box)
+{
+    text.add("--").add(box.name).add(' ').add(textAt(kBefore, box.shape));
+    text.add(" <height> <width> ").add(textAt(kBehind, box.shape));
+}
 
 constexpr unsigned char kOthers = kDialog | kOwn;
 constexpr unsigned char kAll = kWhiptail | kOthers;
@@ -112,8 +121,8 @@ constexpr Box kBoxes[] = {
 bool wrong(const char* szWhat, const Box& box)
 {
     Buffer text;
-    text.add("--").add(box.name).add(": ").add(szWhat).add("; it takes");
-    complain(text.text(), kShapes[box.shape].text);
+    addUsage(text.add(szWhat).add(": "), box);
+    complain("wrong arguments,", text.text());
     return false;
 }
 
@@ -189,8 +198,10 @@ bool checkArguments(const Box& box, const Call& call)
 void addBoxes(Buffer& text)
 {
     for (const Box& box : kBoxes) {
-        if (box.names & name)
-            text.add("  --").add(box.name).add(' ').add(kShapes[box.shape].text).add('\n');
+        if (!(box.names & name))
+            continue;
+        addUsage(text.add("  "), box);
+        text.add('\n');
     }
 }
 

@@ -8,26 +8,9 @@
 
 namespace kuldialog {
 
-Buffer::~Buffer()
-{
-    std::free(text_);
-}
-
 Buffer& Buffer::add(const char* szText, std::size_t size)
 {
-    if (size_ + size >= room_) {
-        const std::size_t room = 2 * (size_ + size) + 64;
-        char* grown = static_cast<char*>(std::realloc(text_, room));
-        if (!grown) {
-            failed_ = true;
-            return *this;
-        }
-        text_ = grown;
-        room_ = room;
-    }
-    std::memcpy(text_ + size_, szText, size);
-    size_ += size;
-    text_[size_] = '\0';
+    Text::add(szText, size);
     return *this;
 }
 
@@ -53,27 +36,21 @@ Buffer& Buffer::addNumber(int nNumber)
 bool Buffer::addFrom(int nFd)
 {
     char part[1024];
-    ssize_t size;
-    while ((size = read(nFd, part, sizeof part)) > 0)
-        add(part, static_cast<std::size_t>(size));
-    return size == 0;
+    ssize_t got;
+    while ((got = read(nFd, part, sizeof part)) > 0)
+        add(part, static_cast<std::size_t>(got));
+    return got == 0;
 }
 
 bool Buffer::writeTo(int nFd) const
 {
-    for (std::size_t done = 0; done < size_;) {
-        const ssize_t written = write(nFd, text_ + done, size_ - done);
+    for (std::size_t done = 0; done < size();) {
+        const ssize_t written = write(nFd, text() + done, size() - done);
         if (written <= 0)
             return false;
         done += static_cast<std::size_t>(written);
     }
     return true;
-}
-
-void Buffer::cutFront(std::size_t size)
-{
-    size_ -= size;
-    std::memmove(text_, text_ + size, size_ + 1);
 }
 
 char* copyOf(const char* szText, std::size_t size)

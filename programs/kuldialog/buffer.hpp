@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 //
-// Text that grows. One that found no memory stays as it is and says so.
+// Text that grows, to be put together, read and written. Without memory it stays as it is and says
+// so.
 #ifndef KULDIALOG_BUFFER_HPP
 #define KULDIALOG_BUFFER_HPP
 
-#include <cstddef>
+#include "ready/rows.hpp"
 
 namespace kuldialog {
 
-class Buffer {
+class Buffer : public kulready::Text {
 public:
-    Buffer() = default;
-    Buffer(const Buffer&) = delete;
-    Buffer& operator=(const Buffer&) = delete;
-    ~Buffer();
-
     Buffer& add(const char* szText, std::size_t size);
     Buffer& add(const char* szText);
     Buffer& add(char character);
@@ -25,19 +21,7 @@ public:
     // Writes all of it. False where that fails.
     bool writeTo(int nFd) const;
 
-    void cutFront(std::size_t size);
-    void clear() { size_ = 0; }
-
-    const char* text() const { return size_ ? text_ : ""; }
-    char* data() { return text_; }
-    std::size_t size() const { return size_; }
-    bool failed() const { return failed_; }
-
-private:
-    char* text_ = nullptr;
-    std::size_t size_ = 0;
-    std::size_t room_ = 0;
-    bool failed_ = false;
+    void clear() { removeFront(size()); }
 };
 
 // A copy of the first bytes of a text, to be freed; null without memory.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The output of a command as it comes, from a pipe or from a command that is started here. The last
-// of it is kept; escape sequences do nothing.
+// The output of a command as it comes, from a pipe or from a command that is started here.
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
@@ -13,7 +12,7 @@
 #include <unistd.h>
 
 #include "boxes.hpp"
-#include "output.hpp"
+#include "ready/output.hpp"
 #include "terminal.hpp"
 #include "window.hpp"
 
@@ -21,68 +20,16 @@ namespace kuldialog {
 
 namespace {
 
-constexpr std::size_t kMostKept = 65536;
-
 struct Stream {
     Window& window;
     int nFd;
     bool leavesAtEnd;
     bool ended = false;
-    Buffer text{};
+    kulready::Output output{};
     Area area{kSecondArea};
 };
 
 Stream* stream = nullptr;
-
-// Takes what can be shown: without escape sequences and carriage returns, tabs as blanks.
-class Cleaner {
-public:
-    void take(Buffer& text, char character)
-    {
-        const auto byte = static_cast<unsigned char>(character);
-        if (state_ != kPlainText) {
-            state_ = after(byte);
-        } else if (byte == '\033') {
-            state_ = kEscape;
-        } else if (byte == '\t') {
-            text.add("        ", 8 - column_ % 8);
-            column_ += 8 - column_ % 8;
-        } else if (byte == '\n' || byte >= ' ') {
-            column_ = byte == '\n' ? 0 : column_ + 1;
-            text.add(character);
-        }
-    }
-
-private:
-    enum State { kPlainText, kEscape, kSequence, kString };
-
-    State after(unsigned char byte) const
-    {
-        switch (state_) {
-        case kEscape:
-            return byte == '[' ? kSequence : byte == ']' || byte == 'P' ? kString : kPlainText;
-        case kSequence:
-            return byte >= '@' ? kPlainText : kSequence;
-        default:
-            return byte == '\a' ? kPlainText : byte == '\033' ? kEscape : kString;
-        }
-    }
-
-    State state_ = kPlainText;
-    std::size_t column_ = 0;
-};
-
-Cleaner cleaner;
-
-// Forgets whole lines at the front when there is more than is kept.
-void limit(Buffer& text)
-{
-    if (text.size() <= kMostKept)
-        return;
-    const std::size_t over = text.size() - kMostKept / 2;
-    const char* line = std::strchr(text.text() + over, '\n');
-    text.cutFront(line ? static_cast<std::size_t>(line + 1 - text.text()) : over);
-}
 
 void outputReady()
 {
@@ -97,10 +44,8 @@ void outputReady()
             Window::end(kAccepted);
         return;
     }
-    for (ssize_t i = 0; i < size; ++i)
-        cleaner.take(stream->text, part[i]);
-    limit(stream->text);
-    stream->area.wrap(stream->text.text(), stream->window.nWidth);
+    stream->output.feed(part, static_cast<std::size_t>(size));
+    stream->area.wrap(stream->output.text(), stream->window.nWidth);
     stream->area.showEnd();
 }
 
@@ -137,16 +82,12 @@ int start(const char* szCommand, pid_t& child)
 
 Answer runCommand(const Call& call)
 {
-    const Settings& settings = call.settings;
     const bool starts = call.variant == kStarted;
     const int nSize = call.count - 2;
     const bool titled = nSize > starts;
-    Window window(settings, titled ? call.argument(0) : "", call.number(nSize),
-                  call.number(nSize + 1));
-    window.wantBody(LINES, 1, COLS);
-    if (call.variant != kPassedOn)
-        window.addButtons(settings.text(kOkLabel, "OK"), nullptr);
-    if (!window.open())
+    Window window(call, titled ? call.argument(0) : "", nSize);
+    if (!window.open(call.variant == kPassedOn ? kNoButtons : kOk, screenHeight(), 1,
+                     screenWidth()))
         return kFailed;
     pid_t child = -1;
     const int nFd = starts ? start(call.argument(titled), child) : nScriptInput;

@@ -15,6 +15,7 @@
 #include "form.hpp"
 #include "options.hpp"
 #include "output.hpp"
+#include "terminal.hpp"
 
 namespace kuldialog {
 
@@ -154,11 +155,10 @@ int Editor::key(int nKey)
 Answer runEditor(const Call& call)
 {
     const Settings& settings = call.settings;
-    Window window(settings, "", call.number(1), call.number(2));
-    window.wantBody(LINES, 1, COLS);
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
+    Window window(call, "");
     Fields lines(window);
-    if (!window.open() || !read(call.argument(0), lines, window))
+    if (!window.open(kOkCancel, screenHeight(), 1, screenWidth()) ||
+        !read(call.argument(0), lines, window))
         return kFailed;
     lines.create();
     kultextbox_setCursor(window.nChain, window.nFocus, 0);

@@ -55,10 +55,8 @@ void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int 
 Answer runEntry(const Call& call)
 {
     const Settings& settings = call.settings;
-    Window window(settings, call.argument(0), call.number(1), call.number(2));
-    window.wantBody(1, 1, 24);
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    Window window(call, call.argument(0));
+    if (!window.open(kOkCancel, 1, 1, 24))
         return kFailed;
     const int nMost = settings.numbers[kMaxInput];
     createLine(window, kBody, 2, window.nBodyY, window.innerWidth(),

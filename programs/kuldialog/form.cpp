@@ -247,16 +247,14 @@ Answer runForm(const Call& call)
     constexpr int kBefore = 4;
     const int nSize = call.variant == kMixedForm ? 9 : 8;
     const Settings& settings = call.settings;
-    Window window(settings, call.argument(0), call.number(1), call.number(2));
+    Window window(call, call.argument(0));
     Fields fields(window);
     for (int i = kBefore; i < call.count; i += nSize) {
         if (!fields.add(fieldOf(call.arguments + i, call.variant)))
             return kFailed;
     }
     const int nAsked = call.number(3);
-    window.wantBody(nAsked > 0 ? nAsked : fields.rows(), 1, fields.columns());
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    if (!window.open(kOkCancel, nAsked > 0 ? nAsked : fields.rows(), 1, fields.columns()))
         return kFailed;
     fields.create();
     window.body = &fields;

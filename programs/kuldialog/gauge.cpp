@@ -270,7 +270,6 @@ int rangeKey(Window& window, int nKey)
 
 Answer runGauge(const Call& call)
 {
-    const Settings& settings = call.settings;
     Buffer text;
     Buffer room;
     for (int i = 4; call.variant == kMixedGauge && i + 1 < call.count; i += 2) {
@@ -280,11 +279,8 @@ Answer runGauge(const Call& call)
         text.add("]\\n");
     }
     text.add(call.argument(0));
-    Window window(settings, text.text(), call.number(1), call.number(2));
-    window.wantBody(1, 1, 40);
-    if (call.variant == kCountedGauge)
-        window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    Window window(call, text.text());
+    if (!window.open(call.variant == kCountedGauge ? kOkCancel : kNoButtons, 1, 1, 40))
         return kFailed;
     if (call.variant == kReadGauge)
         return readGauge(call, window);
@@ -301,10 +297,8 @@ Answer runGauge(const Call& call)
 Answer runRange(const Call& call)
 {
     const Settings& settings = call.settings;
-    Window window(settings, call.argument(0), call.number(1), call.number(2));
-    window.wantBody(1, 1, 40);
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    Window window(call, call.argument(0));
+    if (!window.open(kOkCancel, 1, 1, 40))
         return kFailed;
     const int nLeast = call.number(3);
     const int nMost = std::max(call.number(4), nLeast);

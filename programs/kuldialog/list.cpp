@@ -13,6 +13,7 @@
 #include "entry.hpp"
 #include "options.hpp"
 #include "output.hpp"
+#include "terminal.hpp"
 #include "window.hpp"
 
 namespace kuldialog {
@@ -117,7 +118,7 @@ class List {
 public:
     List(const Call& call, Window& window) : items(call), window_(window), variant_(call.variant) {}
 
-    void want(int nAsked);
+    bool open(int nAsked); // the window, for so many rows; 0 for as many as there are items
     void create();
     Answer answer(Answer answer);
 
@@ -146,12 +147,12 @@ private:
 
 List* shown = nullptr;
 
-void List::want(int nAsked)
+bool List::open(int nAsked)
 {
     const int nFrame = items.isMarked() ? 0 : 2;
     const int nRows = std::max(nAsked > 0 ? std::min(nAsked, items.count()) : items.count(), 1);
     const int nMarker = items.isMarked() ? 5 : 0;
-    window_.wantBody(nRows + nFrame, 1 + nFrame, items.widest() + nMarker + 2);
+    return window_.open(kOkCancel, nRows + nFrame, 1 + nFrame, items.widest() + nMarker + 2);
 }
 
 void selectionMoved()
@@ -278,12 +279,9 @@ Answer List::rename(int nItem)
     Settings settings = window_.settings;
     settings.flags[kExtraButton] = settings.flags[kHelpButton] = settings.flags[kNoOk] = false;
     settings.texts[kDefaultButton] = nullptr;
-    char* arguments[] = {const_cast<char*>(items.tag(nItem)), const_cast<char*>("0"),
-                         const_cast<char*>("0"), const_cast<char*>(items.text(nItem))};
-    Window window(settings, arguments[0], 0, 0);
-    window.wantBody(1, 1, 40);
-    window.addButtons("OK", "Cancel");
-    if (!window.open())
+    char* size[] = {const_cast<char*>("0"), const_cast<char*>("0")};
+    Window window({settings, size, 2, 0}, items.tag(nItem), 0);
+    if (!window.open(kOkCancel, 1, 1, 40))
         return kFailed;
     createLine(window, kBody, 2, window.nBodyY, window.innerWidth(), NOMASK, 2048,
                items.text(nItem));
@@ -333,16 +331,15 @@ Answer runList(const Call& call)
         settings.flags[kExtraButton] = true;
         settings.texts[kExtraLabel] = settings.text(kExtraLabel, "Rename");
     }
-    Window window(settings, call.argument(0), call.number(1), call.number(2));
-    List list(call, window);
-    list.want(call.number(3));
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    const Call changed{settings, call.arguments, call.count, call.variant};
+    Window window(changed, call.argument(0));
+    List list(changed, window);
+    if (!list.open(call.number(3)))
         return kFailed;
     if (settings.is(kItemHelp)) {
         kulstatbar_create(0, kHelpBar);
         kulstatbar_config(0, kHelpBar, KUL_KEEP, nullptr);
-        kulstatbar_addElement(0, kHelpBar, 0, COLS, "", LEFT, nullptr);
+        kulstatbar_addElement(0, kHelpBar, 0, screenWidth(), "", LEFT, nullptr);
     }
     list.create();
     window.body = &list;

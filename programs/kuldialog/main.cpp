@@ -66,20 +66,16 @@ void printVersion()
 }
 
 // The background, with a title if there is one; without, it is a colour alone.
-void makeDesktop(const Settings& settings)
+void showDesktop(const Settings& settings)
 {
-    static bool made = false;
-    if (!made)
-        kulgui_create(0);
-    if (!made || settings.texts[kBacktitle])
-        kulgui_configPrime(0, colors[kDesktop], KUL_KEEP, KUL_KEEP, KUL_KEEP,
-                           settings.text(kBacktitle, ""), nullptr, nullptr, nullptr, nullptr,
-                           nullptr);
-    if (settings.texts[kBacktitle] || settings.is(kItemHelp))
-        kulgui_show(0);
-    else if (!made)
-        WinFill(stdscr, colors[kDesktop]);
-    made = true;
+    static bool shown = false;
+    if (settings.texts[kBacktitle] || settings.is(kItemHelp)) {
+        desktop()->szTitle = settings.text(kBacktitle, "");
+        kulgui_show(kDesktopChain);
+    } else if (!shown) {
+        WinFill(desktop()->winMain, desktop()->nColorStandard);
+    }
+    shown = true;
 }
 
 // Things that are printed without a box.
@@ -88,8 +84,8 @@ void printFacts(const Settings& settings)
     if (settings.is(kPrintVersion))
         output.add("Version: " KULGUI_VERSION "\n");
     if (settings.is(kPrintMaxsize)) {
-        output.add("MaxSize: ").addNumber(isScreenOpen() ? LINES : 0);
-        output.add(", ").addNumber(isScreenOpen() ? COLS : 0).add('\n');
+        output.add("MaxSize: ").addNumber(screenHeight()).add(", ");
+        output.addNumber(screenWidth()).add('\n');
     }
 }
 
@@ -127,7 +123,7 @@ Answer Program::runBox()
         return kFailed;
     }
     printFacts(call.settings);
-    makeDesktop(call.settings);
+    showDesktop(call.settings);
     const Answer answer = line_.box()->run(call);
     stays_ = nullptr;
     if (std::strcmp(line_.box()->name, "infobox") == 0)
@@ -154,7 +150,7 @@ int Program::noBox(bool any)
 int Program::finish(Answer answer)
 {
     closeScreen(answer == kAccepted ? stays_ : nullptr);
-    if (output.failed() || !output.writeTo(descriptor_))
+    if (!output.isWhole() || !output.writeTo(descriptor_))
         answer = kFailed;
     return statusOf(answer);
 }
@@ -193,7 +189,7 @@ int Program::run()
 
 int main(int argc, char** argv)
 {
-    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_CTYPE, ""); // what texts need; the rest costs time
     takeName(argc > 0 ? argv[0] : "");
     // One of the programs answers a single word that is no box by itself with its help.
     constexpr const char* kAlone[] = {"--clear", "--print-maxsize", "--print-version", "--version"};

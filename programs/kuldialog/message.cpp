@@ -8,18 +8,14 @@ namespace kuldialog {
 
 Answer runMessage(const Call& call)
 {
-    const Settings& settings = call.settings;
-    Window window(settings, call.argument(0), call.number(1), call.number(2));
-    const bool asks = call.variant == kQuestion;
-    if (call.variant == kInformation) {
-        if (!window.open())
-            return kFailed;
-        window.show();
-        return kAccepted;
-    }
-    window.addButtons(settings.text(asks ? kYesLabel : kOkLabel, asks ? "Yes" : "OK"),
-                      asks ? settings.text(kNoLabel, "No") : nullptr);
-    return window.open() ? window.run() : kFailed;
+    constexpr Buttons kButtonsOf[] = {kOk, kYesNo, kNoButtons}; // by variant
+    Window window(call, call.argument(0));
+    if (!window.open(kButtonsOf[call.variant]))
+        return kFailed;
+    if (call.variant != kInformation)
+        return window.run();
+    window.show();
+    return kAccepted;
 }
 
 } // namespace kuldialog

@@ -12,6 +12,7 @@
 #include "boxes.hpp"
 #include "entry.hpp"
 #include "output.hpp"
+#include "terminal.hpp"
 #include "window.hpp"
 
 namespace kuldialog {
@@ -205,14 +206,12 @@ int Picker::key(int nKey)
 Answer runPick(const Call& call)
 {
     const Settings& settings = call.settings;
-    Window window(settings, "", call.number(1), call.number(2));
+    Window window(call, "");
     directoriesOnly = call.variant == kDirectories;
-    const int nAsked = call.number(1);
     // The height asked for is that of the entries.
-    window.nHeight = nAsked > 0 ? std::min(nAsked + 6, LINES) : nAsked;
-    window.wantBody(LINES, 4, 40);
-    window.addButtons(settings.text(kOkLabel, "OK"), settings.text(kCancelLabel, "Cancel"));
-    if (!window.open())
+    if (window.nHeight > 0)
+        window.nHeight = std::min(window.nHeight + 6, screenHeight());
+    if (!window.open(kOkCancel, screenHeight(), 4, 40))
         return kFailed;
     Picker picker(window, call.argument(0));
     picker.create();

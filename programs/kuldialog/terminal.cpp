@@ -2,12 +2,12 @@
 #include "terminal.hpp"
 
 #include <cstdlib>
-#include <cstdio>
 
 #include <fcntl.h>
-#include <kulgui.h>
-#include <term.h>
 #include <unistd.h>
+
+#include "buffer.hpp"
+#include "colors.hpp"
 
 namespace kuldialog {
 
@@ -70,9 +70,36 @@ bool isScreenOpen()
 
 bool openScreen()
 {
+    if (isOpen)
+        return true;
+    isOpen = NCursesEnv(1) == 0;
     if (!isOpen)
-        isOpen = NCursesEnv(1) == 0;
-    return isOpen;
+        return false;
+    kulgui_create(kDesktopChain);
+    kulgui_configPrime(kDesktopChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", nullptr, nullptr,
+                       nullptr, nullptr, nullptr);
+    if (ConfigGUIPrime() != 0) { // its window is the screen from now on
+        closeScreen(nullptr);
+        return false;
+    }
+    desktop()->nColorStandard = colors[kDesktop];
+    return true;
+}
+
+GUI* desktop()
+{
+    const CHAIN* primary = GetPrimaryChain();
+    return primary ? primary->Pointer : nullptr;
+}
+
+int screenWidth()
+{
+    return desktop() ? desktop()->nWidth : 0;
+}
+
+int screenHeight()
+{
+    return desktop() ? desktop()->nHeight : 0;
 }
 
 void closeScreen(const char* szStays)
@@ -80,15 +107,12 @@ void closeScreen(const char* szStays)
     if (!isOpen)
         return;
     isOpen = false;
-    const char* szOwnScreen = tigetstr("rmcup");
-    const bool leavesNothing = szOwnScreen && szOwnScreen != reinterpret_cast<char*>(-1);
-    if (szStays && !leavesNothing) {
-        endwin();
-        return;
-    }
+    const bool stays = szStays && kulgui_keepScreen(T) == 0;
     kulgui_destroyAll();
-    if (szStays)
-        dprintf(STDOUT_FILENO, "%s\n", szStays);
+    if (szStays && !stays) {
+        Buffer text;
+        text.add(szStays).add('\n').writeTo(STDOUT_FILENO);
+    }
 }
 
 int answerDescriptor(const Settings& settings)

@@ -5,6 +5,8 @@
 #ifndef KULDIALOG_TERMINAL_HPP
 #define KULDIALOG_TERMINAL_HPP
 
+#include <kulgui.h>
+
 #include "settings.hpp"
 
 namespace kuldialog {
@@ -15,9 +17,16 @@ extern int nScriptInput;
 // Gives descriptors 0 and 1 to the terminal, remembering what they were. False without one.
 bool takeTerminal();
 
-// Starts curses, once. False where the terminal is of no use.
+// Opens the screen, once, with the desktop on all of it. False where the terminal is of no use.
 bool openScreen();
 bool isScreenOpen();
+
+constexpr int kDesktopChain = 0;
+GUI* desktop(); // null before that
+
+// Its size; 0 before that.
+int screenWidth();
+int screenHeight();
 
 // Gives the terminal back. What an information box showed stays where the terminal can keep it.
 void closeScreen(const char* szStays);

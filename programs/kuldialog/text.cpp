@@ -1,34 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "text.hpp"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <cwchar>
 
 namespace kuldialog {
 
 namespace {
-
-bool isBlank(char character)
-{
-    return character == ' ' || character == '\t';
-}
-
-// The next character's bytes; its columns go to nColumns. What is no character takes one.
-std::size_t step(const char* szText, int& nColumns)
-{
-    nColumns = 1;
-    if (static_cast<signed char>(*szText) >= 0)
-        return 1;
-    std::mbstate_t state{};
-    wchar_t wide;
-    const std::size_t size = std::mbrtowc(&wide, szText, MB_CUR_MAX, &state);
-    if (size > MB_CUR_MAX)
-        return 1;
-    nColumns = std::max(wcwidth(wide), wide < 0xa0 ? 1 : 0);
-    return size;
-}
 
 // How one of the programs reads a text; the other one knows "\n" alone.
 struct Reading {
@@ -78,110 +56,24 @@ char* prepareText(const Settings& settings, const char* szText)
     return text;
 }
 
-int columns(const char* szText)
-{
-    int nAll = 0;
-    int nColumns;
-    for (; *szText && *szText != '\n'; nAll += nColumns)
-        szText += step(szText, nColumns);
-    return nAll;
-}
-
 int letters(const char* szText, std::size_t size)
 {
     int nLetters = 0;
-    int nColumns;
-    for (const char* at = szText; at<szText + size; nLetters += nColumns> 0)
-        at += step(at, nColumns);
+    for (const char* at = szText; *at && at < szText + size; ++nLetters)
+        at += kulgui_nextLetter(at, nullptr);
     return nLetters;
 }
 
 std::size_t bytesWithin(const char* szText, int nColumns)
 {
     const char* at = szText;
-    int nWide;
-    while (*at) {
-        const std::size_t size = step(at, nWide);
+    for (int nWide; *at;) {
+        const int nBytes = kulgui_nextLetter(at, &nWide);
         if ((nColumns -= nWide) < 0)
             break;
-        at += size;
+        at += nBytes;
     }
     return static_cast<std::size_t>(at - szText);
-}
-
-int widestLine(const char* szText)
-{
-    int nWidest = 0;
-    while (szText) {
-        nWidest = std::max(nWidest, columns(szText));
-        szText = std::strchr(szText, '\n');
-        szText += szText != nullptr;
-    }
-    return nWidest;
-}
-
-Rows::~Rows()
-{
-    std::free(rows_);
-}
-
-bool Rows::add(const char* from, const char* to)
-{
-    if (count_ == room_) {
-        const int nRoom = 2 * room_ + 16;
-        void* grown = std::realloc(rows_, static_cast<std::size_t>(nRoom) * sizeof(Row));
-        if (!grown)
-            return false;
-        rows_ = static_cast<Row*>(grown);
-        room_ = nRoom;
-    }
-    rows_[count_++] = {static_cast<unsigned>(from - text_), static_cast<unsigned>(to - from)};
-    return true;
-}
-
-bool Rows::wrap(const char* szText, int nWidth)
-{
-    text_ = szText;
-    count_ = 0;
-    nWidth = std::max(nWidth, 1);
-    for (const char* at = szText; *at;) {
-        const char* line = std::strchr(at, '\n');
-        const char* end = line ? line : at + std::strlen(at);
-        const char* to = at + bytesWithin(at, nWidth);
-        const char* next = nullptr;
-        if (to >= end) {
-            to = end;
-            next = line ? line + 1 : end;
-        } else {
-            // The blank that the row ends with, or the last one in it, unless all before are.
-            const char* blank = to;
-            while (blank > at && !isBlank(*blank))
-                --blank;
-            const char* word = blank;
-            while (word > at && isBlank(word[-1]))
-                --word;
-            if (word > at) {
-                to = word;
-                for (next = blank + 1; isBlank(*next);)
-                    ++next;
-                next += *next == '\n';
-            } else {
-                int nWide;
-                to = std::max(to, at + step(at, nWide));
-                next = to;
-            }
-        }
-        if (!add(at, to))
-            return false;
-        at = next;
-    }
-    return true;
-}
-
-const char* Rows::row(int nRow, std::size_t& size) const
-{
-    size = nRow >= 0 && nRow < count_ ? rows_[nRow].size : 0;
-    return size ? text_ + rows_[nRow].start : "";
 }
 
 } // namespace kuldialog

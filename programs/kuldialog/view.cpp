@@ -12,6 +12,7 @@
 
 #include "boxes.hpp"
 #include "options.hpp"
+#include "terminal.hpp"
 #include "window.hpp"
 
 namespace kuldialog {
@@ -77,14 +78,11 @@ int viewKey(Window& window, int nKey)
 
 Answer runView(const Call& call)
 {
-    const Settings& settings = call.settings;
     Buffer file;
     if (!loadable(call.argument(0), file))
         return kFailed;
-    Window window(settings, "", call.number(1), call.number(2));
-    window.wantBody(LINES, 1, COLS);
-    window.addButtons(settings.text(kExitLabel, settings.text(kOkLabel, "OK")), nullptr);
-    if (!window.open())
+    Window window(call, "");
+    if (!window.open(name == kWhiptail ? kOk : kExit, screenHeight(), 1, screenWidth()))
         return kFailed;
     kulfileview_create(window.nChain, kBody);
     kulfileview_config(window.nChain, kBody, colors[kWindowColor], colors[kWindowColor], KUL_KEEP,

@@ -8,6 +8,8 @@
 
 #include <kulgui.h>
 
+#include "terminal.hpp"
+
 namespace kuldialog {
 
 namespace {
@@ -15,6 +17,7 @@ namespace {
 constexpr int kFrame = 2;
 constexpr int kMargins = 4; // of text: frame and a blank at both sides
 constexpr int kGap = 3;     // between buttons
+constexpr int kWidest = 72; // columns of text; longer rows are hard to read
 constexpr int kInterrupt = 3;
 
 int nLastChain = 0;
@@ -34,9 +37,9 @@ char lowered(int nKey)
 
 Window* Window::running = nullptr;
 
-Window::Window(const Settings& asked, const char* szText, int nAskedHeight, int nAskedWidth)
-    : settings(asked), nChain(++nLastChain), nWidth(nAskedWidth), nHeight(nAskedHeight),
-      text_(prepareText(asked, szText))
+Window::Window(const Call& call, const char* szText, int nSizeAt)
+    : settings(call.settings), nChain(++nLastChain), nWidth(call.number(nSizeAt + 1)),
+      nHeight(call.number(nSizeAt)), text_(prepareText(call.settings, szText))
 {
 }
 
@@ -45,27 +48,34 @@ Window::~Window()
     std::free(text_);
 }
 
-void Window::wantBody(int nRows, int nLeastRows, int nColumns)
-{
-    bodyWanted_ = nRows;
-    bodyLeast_ = nLeastRows;
-    bodyColumns_ = nColumns;
-}
-
 void Window::addButton(Answer answer, const char* szLabel)
 {
     if (buttonCount_ < kMostButtons)
         buttons_[buttonCount_++] = {answer, szLabel};
 }
 
-void Window::addButtons(const char* szAccept, const char* szCancel)
+void Window::addButtons(Buttons buttons)
 {
+    struct Labels {
+        Text accept;
+        char acceptText[5];
+        Text cancel;
+        char cancelText[7]; // empty for none
+    };
+    static constexpr Labels kLabels[] = {{kOkLabel, "OK", kCancelLabel, ""},
+                                         {kExitLabel, "Exit", kCancelLabel, ""},
+                                         {kOkLabel, "OK", kCancelLabel, "Cancel"},
+                                         {kYesLabel, "Yes", kNoLabel, "No"}};
+    if (buttons == kNoButtons)
+        return;
+    const Labels& labels = kLabels[buttons - kOk];
+    const char* szAccept = settings.text(labels.accept, labels.acceptText);
     if (!settings.is(kNoOk))
         addButton(kAccepted, szAccept);
     if (settings.is(kExtraButton))
         addButton(kExtra, settings.text(kExtraLabel, "Extra"));
-    if (szCancel && !settings.is(kNoCancel))
-        addButton(kCancelled, szCancel);
+    if (*labels.cancelText && !settings.is(kNoCancel))
+        addButton(kCancelled, settings.text(labels.cancel, labels.cancelText));
     if (settings.is(kHelpButton))
         addButton(kHelped, settings.text(kHelpLabel, "Help"));
     if (buttonCount_ == 0)
@@ -88,16 +98,18 @@ void Window::measure()
     const int nNeeded =
         std::max({widestLine(text_), bodyColumns_, buttonColumns(), columns(szTitle) + kGap});
     if (nWidth <= 0)
-        nWidth = nWidth < 0 ? COLS : nNeeded + kMargins;
-    nWidth = std::clamp(nWidth, std::min(COLS, std::max(buttonColumns(), 4) + kMargins), COLS);
+        nWidth = nWidth < 0 ? screenWidth()
+                            : std::min(nNeeded, std::max(bodyColumns_, kWidest)) + kMargins;
+    nWidth = std::clamp(nWidth, std::min(screenWidth(), std::max(buttonColumns(), 4) + kMargins),
+                        screenWidth());
     area_.wrap(text_, nWidth);
 
     const int nText = area_.rows();
     const int nLeast = kFrame + nRow + bodyLeast_ + (nText > 0);
     const int nBest = kFrame + nRow + bodyWanted_ + nText + (nRow && nText + bodyWanted_ > 0);
     if (nHeight <= 0)
-        nHeight = nHeight < 0 ? LINES : nBest;
-    nHeight = std::clamp(nHeight, std::min(nLeast, LINES), std::max(LINES, 1));
+        nHeight = nHeight < 0 ? screenHeight() : nBest;
+    nHeight = std::clamp(nHeight, std::min(nLeast, screenHeight()), std::max(screenHeight(), 1));
 
     const int nRoom = nHeight - kFrame - nRow;
     textRows_ = std::clamp(nRoom - bodyLeast_, 0, nText);
@@ -152,14 +164,18 @@ int Window::defaultButton() const
     return 0;
 }
 
-bool Window::open()
+bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
 {
     if (!text_)
         return false;
+    bodyWanted_ = nRows;
+    bodyLeast_ = nLeastRows;
+    bodyColumns_ = nColumns;
+    addButtons(buttons);
     measure();
     const bool cornered = settings.is(kTopLeft);
-    const int nMiddleX = (COLS - nWidth) / 2;
-    const int nMiddleY = (LINES - nHeight) / 2;
+    const int nMiddleX = (screenWidth() - nWidth) / 2;
+    const int nMiddleY = (screenHeight() - nHeight) / 2;
     const int nAskedX = settings.numbers[kBeginX];
     const int nAskedY = settings.numbers[kBeginY];
     const int nX = cornered ? 0 : nAskedX != kNone ? nAskedX : nMiddleX;
@@ -169,9 +185,9 @@ bool Window::open()
     }
     kulgui_create(nChain);
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      title_.text(), BORDER, std::clamp(nX, 0, std::max(COLS - nWidth, 0)),
-                      std::clamp(nY, 0, std::max(LINES - nHeight, 0)), nWidth, nHeight, nullptr,
-                      nullptr, nullptr, nullptr, nullptr) != 0)
+                      title_.text(), BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
+                      nullptr, nullptr, nullptr, nullptr, nullptr) != 0)
         return false;
     area_.create(nChain, 1, textRows_);
     createLineBelow();

@@ -29,23 +29,20 @@ enum Reference {
     kSecondArea = 23000
 };
 
+// The usual rows of buttons.
+enum Buttons : unsigned char { kNoButtons, kOk, kExit, kOkCancel, kYesNo };
+
 class Window {
 public:
-    Window(const Settings& asked, const char* szText, int nAskedHeight, int nAskedWidth);
+    // The size stands in the arguments from nSizeAt on.
+    Window(const Call& call, const char* szText, int nSizeAt = 1);
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
     ~Window();
 
-    // Before open():
-
-    // What the body needs and would like to have. It comes below the text.
-    void wantBody(int nRows, int nLeastRows, int nColumns);
-    void addButton(Answer answer, const char* szLabel);
-    // The usual buttons: what accepts, extra, what cancels, help.
-    void addButtons(const char* szAccept, const char* szCancel);
-
-    // Makes the dialog, centred or where the settings put it. False without memory or screen.
-    bool open();
+    // Makes the dialog, in the middle or where the settings put it, with room for a body of nRows,
+    // or nLeastRows at least, below the text. False without memory or screen.
+    bool open(Buttons buttons, int nRows = 0, int nLeastRows = 0, int nColumns = 0);
 
     // Runs it until a button is clicked, Escape, or end(). A window without buttons waits for what
     // the box does by itself.
@@ -82,6 +79,8 @@ private:
     static constexpr int kMostButtons = 4;
 
     void measure();
+    void addButtons(Buttons buttons);
+    void addButton(Answer answer, const char* szLabel);
     void createButtons();
     void createLineBelow();
     int movedInRow(int nKey);

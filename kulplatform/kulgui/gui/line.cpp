@@ -173,6 +173,11 @@ void prepareBytes()
     captureAll(entering, {"smcup", "enacs", "civis"});
 }
 
+bool hasOwnScreen()
+{
+    return ownScreen;
+}
+
 void clearScreen()
 {
     if (!ownScreen)

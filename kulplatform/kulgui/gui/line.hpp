@@ -45,6 +45,9 @@ struct Controls {
 };
 Controls passingControls();
 
+// Whether leaving brings back what was there before, on a screen of its own.
+bool hasOwnScreen();
+
 // Clears the screen and leaves the cursor in its last row, unless leaving it brings back what was
 // there before.
 void clearScreen();

@@ -23,6 +23,7 @@ enum class State { Closed, Suspended, Open };
 
 int nEnvSetting = F;
 State state = State::Closed;
+bool keepsScreen = false;
 
 // Ends curses' hold on the terminal; the descriptor's flags are the caller's.
 void leaveScreen(State next)
@@ -30,7 +31,8 @@ void leaveScreen(State next)
     const kul::Blocking blocking;
     state = next;
     echo();
-    kul::clearScreen();
+    if (!keepsScreen)
+        kul::clearScreen();
     endwin();
     kul::giveBackSignals();
 }
@@ -156,6 +158,12 @@ int EndGUIEnvironment()
         closeScreen();
     state = State::Closed;
     return 0;
+}
+
+int kulgui_keepScreen(int bKeep)
+{
+    keepsScreen = bKeep == T;
+    return state == State::Open && !kul::hasOwnScreen() ? 0 : -1;
 }
 
 int InitializeColorSets()

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A command's output as it comes. What the command sends cannot command the terminal: escape
-// sequences are taken out whole, and of the output only the last part is kept.
-#include <algorithm>
+// A command's output as it comes.
 #include <cerrno>
 #include <csignal>
 
@@ -12,70 +10,20 @@
 #include <unistd.h>
 
 #include "frame.hpp"
+#include "output.hpp"
 
 namespace {
 
 using kulready::Frame;
 
-constexpr std::size_t kMostText = 1 << 16;
 constexpr int kMostReads = 16; // before keys are looked at again
-constexpr char kEscape = 27;
-
-// Takes escape sequences and control characters out of a stream of bytes, cut anywhere.
-class Filter {
-public:
-    void feed(char byte, kulready::Text& out)
-    {
-        const bool isFinal = byte >= '@' && byte <= '~';
-        switch (state_) {
-        case State::ESCAPE:
-            state_ = byte == '[' ? State::CONTROL
-                     : byte == ']' || byte == 'P' || byte == '^' || byte == '_' || byte == 'X'
-                         ? State::STRING
-                     : byte >= ' ' && byte <= '/' ? State::ESCAPE
-                                                  : State::TEXT;
-            return;
-        case State::CONTROL:
-            if (isFinal || byte == kEscape)
-                state_ = byte == kEscape ? State::ESCAPE : State::TEXT;
-            return;
-        case State::STRING:
-            if (byte == '\a' || byte == kEscape)
-                state_ = byte == kEscape ? State::ESCAPE : State::TEXT;
-            return;
-        case State::TEXT:
-            text(byte, out);
-        }
-    }
-
-private:
-    enum class State { TEXT, ESCAPE, CONTROL, STRING };
-
-    // A line that is written over, as progress is told, becomes lines.
-    void text(char byte, kulready::Text& out)
-    {
-        if (returned_ && byte != '\n' && byte != '\r')
-            out.add("\n");
-        returned_ = byte == '\r';
-        if (byte == kEscape)
-            state_ = State::ESCAPE;
-        else if (byte == '\t')
-            out.add("    ");
-        else if (byte == '\n' || static_cast<unsigned char>(byte) >= ' ')
-            out.add(&byte, 1);
-    }
-
-    State state_ = State::TEXT;
-    bool returned_ = false;
-};
 
 struct Command {
     pid_t nProcess;
     int nOutput;
     int nResult; // -1 while it runs
     bool ending; // the user wants it to end
-    Filter filter;
-    kulready::Text text;
+    kulready::Output output;
     Frame* frame;
 };
 
@@ -102,20 +50,6 @@ void finish(Command& command)
         command.frame->end(0);
 }
 
-void takeOutput(Command& command, const char* bytes, std::size_t size)
-{
-    for (std::size_t i = 0; i < size; ++i)
-        command.filter.feed(bytes[i], command.text);
-    if (command.text.size() <= kMostText)
-        return;
-    // Whole lines go.
-    const char* text = command.text.text();
-    std::size_t gone = command.text.size() - kMostText / 2;
-    while (gone < command.text.size() && text[gone - 1] != '\n')
-        ++gone;
-    command.text.removeFront(gone);
-}
-
 void readOutput()
 {
     Command& command = *running;
@@ -129,9 +63,9 @@ void readOutput()
             finish(command);
             break;
         }
-        takeOutput(command, bytes, static_cast<std::size_t>(size));
+        command.output.feed(bytes, static_cast<std::size_t>(size));
     }
-    command.frame->setText(command.text.text(), following);
+    command.frame->setText(command.output.text(), following);
     command.frame->show();
 }
 
@@ -193,7 +127,7 @@ bool start(Command& command, const char* szCommand)
 
 int runCommand(Frame& frame, const char* szCommand)
 {
-    Command command = {-1, -1, -1, false, {}, {}, &frame};
+    Command command = {-1, -1, -1, false, {}, &frame};
     frame.want(0, 0, GetWindowWidth(stdscr));
     frame.wantText(GetWindowHeight(stdscr));
     frame.addButtons(kulready::word(KULWORD_CLOSE), nullptr);
