@@ -33,18 +33,11 @@ static void refreshDesktop(void)
     }
 }
 
-static int smaller(int a, int b)
-{
-    return a < b ? a : b;
-}
-
 static void makeDialog(int nChain, const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
 {
-    const int nW = smaller(nWidth, COLS - 1);
-    const int nH = smaller(nHeight, LINES - 1);
     kulgui_create(nChain);
-    kulgui_config(nChain, PAGE_COLOR, HERE, THERE, OFF, szTitle, BORDER, (COLS - nW) / 2,
-                  (LINES - nH + 1) / 2, nW, nH, NULL, onPoll, NULL, NULL, NULL);
+    kulgui_config(nChain, PAGE_COLOR, HERE, THERE, OFF, szTitle, BORDER, KUL_CENTER, KUL_CENTER,
+                  nWidth, nHeight, NULL, onPoll, NULL, NULL, NULL);
 }
 
 const GUI* openPage(const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
@@ -97,7 +90,7 @@ static void openChosen(void)
 
 static void makeMenu(void)
 {
-    const int nRows = smaller(PAGES + 1, LINES - 6);
+    const int nRows = PAGES + 1;
     makeDialog(MENU_OF_PAGES, " kulgui ", 32, nRows + 4, NULL);
     kuldynmenu_create(MENU_OF_PAGES, OWN);
     kuldynmenu_config(MENU_OF_PAGES, OWN, HERE, THERE, OFF, 2, 1, 26, nRows, NULL, NULL, NULL,
