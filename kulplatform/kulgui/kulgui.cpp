@@ -3,6 +3,8 @@
 // The calls for dialogs: create, configure, run, show, hide, destroy.
 #include "kulgui.h"
 
+#include <algorithm>
+
 #include "gui/chain.hpp"
 #include "gui/edition.hpp"
 #include "gui/frame.hpp"
@@ -185,6 +187,16 @@ int kulgui_setEdition(int nEdition)
 int kulgui_getEdition()
 {
     return kul::nEdition;
+}
+
+int kulgui_getColumns()
+{
+    return std::max(GetWindowWidth(stdscr), 0);
+}
+
+int kulgui_getRows()
+{
+    return std::max(GetWindowHeight(stdscr), 0);
 }
 
 int kulgui_create(int nChain)

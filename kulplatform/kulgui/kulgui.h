@@ -279,6 +279,10 @@ KULGUI_API int kulgui_setEdition(int nEdition);
 /** The edition that runs, 1 or 2. */
 KULGUI_API int kulgui_getEdition(void);
 
+/** Columns and rows of the screen as it is now; 0 before the terminal was first opened. */
+KULGUI_API int kulgui_getColumns(void);
+KULGUI_API int kulgui_getRows(void);
+
 /** Makes a chain numbered nChain. With KUL_KEEP the first chain becomes 0; a later one gets the
  * first number above the count of dialogs that is already in use, wrapping round, so name later
  * chains yourself. Returns the number, -10000 if it is in use, -1 without memory. */

@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT
  *
  * Runs the ready dialog that the first word names and prints its result on the line that it leaves:
- *   tell ask enter secret form choose check option view progress run pick
+ *   tell ask enter secret form choose check option view progress run pick; lend lends the terminal first
  * The second word is what the dialog needs: a file, a command, a directory, a number of items.
  */
 #include <kulgui.h>
@@ -81,6 +81,12 @@ int main(int argc, char** argv)
         result = kuldialog_view(NULL, with, F);
     } else if (strcmp(what, "progress") == 0) {
         result = progress();
+    } else if (strcmp(what, "lend") == 0) {
+        NCursesEnv(1);
+        result =
+            kulgui_run("exit 7") == 7 << 8 && kulgui_run(NULL) == -1 && kulgui_suspend() == 0 && kulgui_resume() == 0;
+        result += kuldialog_tell("Title", text);
+        kulgui_destroyAll();
     } else if (strcmp(what, "run") == 0) {
         result = kuldialog_run("Run", with);
     } else if (strcmp(what, "pick") == 0) {
@@ -88,5 +94,7 @@ int main(int argc, char** argv)
         result = kuldialog_pick("Pick", with, out + 1, sizeof out - 1);
     }
     printf("=%d%s=\n", result, out);
+    if (kulgui_getColumns() * kulgui_getRows() <= 0)
+        return 2;
     return GetPrimaryChain() || kulgui_getEdition() != 1;
 }

@@ -70,7 +70,8 @@ TEST_P(Ready, GivesResults)
         {"view, no file", {"view", "/none"}, {}, "=-2="},
         {"progress", {"progress"}, {"enter"}, "=0="},
         {"run", {"run", "printf '\\033]0;title\\007out\\033[2Jput'; exit 3"}, {"enter"}, "=3="},
-        {"run, ended", {"run", "sleep 60"}, {"esc", "left", "enter"}, "=143="},
+        {"run, ended", {"run", "sleep 60"}, {"enter", "left", "enter"}, "=143="},
+        {"lent before", {"lend"}, {"enter"}, "=1="},
         {"pick", {"pick", file.directory()}, {"down", "enter"}, "=0 " + file.path() + "="},
     };
     for (const Row& row : rows) {

@@ -46,7 +46,7 @@ void printFrameTitle(const GUI& gui)
     }
     const kul::Attribute color(gui.winMain, gui.nColorStandard);
     kul::printLetters(gui.winMain, 0, std::max(nX, 1), kul::shifted(gui.nWidth, -1), szTitle,
-                      kul::Controls::Whole);
+                      kul::ShownControls::Whole);
 }
 
 } // namespace

@@ -117,7 +117,7 @@ struct Row {
     int nY;
     int nEnd;
     int nWidth;
-    kul::Controls controls;
+    kul::ShownControls controls;
     bool bytes; // texts are bytes
 };
 
@@ -136,9 +136,9 @@ long long printFront(const Row& row, int nX, std::string_view& text)
     text.remove_prefix(letter.nBytes);
     const char first = rest.front();
     const bool isSpelled = kul::isAscii(first) ? !kul::isPlain(first) : row.bytes;
-    if (isSpelled && row.controls != kul::Controls::Skipped) {
+    if (isSpelled && row.controls != kul::ShownControls::Skipped) {
         const int nSpelled = spell(row.win, row.nY, nX, row.nEnd, first);
-        return row.controls == kul::Controls::Whole ? nSpelled : 1;
+        return row.controls == kul::ShownControls::Whole ? nSpelled : 1;
     }
     const bool isBlank = isSpelled && kul::isAscii(first);
     if (!isBlank && kul::shifted(nX, letter.nColumns) <= row.nEnd)
@@ -150,7 +150,7 @@ long long printFront(const Row& row, int nX, std::string_view& text)
 void printOther(WINDOW* win, int nY, int nX, std::string_view text, bool onRow)
 {
     if (kul::isEdition2()) {
-        kul::printLetters(win, nY, nX, INT_MAX, text, kul::Controls::Whole);
+        kul::printLetters(win, nY, nX, INT_MAX, text, kul::ShownControls::Whole);
         return;
     }
     if (!onRow)
@@ -170,7 +170,7 @@ void drawText(WINDOW* win, int nY, int nX, std::string_view text, int nWidth)
     if (allPlain(text))
         plainRun(win, nY, nX, text);
     else if (countsColumns())
-        printLetters(win, nY, nX, INT_MAX, text, Controls::InOneColumn, nWidth);
+        printLetters(win, nY, nX, INT_MAX, text, ShownControls::InOneColumn, nWidth);
     else
         drawBytes(win, nY, nX, text);
 }
@@ -194,8 +194,8 @@ void printOnRow(WINDOW* win, int nY, int nX, const char* szText)
         printOther(win, nY, nX, text, true);
 }
 
-void printLetters(WINDOW* win, int nY, int nX, int nEnd, std::string_view text, Controls controls,
-                  int nWidth)
+void printLetters(WINDOW* win, int nY, int nX, int nEnd, std::string_view text,
+                  ShownControls controls, int nWidth)
 {
     nEnd = std::min(nEnd, getmaxx(win));
     const Row row = {win, nY, nEnd, nWidth, controls, !countsColumns()};

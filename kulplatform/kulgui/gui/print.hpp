@@ -26,7 +26,7 @@ void print(WINDOW* win, int nY, int nX, const char* szText);
 void printOnRow(WINDOW* win, int nY, int nX, const char* szText);
 
 // What shows for control characters, and for bytes above 127 where texts are bytes.
-enum class Controls {
+enum class ShownControls {
     InOneColumn, // as curses has it, "^A"; what follows covers all but the first cell
     Whole,       // as curses has it, what follows stands behind it
     Skipped,     // nothing, in one column; a byte above 127 has its stand-in
@@ -34,8 +34,8 @@ enum class Controls {
 
 // Prints a text letter by letter up to column nEnd, for a box of nWidth columns; what lies outside
 // of the window, whole or in part, is cut.
-void printLetters(WINDOW* win, int nY, int nX, int nEnd, std::string_view text, Controls controls,
-                  int nWidth = INT_MAX);
+void printLetters(WINDOW* win, int nY, int nX, int nEnd, std::string_view text,
+                  ShownControls controls, int nWidth = INT_MAX);
 
 } // namespace kul
 

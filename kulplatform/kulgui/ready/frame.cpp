@@ -114,8 +114,8 @@ void Frame::addButtons(const char* szAccept, const char* szCancel)
 // What text, body and buttons need, within the screen.
 void Frame::measure()
 {
-    const int nScreenWidth = std::max(GetWindowWidth(stdscr), 1);
-    const int nScreenHeight = std::max(GetWindowHeight(stdscr), 1);
+    const int nScreenWidth = std::max(kulgui_getColumns(), 1);
+    const int nScreenHeight = std::max(kulgui_getRows(), 1);
     const int nText = std::min(widestLine(szText_), kWidest - kMargins);
     const int nNeeded =
         std::max({nText, nColumns_, nButtonColumns_, columns(title_.text()) + 2 - kMargins});

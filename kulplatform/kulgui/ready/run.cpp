@@ -128,8 +128,8 @@ bool start(Command& command, const char* szCommand)
 int runCommand(Frame& frame, const char* szCommand)
 {
     Command command = {-1, -1, -1, false, {}, &frame};
-    frame.want(0, 0, GetWindowWidth(stdscr));
-    frame.wantText(GetWindowHeight(stdscr));
+    frame.want(0, 0, kulgui_getColumns());
+    frame.wantText(kulgui_getRows());
     frame.addButtons(kulready::word(KULWORD_CLOSE), nullptr);
     if (!frame.open() || !start(command, szCommand))
         return kulready::kUnusable;

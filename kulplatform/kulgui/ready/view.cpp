@@ -57,8 +57,8 @@ int runView(Frame& frame, const char* szFileName, int bFollow)
 {
     View view = {};
     frame.body = &view;
-    const int nRows = GetWindowHeight(stdscr);
-    frame.want(nRows, 1, GetWindowWidth(stdscr));
+    const int nRows = kulgui_getRows();
+    frame.want(nRows, 1, kulgui_getColumns());
     frame.addButtons(kulready::word(KULWORD_CLOSE), kulready::word(KULWORD_SEARCH));
     if (!frame.open())
         return kulready::kUnusable;

@@ -52,7 +52,7 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
 {
     const int nEnd = std::min(kul::shifted(nX, nWidth), getmaxx(win));
     if (kul::isEdition2()) {
-        kul::printLetters(win, nY, nX, nEnd, szText, kul::Controls::Skipped, nWidth);
+        kul::printLetters(win, nY, nX, nEnd, szText, kul::ShownControls::Skipped, nWidth);
         return;
     }
     if (!kul::isDrawn(win, nY))
