@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+//
+// Each kind of component as its example shows it, on three terminals and two sizes, compared with
+// the pictures in one folder: the rows of the screen, then the rows of its colours, a letter for
+// each look. With KULGUI_RENEW in the environment the pictures are written instead.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "terminal.hpp"
+
+namespace {
+
+using namespace kultools;
+
+std::string look(const Cell& cell)
+{
+    std::string text = std::to_string(cell.foreground) + " on " + std::to_string(cell.background);
+    text += cell.bold ? ", bold" : "";
+    text += cell.underline ? ", underlined" : "";
+    text += cell.reverse ? ", reversed" : "";
+    return text;
+}
+
+// The screen down to its last row that is not empty.
+std::string pictureOf(const Terminal& terminal, int columns, int rows)
+{
+    std::map<std::string, char> letters = {{look(Cell{}), '.'}};
+    std::string text;
+    std::string colors;
+    std::string legend;
+    for (int row = 0; row < rows; ++row) {
+        text += terminal.row(row) + '\n';
+        for (int column = 0; column < columns; ++column) {
+            const std::string now = look(terminal.cell(row, column));
+            const auto [entry, added] = letters.try_emplace(now, static_cast<char>('a' + letters.size() - 1));
+            if (added)
+                legend += std::string(1, entry->second) + ": " + now + '\n';
+            colors += entry->second;
+        }
+        colors += '\n';
+    }
+    const Cursor cursor = terminal.cursor();
+    legend += cursor.visible ? "cursor: " + std::to_string(cursor.row) + ", " + std::to_string(cursor.column) + '\n'
+                             : "no cursor\n";
+    return text + '\n' + colors + '\n' + legend;
+}
+
+class Kinds : public testing::TestWithParam<const char*> {};
+
+TEST_P(Kinds, LookLikeTheirPictures)
+{
+    for (const char* term : {"linux", "xterm-256color", "vt100"}) {
+        for (const auto& [columns, rows] : {std::pair(80, 24), std::pair(40, 9)}) {
+            Launch launch;
+            launch.argv = {std::string(KULGUI_KINDS "/") + GetParam(), KULGUI_LICENSE};
+            launch.term = term;
+            launch.columns = columns;
+            launch.rows = rows;
+            launch.environment = {"LC_ALL=C.UTF-8"};
+            Terminal terminal(launch);
+            ASSERT_TRUE(terminal.waitFor([&] { return terminal.text().find("─ ") != std::string::npos; }));
+            ASSERT_TRUE(terminal.settle());
+            const std::string shown = pictureOf(terminal, columns, rows);
+            const std::string name = std::string(KULGUI_PICTURES "/") + GetParam() + '-' + term + '-' +
+                                     std::to_string(columns) + 'x' + std::to_string(rows) + ".txt";
+            if (std::getenv("KULGUI_RENEW")) {
+                std::ofstream(name) << shown;
+                continue;
+            }
+            std::stringstream stored;
+            stored << std::ifstream(name).rdbuf();
+            EXPECT_EQ(stored.str(), shown) << name;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Kinds,
+                         testing::Values("menu", "dynmenu", "descrmenu", "button", "toolbar", "checkbox", "options",
+                                         "fileview", "textbox", "statbar", "scrollbar", "progbar", "descrfield", "box",
+                                         "line", "label"));
+
+} // namespace
