@@ -74,7 +74,7 @@ void Window::addButtons(Buttons buttons)
         addButton(kAccepted, szAccept);
     if (settings.is(kExtraButton))
         addButton(kExtra, settings.text(kExtraLabel, "Extra"));
-    if (*labels.cancelText && !settings.is(kNoCancel))
+    if (*labels.cancelText && (buttons == kYesNo || !settings.is(kNoCancel)))
         addButton(kCancelled, settings.text(labels.cancel, labels.cancelText));
     if (settings.is(kHelpButton))
         addButton(kHelped, settings.text(kHelpLabel, "Help"));

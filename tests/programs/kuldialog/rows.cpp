@@ -72,6 +72,7 @@ const std::vector<Row> kRows = {
     {kAll, YESNO(""), "right enter", 1, ""},
     {kAll, YESNO(""), "tab tab tab enter", 1, ""},
     {kAll, YESNO("--defaultno"), "enter", 1, ""},
+    {kAll, YESNO("--nocancel"), "right enter", 1, ""},
     {kAll, YESNO("--yes-button Y --no-button N"), "tab space", 1, ""},
     {kOthers, YESNO(""), "n", 1, ""},
     {kOthers, YESNO("--extra-button --help-button"), "right enter", 3, ""},
