@@ -115,7 +115,7 @@ void enter()
 
 constexpr void (*kCalls[])() = {
 #define C(name) [] { call<name>(name); },
-#include "calls.inc"
+#include "calls.hpp"
 #undef C
     enter,
 };

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The calls that the interface target makes, by name.
+//
+// The calls that the interface target makes, for a macro C that takes their names.
+// clang-format off
     C(kulgui_version) C(kulgui_setEdition) C(kulgui_getEdition) C(kulgui_getColumns) C(kulgui_getRows)
     C(kulgui_create) C(kulgui_configPrime) C(kulgui_config) C(kulgui_show) C(kulgui_hide) C(kulgui_destroy)
     C(kulgui_exit) C(kulgui_hasExited) C(kulgui_getExitValue) C(kulgui_update) C(kulgui_leave) C(kulgui_setFocus)
@@ -50,3 +52,4 @@
     C(DrawBorder) C(DrawHLine) C(DrawVLine) C(DrawThickHLine) C(DrawThickVLine) C(DrawHTeeLine) C(DrawVTeeLine)
     C(Fill) C(FillReverse) C(WinFill) C(WinFillReverse) C(Offset) C(WrapText) C(NewStrToBox) C(GetWrapTextHeight)
     C(kulgui_nextLetter) C(ReturnLineStart) C(ReturnLineEnd) C(ReturnEOLPosition)
+    // clang-format on
