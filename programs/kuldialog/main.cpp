@@ -202,5 +202,6 @@ int main(int argc, char** argv)
     }
     kulgui_setEdition(2);
     readColors();
-    return Program(argc, argv).run();
+    static Program program(argc, argv); // what it keeps, it keeps to the end
+    return program.run();
 }

@@ -55,6 +55,15 @@ public:
             panel = new_panel(newwin(8, 30, 0, 0));
     }
 
+    ~Side()
+    {
+        enter();
+        for (PANEL* panel : panels)
+            del_panel(panel);
+    }
+    Side(const Side&) = delete;
+    Side& operator=(const Side&) = delete;
+
     void enter() const { set_term(screen_); }
 
     // What was written goes to the emulator.

@@ -19,7 +19,7 @@ void follow(kul::MenuView& view, const KULDYNMENU& menu)
 {
     const int nLast = std::max(view.place.count(menu.Element) - 1, 0);
     const int nShown = std::clamp(menu.nSelect, 0, nLast);
-    const int nBottom = menu.nHeight - 1;
+    const int nBottom = std::max(menu.nHeight, 1) - 1;
     view.nFirst = std::clamp(view.nFirst, std::max(nShown - nBottom, 0), nShown);
     view.nFirst = std::min(view.nFirst, std::max(nLast - nBottom, 0));
 }
