@@ -12,7 +12,10 @@
  *     hidden. Do not test them as C truth values.
  *  3. Results. 0 is success and a negative number an error, where a call says nothing else. The
  *     calls print nothing, set no errno and never end the program. Unknown references, NULL and
- *     numbers out of range get the documented code or do nothing.
+ *     numbers out of range get the documented code or do nothing. One thing is left to curses: it
+ *     ends the process where it finds no memory while it opens the terminal. NCursesEnv sees first
+ *     that enough can be had, and returns -1 if not; what other threads take meanwhile it cannot
+ *     know.
  *  4. Keep value. Where a call says so, the argument KUL_KEEP leaves a setting at its default.
  *  5. Places. nX counts columns and nY rows from 0 at the top left corner of the dialog's window,
  *     frame included; only a dialog's own nX and nY count from the corner of the screen. nWidth
@@ -21,8 +24,8 @@
  *     reaches beyond the right edge goes on at the start of the next row.
  *     A dialog lies where it was configured as long as all of it is on the screen there, else it is
  *     moved in; its record says where. One that is larger than the screen is shown in part: the
- * part follows the user, and an arrow or page key that changes nothing moves it. When the screen
- * gets another size all dialogs find their places anew, and keep their own sizes.
+ *     part follows the user, and an arrow or page key that changes nothing moves it. When the
+ *     screen gets another size all dialogs find their places anew, and keep their own sizes.
  *  6. Colours. A colour set is one of the 56 pairs of COLORSET, foreground_background. Fields and
  *     arguments are ints, so that KUL_KEEP and a plain number can be given as well.
  *  7. Ownership. The library owns every record, window and panel that it makes and frees them
