@@ -5,13 +5,14 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "kulgui.h"
 #include "scenes.hpp"
 
 int main(int argc, char** argv)
 {
-    const kulbench::Scene* scene = argc == 5 ? kulbench::findScene(argv[1]) : nullptr;
-    if (!scene) {
-        std::fprintf(stderr, "usage: %s SCENE ELEMENTS KEYS TERM\n", argv[0]);
+    const kulbench::Scene* scene = argc >= 5 ? kulbench::findScene(argv[1]) : nullptr;
+    if (!scene || kulgui_setEdition(argc > 5 ? std::atoi(argv[5]) : 1) != 0) {
+        std::fprintf(stderr, "usage: %s SCENE ELEMENTS KEYS TERM [EDITION]\n", argv[0]);
         return 2;
     }
     if (!kulbench::openTerminal(argv[4]))

@@ -14,15 +14,20 @@ bytes() {
     echo $(((some - none) / 300))
 }
 
-# counted SCENE ELEMENTS KEYS: instructions of the whole run
+# counted SCENE ELEMENTS KEYS [EDITION]: instructions of the whole run
 counted() {
-    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$keys" "$1" "$2" "$3" linux 2>&1 |
+    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$keys" "$1" "$2" "$3" linux "${4:-1}" 2>&1 |
         sed -n 's/.*Collected *: *//p'
 }
 
 # instructions SCENE ELEMENTS: of one key
 instructions() {
     echo $((($(counted "$1" "$2" 300) - $(counted "$1" "$2" 0)) / 300))
+}
+
+# early SCENE ELEMENTS EDITION: of one of the first keys, which do not go round a list
+early() {
+    echo $((($(counted "$1" "$2" 8 "$3") - $(counted "$1" "$2" 2 "$3")) / 6))
 }
 
 # adding SCENE ELEMENTS: instructions of one element
@@ -70,6 +75,12 @@ row "an arrow key in an option list of 10" "$(instructions options 10)" "" ""
 row "an arrow key in a dynamic menu of 10" "$(instructions menu 10)" "" ""
 row "a letter in a text box, edition 2" "$(instructions letters 20)" "" ""
 row "  one of 60,000" "$(instructions letters 60000)" "" ""
+
+echo
+row "Instructions of a key in both editions" "edition 1" "edition 2" ""
+for scene in text menu options checks; do
+    row "$scene" "$(early $scene 10 1)" "$(early $scene 10 2)" ""
+done
 
 echo
 row "Instructions in a list" "100" "1,000" "10,000"

@@ -51,10 +51,6 @@ Print nextPrint(const char* szText)
 void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
 {
     const int nEnd = std::min(kul::shifted(nX, nWidth), getmaxx(win));
-    if (kul::isEdition2()) {
-        kul::printLetters(win, nY, nX, nEnd, szText, kul::ShownControls::Skipped, nWidth);
-        return;
-    }
     if (!kul::isDrawn(win, nY))
         return;
     const std::string_view text(szText);
@@ -62,6 +58,10 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
         kul::plainRun(
             win, nY, nX,
             {szText, std::min(text.size(), static_cast<std::size_t>(std::max(nEnd - nX, 0)))});
+        return;
+    }
+    if (kul::isEdition2()) {
+        kul::printLetters(win, nY, nX, nEnd, szText, kul::ShownControls::Skipped, nWidth);
         return;
     }
     bool shown = false; // the letter that an accent goes to
