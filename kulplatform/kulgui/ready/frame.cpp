@@ -285,10 +285,20 @@ int Frame::moveInButtons(int nKey)
         return KS_RIGHT;
     if (nKey == KS_BACKTAB && nSelect > 0)
         return KS_LEFT;
+    enterButtons(nKey); // for when there is nothing else to go to
+    if (scroll(nKey))
+        return 0;
+    if (nKey != KS_UP)
+        return nKey;
+    return onKey ? onKey(*this, KS_BACKTAB) : KS_BACKTAB; // to what stands above
+}
+
+// Before a key leads to the buttons: the first of them is the next one, or the last when it leads
+// back.
+void Frame::enterButtons(int nKey) const
+{
     if (nKey == KS_TAB || nKey == KS_BACKTAB)
-        kulgui_select(nChain_, BUTTONS,
-                      nKey == KS_TAB ? 0 : nButtons_ - 1); // for when it comes round
-    return scroll(nKey) ? 0 : nKey;
+        kulgui_select(nChain_, BUTTONS, nKey == KS_TAB ? 0 : nButtons_ - 1);
 }
 
 void Frame::handleKey()
@@ -300,6 +310,8 @@ void Frame::handleKey()
     } else if (nKey == KS_ENTER) {
         click(0);
         nKey = 0;
+    } else {
+        enterButtons(nKey);
     }
     kulgui_setKey(nKey);
 }

@@ -99,6 +99,7 @@ private:
     void showRows();
     int lastFirst() const;
     bool scroll(int nKey);
+    void enterButtons(int nKey) const;
     int moveInButtons(int nKey);
     void handleKey();
     void click(int nButton);
