@@ -86,6 +86,8 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
     } rows[] = {
         {"leaves after its onUnfocus", [] { EXPECT_EQ(kulgui_leave(1), 0); note("click"); },
          KUL_LEFT, "+1 click -1 "},
+        {"leaves, and says where to begin the next time", [] { kulgui_leave(1); kulgui_setFocus(1, 2); },
+         KUL_LEFT, "+1 -1 "},
         {"moves the focus after making the dialog anew",
          [] {
              kulgui_destroy(1);

@@ -154,8 +154,10 @@ int runFocused(int nChain, int nResult, int& nStill)
     if (nHandled != -1)
         nResult = nHandled;
     int nEnd = endOfLoop(nChain);
-    if (nEnd == 0 && isEnd(nResult) && !kul::findDialog(nChain)->asked.refocused)
-        nEnd = nResult; // as the handler says, which has taken the request
+    // As the handler says, which has taken the request.
+    if (nEnd == 0 && isEnd(nResult) &&
+        (nResult == KUL_LEFT || !kul::findDialog(nChain)->asked.refocused))
+        nEnd = nResult;
     nStill = kul::waits() == nWaits ? nStill + 1 : 0;
     if (nEnd == 0 && nStill > 0 && (!able || nStill >= countComponents(nChain))) {
         nStill = 0;
