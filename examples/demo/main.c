@@ -33,6 +33,14 @@ static void refreshDesktop(void)
     }
 }
 
+// As large as a page would like to be, or as the screen is: pages lay themselves out in what they
+// get, down to 39 by 11. Of what a smaller screen cannot show, the part with the focus is seen.
+static int fitted(int nWanted, int nScreen, int nLeast)
+{
+    const int nRoom = (nScreen > nLeast ? nScreen : nLeast) - 1;
+    return nWanted < nRoom ? nWanted : nRoom;
+}
+
 static void makeDialog(int nChain, const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
 {
     kulgui_create(nChain);
@@ -42,7 +50,7 @@ static void makeDialog(int nChain, const char* szTitle, int nWidth, int nHeight,
 
 const GUI* openPage(const char* szTitle, int nWidth, int nHeight, KULCALLBACK onPoll)
 {
-    makeDialog(PAGE, szTitle, nWidth, nHeight, onPoll);
+    makeDialog(PAGE, szTitle, fitted(nWidth, COLS, 40), fitted(nHeight, LINES, 12), onPoll);
     const CHAIN* chain = GetChain(PAGE);
     return chain ? chain->Pointer : NULL;
 }

@@ -55,6 +55,19 @@ TEST(Demo, LivesOnSixColumns)
     EXPECT_TRUE(terminal.running()) << terminal.text();
 }
 
+TEST(Demo, FitsItsPagesToASmallScreen)
+{
+    Launch launch = demo("linux");
+    launch.columns = 40;
+    launch.rows = 12;
+    Terminal terminal(launch);
+    ASSERT_TRUE(terminal.settle());
+    terminal.press("A");
+    terminal.press("\r");
+    EXPECT_TRUE(terminal.waitForText("Host name")) << terminal.text();
+    EXPECT_NE(terminal.text().find("│ Back │ │ Quit │"), std::string::npos) << terminal.text();
+}
+
 TEST(Demo, ShowsItsItems)
 {
     Terminal terminal(demo("xterm-256color"));
