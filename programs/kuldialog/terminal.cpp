@@ -60,7 +60,9 @@ bool takeTerminal()
     const int nInput = openTerminal(STDIN_FILENO, nOutput);
     nScriptInput = fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, kAboveScripts);
     nScriptOutput = fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, kAboveScripts);
-    return put(nInput, STDIN_FILENO) & put(nOutput, STDOUT_FILENO);
+    const bool reads = put(nInput, STDIN_FILENO);
+    const bool writes = put(nOutput, STDOUT_FILENO);
+    return reads && writes;
 }
 
 bool isScreenOpen()
