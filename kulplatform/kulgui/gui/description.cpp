@@ -217,10 +217,12 @@ void askLines()
             now.lineBytes[static_cast<unsigned char>(szPairs[0])] = szPairs[1];
     }
 #if NCURSES_WIDECHAR
-    now.glyphs =
+    const bool unicode =
         std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0 && NCURSES_WACS('q')->chars[0] >= kLetters;
     const char* szTerm = std::getenv("TERM");
-    now.glyphsOnly = now.glyphs && alphabetIsLost(szTerm ? szTerm : "");
+    now.glyphsOnly = unicode && alphabetIsLost(szTerm ? szTerm : "");
+    // One without colours may be older than its program's locale: its alphabet is sure.
+    now.glyphs = now.glyphsOnly || (unicode && max_colors >= 8);
 #endif
 }
 
