@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <utility>
 
 namespace kulready {
 
@@ -212,13 +213,7 @@ bool Frame::open()
                       nullptr) != 0)
         return false;
     createText();
-    kulgui_setUser(nChain_, KUL_DIALOG, this);
     return buttons_.isWhole();
-}
-
-Frame& Frame::running()
-{
-    return *static_cast<Frame*>(kulgui_getUser(GetActiveChain(), KUL_DIALOG));
 }
 
 void Frame::show()
@@ -229,10 +224,13 @@ void Frame::show()
 int Frame::run()
 {
     createButtons();
-    kulgui_setOnKey(nChain_, [] { running().handleKey(); });
+    // Not found by the active chain: a program's callbacks may change that.
+    Frame* outer = std::exchange(running, this);
+    kulgui_setOnKey(nChain_, [] { running->handleKey(); });
     kulgui_setFocus(nChain_,
                     GetUIComponentByRef(nChain_, nFocus_) ? nFocus_ : static_cast<int>(BUTTONS));
     const int nEnd = kulgui_exec(nChain_);
+    running = outer;
     if (nEnd == KUL_CANCELLED)
         return kCancelled;
     return nEnd == KUL_LEFT ? nResult_ : kGone;

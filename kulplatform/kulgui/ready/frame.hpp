@@ -74,7 +74,6 @@ public:
     int bodyY() const { return nBodyY_; }
     int bodyWidth() const { return nWidth_ - 4; }
     int bodyHeight() const { return nBodyHeight_; }
-    int width() const { return nWidth_; }
     void select(int nButton) { nSelected_ = nButton; }
     void focusButtons() { nFocus_ = BUTTONS; }
     void end(int nResult); // as if that button was clicked, or kCancelled
@@ -87,12 +86,12 @@ public:
     bool (*mayEnd)(Frame& frame, int nButton) = nullptr;
     void* body = nullptr; // the kind's own
 
-    // The frame whose dialog runs now.
-    static Frame& running();
     // The component that has the focus in it.
     static int focused() { return GetCurrentSelection()->nUserInterface; }
 
 private:
+    static inline Frame* running = nullptr; // whose dialog runs now, the innermost one
+
     void measure();
     void createText();
     void createButtons();
