@@ -75,6 +75,7 @@ const Row kRows[] = {
     {"\033[1;\r\033[2\033[B\033]0;t\030a", {13, KS_DOWN, 'a'}},
     // a paste
     {"\033[200~a\rb\nc\033[201~\r", {'a', kul::kPastedNewline, 'b', kul::kPastedNewline, 'c', 13}},
+    {"\033[200~a\r\n\nb\033[201~\r\n", {'a', kul::kPastedNewline, kul::kPastedNewline, 'b', 13, 13}},
     // clang-format on
 };
 

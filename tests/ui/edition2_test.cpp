@@ -258,6 +258,21 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     kulgui_show(0);
     EXPECT_EQ(kultest::cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
     EXPECT_EQ(kulgui_setEdition(3), -1);
+    // what is selected in a menu without the focus
+    const auto menuAlone = [this] {
+        kulgui_destroy(1);
+        makeDialog(1);
+        addElements(DYNMENU);
+        kulgui_select(1, 1, 2);
+        GetChain(1)->Pointer->nCurrentUI = -1;
+        kulgui_show(1);
+        const kultest::Cell inside = kultest::cellOf(window(1), 3, 9);
+        EXPECT_EQ(kultest::cellOf(window(1), 2, 9).attributes, A_NORMAL);
+        return inside;
+    };
+    EXPECT_EQ(menuAlone().pair, BLACK_CYAN);
+    const kultest::NoColors none;
+    EXPECT_EQ(menuAlone().attributes, A_UNDERLINE);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "sequences.hpp"
 
@@ -114,12 +115,15 @@ int KeyDecoder::next()
         const FoundKey found = front();
         if (found.nBytes == 0)
             break;
+        const unsigned char before = std::exchange(before_, at(rest(), 0));
         nBegin_ += found.nBytes;
-        if (found.nKey > 0)
-            return pasting_ && found.nKey == KS_ENTER ? kPastedNewline : found.nKey;
+        if (found.nKey > 0 && !(pasting_ && found.nKey == KS_ENTER))
+            return found.nKey;
+        if (found.nKey > 0 && !(before == '\r' && before_ == '\n'))
+            return kPastedNewline;
         if (found.nKey == kPasteBegins || found.nKey == kPasteEnds)
             pasting_ = found.nKey == kPasteBegins;
-        else if (found.nKey != 0)
+        else if (found.nKey < 0)
             skipping_ = found.nKey == kTextBegins ? Skip::Text : Skip::Control;
     }
     open_ = true;

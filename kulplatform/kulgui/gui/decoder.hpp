@@ -72,8 +72,9 @@ private:
     std::size_t nLearnt_ = 0;
     Skip skipping_ = Skip::Nothing;
     bool pasting_ = false;
-    bool open_ = false; // what is here is less than a key
-    bool late_ = false; // no more bytes will come to those that are here
+    unsigned char before_ = 0; // the first byte of what came last: a pasted line may end in two
+    bool open_ = false;        // what is here is less than a key
+    bool late_ = false;        // no more bytes will come to those that are here
 };
 
 } // namespace kul

@@ -63,10 +63,14 @@ void fillReversed(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nCol
 
 namespace kul {
 
-Attribute::Attribute(WINDOW* win, int nColorSet) : win_(win)
+Attribute::Attribute(WINDOW* win, int nColorSet, bool rests) : win_(win)
 {
     const bool instead = disabled.shown && nColorSet == disabled.nColorSet;
-    attribute_ = static_cast<attr_t>(rawAttribute(instead ? disabled.nShownAs : nColorSet));
+    const bool colored = rests && !instead && nColorSet == BLACK_WHITE && has_colors();
+    const int nShown = colored ? BLACK_CYAN : instead ? disabled.nShownAs : nColorSet;
+    attribute_ = static_cast<attr_t>(rawAttribute(nShown));
+    if (rests && !colored && !instead)
+        attribute_ |= A_UNDERLINE;
     if (instead && !has_colors() && !needsParentheses())
         attribute_ |= A_DIM;
     if (nColorSet == nMarked)

@@ -28,10 +28,11 @@ constexpr int shifted(int nPlace, long long nDistance)
     return static_cast<int>(std::clamp<long long>(nPlace + nDistance, INT_MIN, INT_MAX));
 }
 
-// Switches a colour set on for a window, and off at the end of the scope.
+// Switches a colour set on for a window, and off at the end of the scope. What rests is selected in
+// a component that has not the focus: it is told from its neighbours.
 class Attribute {
 public:
-    Attribute(WINDOW* win, int nColorSet);
+    Attribute(WINDOW* win, int nColorSet, bool rests = false);
     ~Attribute();
     Attribute(const Attribute&) = delete;
     Attribute& operator=(const Attribute&) = delete;

@@ -91,8 +91,8 @@ void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
         const int nColor = kul::elementColor(colors, *element, selected);
         if (selected && colors.focused)
             kul::showCursorAt(win, nY, nX);
-        Fill(win, nY, nX, 1, menu.nWidth, nColor);
-        const kul::Attribute color(win, nColor);
+        const kul::Attribute color(win, nColor, selected && colors.rests);
+        kul::hRun(win, nY, nX, menu.nWidth, ' ');
         drawCut(win, nY, nX, menu.nWidth, element->szText ? element->szText : "");
     }
 }

@@ -27,14 +27,15 @@ struct MenuColors {
     int nEnabled;
     int nDisabled;
     bool focused;
+    bool rests; // the selection is told without the focus
 };
 
 template <typename Record>
 MenuColors menuColors(const Record& menu, int nFocus)
 {
     if (nFocus == 1)
-        return {menu.nColorFocus, menu.nColorUnfocus, menu.nColorDisable, true};
-    return {menu.nColorUnfocus, menu.nColorUnfocus, menu.nColorUnfocus, false};
+        return {menu.nColorFocus, menu.nColorUnfocus, menu.nColorDisable, true, false};
+    return {menu.nColorUnfocus, menu.nColorUnfocus, menu.nColorUnfocus, false, isEdition2()};
 }
 
 template <typename Element>
@@ -55,11 +56,13 @@ int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
     int nPosition = 0;
     for (; element && nX < getmaxx(win); element = element->Next, ++nPosition) {
         const char* szText = element->szText ? element->szText : "";
+        const bool selected = nPosition == nSelect;
         {
-            const Attribute color(win, elementColor(colors, *element, nPosition == nSelect));
+            const Attribute color(win, elementColor(colors, *element, selected),
+                                  selected && colors.rests);
             print(win, nY, nX, szText);
         }
-        if (nPosition == nSelect) {
+        if (selected) {
             if (colors.focused)
                 showCursorAt(win, nY, nX);
             onSelected(*element);
