@@ -288,6 +288,8 @@ int Frame::moveInButtons(int nKey)
         return 0;
     if (nKey != KS_UP)
         return nKey;
+    if (GetUIComponentByRef(nChain_, BODY))
+        kulgui_select(nChain_, BUTTONS, 0);               // which Enter clicks from above
     return onKey ? onKey(*this, KS_BACKTAB) : KS_BACKTAB; // to what stands above
 }
 
