@@ -254,6 +254,21 @@ TEST_P(Update, ShowsWhatCursesShows)
     std::setlocale(LC_ALL, "C");
 }
 
+// A screen of one colour is there by clearing alone, and known to be there.
+TEST(Updates, KnowWhatClearingLeaves)
+{
+    Side side("linux", true);
+    for (const chtype look : {COLOR_PAIR(50), 0}) {
+        wattrset(stdscr, static_cast<int>(look));
+        for (int y = 0; y < kRows; ++y)
+            mvwhline(stdscr, y, 0, ' ', kColumns);
+        update_panels();
+        kul::updateTerminal(kul::kNowhere, false);
+        side.show();
+        EXPECT_EQ(side.emulator.cell(9, 40).background == COLOR_BLACK, look == 0);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Terminals, Update,
                          ::testing::Values(Case{"linux", "C"}, Case{"linux", "C.UTF-8"}, Case{"linux", "C.UTF-8", true},
                                            Case{"xterm", "C"}, Case{"xterm-256color", "C.UTF-8"},

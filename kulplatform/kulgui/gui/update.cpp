@@ -148,7 +148,7 @@ bool paintRows()
     nFirstChanged = COLS;
     nLastChanged = -1;
     paintScroll();
-    if (scrolled != Scroll{}) {
+    if (cleared || scrolled != Scroll{}) {
         nFirstChanged = 0;
         nLastChanged = COLS - 1;
     }
