@@ -3,8 +3,9 @@
 #
 #   the comment at the top             the first page
 #   /* ---- Menus ---- * ... */        a group, up to the next one, and what is said of it
-#   /** ... */ before some calls       said of each of them, up to a blank line
-#   int nX; /* a field */              said of the field
+#   /** ... */ before some calls       said of each of them, up to a blank line;
+#                                      macros as well
+#   int nX; /* a field */              said of the field, which is ro or rw
 #
 # Pictures and programs are lines that are indented; they stay as they are.
 
@@ -57,9 +58,21 @@ top && /\*\/$/ {
     top = 0
     next
 }
+# Its table of contents is a picture, up to the first rule.
+top && !inRules && /^ \*     / {
+    if (!inPicture)
+        print " * @verbatim"
+    inPicture = 1
+    print substr($0, 4)
+    next
+}
 top {
-    sub(/^ \* +[0-9]+\./, " * -#")
-    print plain($0)
+    if (inPicture)
+        print "@endverbatim"
+    inPicture = 0
+    line = plain($0)
+    inRules = sub(/^ \* +[0-9]+\./, " * -#", line) || inRules
+    print line
     next
 }
 opening {
@@ -97,8 +110,8 @@ saying {
     print "/** @} */"
     inGroup = 0
 }
-# Of records, types and macros it is said once.
-said != "" && (first || /^KULGUI_API/) {
+# Of records and types it is said once.
+said != "" && (first || /^KULGUI_API/ || /^#define/) {
     printf "/**\n%s */\n", said
     first = 0
 }

@@ -32,6 +32,10 @@
         <xsl:text>.SH DESCRIPTION&#10;</xsl:text>
         <xsl:apply-templates select="briefdescription/*|detaileddescription/*"/>
       </xsl:if>
+      <xsl:if test="sectiondef/memberdef[@kind='define' or @kind='enum']">
+        <xsl:text>.SH NAMES&#10;</xsl:text>
+        <xsl:apply-templates select="sectiondef/memberdef[@kind='enum' or @kind='define']" mode="names"/>
+      </xsl:if>
       <xsl:call-template name="foot"/>
     </exsl:document>
     <!-- Other kinds of the same group. -->
@@ -114,6 +118,23 @@
       </xsl:if>
     </xsl:for-each>
     <xsl:text>\fB);\fP&#10;.in&#10;</xsl:text>
+  </xsl:template>
+
+  <xsl:template match="memberdef" mode="names">
+    <xsl:text>.TP&#10;\fB</xsl:text>
+    <xsl:choose>
+      <xsl:when test="@kind='define'">
+        <xsl:value-of select="concat(name, '\fP ', initializer)"/>
+      </xsl:when>
+      <xsl:otherwise>
+        <xsl:for-each select="enumvalue">
+          <xsl:value-of select="concat(name, substring(', ', 1, 2 * (position() != last())))"/>
+        </xsl:for-each>
+        <xsl:text>\fP</xsl:text>
+      </xsl:otherwise>
+    </xsl:choose>
+    <xsl:text>&#10;</xsl:text>
+    <xsl:apply-templates select="briefdescription/*|detaileddescription/*"/>
   </xsl:template>
 
   <xsl:template match="compounddef" mode="record">

@@ -47,7 +47,7 @@ static void quit(struct settings* now)
             kuldialog_ask(say(TEXT_QUIT), say(TEXT_UNSAVED), say(TEXT_UNSAVED_BUTTONS), 0);
         if (answer == 0)
             save(now);
-        if (answer == 2 || answer == -1 || (answer == 0 && is_changed()))
+        if (answer == 2 || answer == KUL_DISMISSED || (answer == 0 && is_changed()))
             return;
     }
     kulgui_leave(MAIN);

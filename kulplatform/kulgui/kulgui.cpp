@@ -73,12 +73,12 @@ const UI* findAble(const kul::Dialog& dialog, const UI& from, bool forward)
     return nullptr;
 }
 
-// Moves the focus from a component to its neighbour, round the list. -10000 when it is gone.
+// Moves the focus from a component to its neighbour, round the list. KUL_GONE when it is gone.
 int moveFocus(int nChain, int nRef, bool forward)
 {
     const UI* from = GetUIComponentByRef(nChain, nRef);
     if (!from)
-        return -10000;
+        return KUL_GONE;
     kul::Dialog* dialog = kul::findDialog(nChain);
     dialog->nCurrentUI = neighbour(*dialog, *from, forward)->nRef;
     return 0;
@@ -104,10 +104,10 @@ void showFirst(int nChain, int nBefore)
 int endOfLoop(int nChain)
 {
     if (kul::lineIsGone())
-        return -10000;
+        return KUL_GONE;
     if (kul::takeLeaving(nChain))
         return KUL_LEFT;
-    return findFocused(nChain) ? 0 : -10000;
+    return findFocused(nChain) ? 0 : KUL_GONE;
 }
 
 // Waits for a dialog in which no component did. Tab and Escape do what they do in a component; the
@@ -116,13 +116,13 @@ int waitForAll(int nChain, int nResult)
 {
     const int nKey = kul::offerKey(nChain, kul::waitOnce());
     if (nKey == KS_ESC)
-        return kul::isEdition2() ? KUL_CANCELLED : -10;
-    return nKey == KS_TAB ? 10 : nKey == KS_BACKTAB ? -10 : nResult;
+        return kul::isEdition2() ? KUL_CANCELLED : KUL_PREVIOUS;
+    return nKey == KS_TAB ? KUL_NEXT : nKey == KS_BACKTAB ? KUL_PREVIOUS : nResult;
 }
 
 bool isEnd(int nResult)
 {
-    return nResult == -10000 || nResult == KUL_LEFT || nResult == KUL_CANCELLED;
+    return nResult == KUL_GONE || nResult == KUL_LEFT || nResult == KUL_CANCELLED;
 }
 
 // At the end of a dialog over another one that has waited: draws the component that has the focus
@@ -142,12 +142,12 @@ int runFocused(int nChain, int nResult, int& nStill)
 {
     kul::Dialog* dialog = kul::findDialog(nChain);
     const UI* ui = findFocused(nChain);
-    const UI* able = ui ? findAble(*dialog, *ui, nResult != -10) : nullptr;
+    const UI* able = ui ? findAble(*dialog, *ui, nResult != KUL_PREVIOUS) : nullptr;
     if (able)
         ui = able;
     const kul::UIKind* kind = ui ? kul::uiKind(ui->nType) : nullptr;
     if (!kind)
-        return -10000;
+        return KUL_GONE;
     const int nRef = dialog->nCurrentUI = ui->nRef;
     const unsigned nWaits = kul::waits();
     const int nHandled = able ? kul::runHandler(*kind, nChain, nRef) : 0;
@@ -168,8 +168,9 @@ int runFocused(int nChain, int nResult, int& nStill)
         return nEnd;
     if (kul::takeRefocus(nChain))
         return 0;
-    if ((nResult == 10 || nResult == -10) && moveFocus(nChain, nRef, nResult == 10) != 0)
-        return -10000;
+    if ((nResult == KUL_NEXT || nResult == KUL_PREVIOUS) &&
+        moveFocus(nChain, nRef, nResult == KUL_NEXT) != 0)
+        return KUL_GONE;
     return nResult;
 }
 
@@ -214,14 +215,14 @@ int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocus, int nCol
                        const char* szFilePath)
 {
     if (GetPrimaryFlag() != -1)
-        return -10001;
+        return KUL_PRIMARY_BARRED;
     CHAIN* primary = GetPrimaryChain();
     if (!primary)
-        return -10006;
+        return KUL_PRIMARY_FAILED;
     GUI* before = primary->Pointer;
     GUI* gui = kul::newDialog(primary);
     if (!gui)
-        return -10006;
+        return KUL_PRIMARY_FAILED;
     if (before) {
         kul::emptyDialog(before);
         std::free(before);
@@ -243,7 +244,7 @@ int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnf
 {
     CHAIN* chain = GetChain(nChain);
     if (!chain)
-        return -10009;
+        return KUL_NO_CHAIN;
     const kul::Pass pass;
     const int nCreated = CreateGUI(chain);
     if (!chain->Pointer)

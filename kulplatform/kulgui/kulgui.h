@@ -3,19 +3,36 @@
  * kulgui: dialogs on a character terminal, for small Linux devices.
  *
  * A program describes its dialogs with the calls below, hands over control with kulgui_exec and
- * gets its callbacks run. This header is the manual; what holds for every call stands here once.
+ * gets its callbacks run. This header is the manual:
+ *
+ *     Rules           1 to 18, below: what holds for every call stands here once
+ *     Names           Version, Constants, Keys, Results
+ *     Dialogs         Dialogs, Edition 2, What the user is at
+ *     Ready dialogs   a message, a question, a list, a form and more with one call each
+ *     Components      Buttons, Menus, Dynamic menus, Description menus, Toolbars, File viewers,
+ *                     Check box lists, Option lists, Text boxes
+ *     Items           Status bars, Scroll bars and progress bars, Description fields, Boxes and
+ *                     lines, Labels
+ *     Letters         what a text takes on the screen
+ *     The inside      Records, and the calls that all of that is made of
+ *
+ * Programs need the kul... calls, and of the others NCursesEnv and the GetCurrent... calls of "What
+ * the user is at". What stands under "The inside" is for those that draw or build something of
+ * their own. A program that defines KULGUI_NO_INSIDE before it includes this header does not see
+ * it, nor curses.h and panel.h: names like Fill, Poll, BOX or LINES are its own then. Linked with
+ * libkulgui.a it may define functions of those names even if it sees them.
  *
  *  1. References. A dialog lives in a chain and is named by the chain's number (nChain); what is
  *     in the dialog is named by that number and one of its own (nRef), unique in the dialog. The
  *     program chooses both. Use 1 and up for nRef: ComponentTypeByRef cannot tell 0 from "none".
  *  2. Truth is 0. T is 0 and F is -1, and visibility, borders and flags follow: 0 is shown, -1 is
  *     hidden. Do not test them as C truth values.
- *  3. Results. 0 is success and a negative number an error, where a call says nothing else. The
- *     calls print nothing, set no errno and never end the program. Unknown references, NULL and
- *     numbers out of range get the documented code or do nothing. One thing is left to curses: it
- *     ends the process where it finds no memory while it opens the terminal. NCursesEnv sees first
- *     that enough can be had, and returns -1 if not; what other threads take meanwhile it cannot
- *     know.
+ *  3. Results. KUL_OK, 0, is success and a negative number an error, where a call says nothing
+ *     else; the chapter "Results" has the names. The calls print nothing, set no errno and never
+ *     end the program. Unknown references, NULL and numbers out of range get the documented code or
+ *     do nothing. One thing is left to curses: it ends the process where it finds no memory while
+ *     it opens the terminal. NCursesEnv sees first that enough can be had, and returns KUL_ERROR if
+ *     not; what other threads take meanwhile it cannot know.
  *  4. Keep value. Where a call says so, the argument KUL_KEEP leaves a setting at its default.
  *  5. Places. nX counts columns and nY rows from 0 at the top left corner of the dialog's window,
  *     frame included; only a dialog's own nX and nY count from the corner of the screen. nWidth
@@ -50,12 +67,41 @@
  *     a letter before it, marks that turn the direction of writing) is one '?' each; what has no
  *     picture (a soft hyphen, joiners, variation selectors, blanks of no width) is left out. No
  *     text does anything to the terminal.
+ * 12. Keys. Which keys arrive is up to the terminal; the chapter "Keys" has a table. What can be
+ *     done should be possible with the arrows, Tab, Enter and Escape alone: those are everywhere.
+ * 13. Ctrl-C and its like. The open terminal is in raw mode: Ctrl-C, Ctrl-Z and Ctrl-\ are the keys
+ *     3, 26 and 28, which the components do nothing with, and send no signal; kulgui_setOnKey can
+ *     give them a meaning (kulgui_leave, or raise after kulgui_suspend). Signals that come from
+ *     elsewhere do what they did before.
+ * 14. Flow control. Ctrl-S and Ctrl-Q are the keys 19 and 17, and stop nothing. Where the line has
+ *     wires for that (stty crtscts) they keep working: a write waits as long as they say so. A
+ *     terminal that sends XOFF is not heard while a dialog runs; give it a rate that it can follow.
+ * 15. Other programs. What writes to the terminal by itself spoils the screen: call kulgui_run in
+ *     place of system, kuldialog_run to show what a command writes, and kulgui_suspend and
+ *     kulgui_resume around anything else. While the terminal is open standard input does not block,
+ *     also for those that inherit it: give a command another one. A child of fork calls nothing
+ *     here and goes on with exec or _exit; exit, and a signal that ends it, leave the terminal to
+ *     its parent. SIGCHLD is the program's.
+ * 16. Sizes. A window tells of its new size by SIGWINCH, which is taken unless the program has a
+ *     handler of its own; besides, and on a serial line alone, the size is asked once a second.
+ *     LINES and COLUMNS of the environment come before what the terminal says, and 24 rows of 80
+ *     columns behind it. Rule 5 says what happens to the dialogs; kulgui_setOnResize tells the
+ *     program.
+ * 17. Editions. kulgui_setEdition(2) as the first call gives a program today's manners; write new
+ *     ones so. Edition 1 is for programs that were made for it: it stays as it is, bytes, blinks
+ *     and all. An edition is the whole program's, and every call works in both.
+ * 18. Records. A field that is marked rw is free to write, from callbacks and between calls; what
+ *     is written shows when the component is drawn next. One that is marked ro is read-only: the
+ *     library keeps it in step with others. Use the call that changes it. Records may grow at their
+ *     end: do not make, copy or measure one that the library hands out.
  */
 #ifndef KULGUI_H
 #define KULGUI_H
 
+#ifndef KULGUI_NO_INSIDE
 #include <curses.h>
 #include <panel.h>
+#endif
 
 #if defined(__GNUC__)
 #define KULGUI_API __attribute__((visibility("default")))
@@ -87,12 +133,6 @@ KULGUI_API const char* kulgui_version(void);
 /** In place of a dialog's nX or nY: in the middle of the screen, whatever its size is. */
 #define KUL_CENTER (-11112)
 
-/** Result of kulgui_exec and of key handlers: the dialog was left by kulgui_leave. */
-#define KUL_LEFT 123456
-
-/** The same: the dialog was left by Escape. Edition 2 only. */
-#define KUL_CANCELLED 123457
-
 /** Every pair of two different curses colours; also the number of the curses colour pair. Once a
  * dialog has been shown GREEN_YELLOW is black on black, the colour of shadows. */
 typedef enum colorset {
@@ -114,7 +154,6 @@ typedef enum lineends { NOENDS = -1, ENDS = 0 } LINEENDS;
 typedef enum orientation { VERTICAL = 0, LATERAL = 1 } ORIENTATION;
 typedef enum align { LEFT = -1, CENTER = 0, RIGHT = 1 } ALIGN;
 typedef enum boolean { F = -1, T = 0 } BOOLEAN;
-typedef enum comp_type { NONE = 0, DICOMP = 1, UICOMP = 2 } COMP_TYPE;
 
 /** Kinds of components that take the focus. */
 typedef enum ui_type {
@@ -129,10 +168,32 @@ typedef enum ui_type {
     TEXTBOX
 } UI_TYPE;
 
-/** Kinds of items that only show. */
-typedef enum di_type { STATBAR, SCROLLBAR, PROGBAR, DESCRFIELD, BOX, LINE, LABEL } DI_TYPE;
+/** A callback. */
+typedef void (*KULCALLBACK)(void);
 
-/** What Inkeys returns for keys that have a name; other keys are their byte, as a signed char. */
+/* ---- Keys ----------------------------------------------------------------------------------- *
+ *
+ *     key                          edition 1 knows it from      edition 2
+ *
+ *     Tab, Enter, Escape, arrows   every terminal               every terminal
+ *     Backspace, byte 127          most; byte 8 of others is 8  both are KS_BACKSPACE
+ *     Insert, Delete, PageUp,      linux, xterm and their like  all that have them
+ *         PageDown, F6 to F12
+ *     Home, End                    xterm, not linux             all that have them
+ *     F1                           hardly any                   all that have it
+ *     F2 to F5                     linux alone                  all that have them
+ *     Shift, Control, Alt and      none                         as the key itself; KS_BACKTAB,
+ *         a key                                                 KS_ALT plus a letter or digit
+ *     letters beyond ASCII         one key for each byte        KUL_CHARACTER plus the code
+ *
+ * linux is the console of a PC or a board, xterm stands for what runs in a window. A vt100 has the
+ * arrows and F1 to F4 and none of the other ones; a serial line has those of the terminal program
+ * at its other end. Edition 2 knows what the terminal's description says, and besides it the common
+ * sequences of all, whatever TERM says. Escape begins such a sequence: alone it is a key once 25 ms
+ * have passed with nothing behind it.
+ */
+
+/** Keys that have a name; other keys are their byte, as a signed char. */
 enum kul_keys {
     KS_TAB = 9,
     KS_ENTER = 13,
@@ -170,95 +231,86 @@ enum kul_keys {
 /** Edition 2: a character above 127 is KUL_CHARACTER plus its code, as mbrtowc gives it. */
 #define KUL_CHARACTER 0x1000000
 
-/** Tails of the escape sequences behind the keys from KS_F1 to KS_RIGHT, in that order. */
-#define KUL_KEYSTROKES 22
-KULGUI_API extern const char* const szKeystrokes[KUL_KEYSTROKES];
+/* ---- Results -------------------------------------------------------------------------------- *
+ *
+ * What calls return; each says which of these and when. Test for success with KUL_OK, or for an
+ * error with "below 0": several names share a number, and KUL_LEFT is none.
+ */
 
-/* ---- Records -------------------------------------------------------------------------------- */
+/** Success. */
+#define KUL_OK 0
 
-typedef void (*KULCALLBACK)(void);
+/** Something that was named does not exist, is not valid, or there is no memory; of calls that
+ * return an index or a number: there is none. */
+#define KUL_ERROR (-1)
 
-/** One interactive component of a dialog. Pointer leads to the record of its kind. */
-typedef struct ui {
-    int nType; /* UI_TYPE */
-    int nRef;
-    struct ui* Prev;
-    struct ui* Next;
-    void* Pointer;
-    int nUpdate;
-} UI;
+/** What was taken out of a list was the only element. */
+#define KUL_EMPTIED 1
 
-/** One display item of a dialog. Pointer leads to the record of its kind. */
-typedef struct di {
-    int nType; /* DI_TYPE */
-    int nRef;
-    struct di* Next;
-    void* Pointer;
-    int nUpdate; /* 0: changed, -1: drawn, 1: configured */
-} DI;
+/** Of key handlers: the focus goes to the next component, or to the previous one. */
+#define KUL_NEXT 10
+#define KUL_PREVIOUS (-10)
 
-/** One dialog. */
-typedef struct gui {
-    WINDOW* winMain; /* NULL until first shown; the standard screen for the primary dialog */
-    WINDOW* winShadow;
-    PANEL* pnlMain;
-    PANEL* pnlShadow;
-    int nX;
-    int nY;
-    int nWidth;
-    int nHeight;
-    const char* szTitle;
-    int nBorder;        /* BORDERS; kept, the frame is drawn in any case */
-    int nVisible;       /* T or F */
-    int nCurrentUI;     /* nRef of the component that has the focus, -1 for none */
-    int nColorStandard; /* COLORSET of the dialog itself */
-    int nColorFocus;    /* and what its components start with */
-    int nColorUnfocus;
-    int nColorDisable;
-    const char* szLangFile;
-    KULCALLBACK onFocus;   /* kept, not run */
-    KULCALLBACK onUnfocus; /* kept, not run */
-    KULCALLBACK onPoll;    /* run about once a second while the dialog is shown */
-    KULCALLBACK onDestroy; /* kept, not run */
-    UI* UserInterface;
-    DI* Display;
-} GUI;
+/** Of kulgui_exec and key handlers: the dialog was left by kulgui_leave. */
+#define KUL_LEFT 123456
 
-/** One node of the ring of dialogs. */
-typedef struct chain {
-    struct chain* Prev; /* both NULL while the primary is alone */
-    struct chain* Next;
-    int nRef;
-    GUI* Pointer;
-} CHAIN;
+/** The same: the dialog was left by Escape. Edition 2 only. */
+#define KUL_CANCELLED 123457
 
-/** A frame with a shadow that is no dialog. The program makes the windows and panels. */
-typedef struct dlg {
-    WINDOW* winMain;
-    WINDOW* winShadow;
-    PANEL* pnlMain;
-    PANEL* pnlShadow;
-    int nVisible;
-    const char* szTitle;
-} DLG;
+/** Of kulgui_exec, key handlers and ready dialogs: what ran was destroyed, or the line was hung
+ * up. */
+#define KUL_GONE (-10000)
 
-/** What has the focus, and what is selected in it. Callbacks read it. */
-typedef struct current {
-    int nChain;
-    int nUserInterface; /* nRef of the component */
-    int nType;          /* UI_TYPE */
-    int nPosition;
-    int nSelect;
-    int nSubSelect;
-} CURRENT;
+/** Of ready dialogs: the user left it by Escape or Cancel. */
+#define KUL_DISMISSED (-1)
 
-/** Navigation flags, T or F each. */
-typedef struct control {
-    int bMoveToNextUI;
-    int bMoveToPrevUI;
-    int bExitGUI;
-    int bExitProgram;
-} CONTROL;
+/** Of ready dialogs: no usable terminal, no memory, or a file that cannot be opened. */
+#define KUL_UNUSABLE (-2)
+
+/** The number of the chain is in use. */
+#define KUL_TAKEN (-10000)
+
+/** The nRef of the component or item is in use; each kind has a number of its own. */
+#define KUL_TAKEN_STATBAR (-10012)
+#define KUL_TAKEN_DESCRFIELD (-10012)
+#define KUL_TAKEN_BOX (-10013)
+#define KUL_TAKEN_LINE (-10014)
+#define KUL_TAKEN_LABEL (-10015)
+#define KUL_TAKEN_SCROLLBAR (-10016)
+#define KUL_TAKEN_PROGBAR (-10017)
+#define KUL_TAKEN_MENU (-10018)
+#define KUL_TAKEN_DESCRMENU (-10020)
+#define KUL_TAKEN_DYNMENU (-10021)
+#define KUL_TAKEN_BUTTON (-10022)
+#define KUL_TAKEN_CHECKBOX (-10023)
+#define KUL_TAKEN_OPTIONS (-10024)
+#define KUL_TAKEN_FILEVIEW (-10025)
+#define KUL_TAKEN_TEXTBOX (-10026)
+#define KUL_TAKEN_TOOLBAR (-10027)
+
+/** There is no such chain; or the chain has no dialog yet. */
+#define KUL_NO_CHAIN (-10009)
+#define KUL_NO_DIALOG (-10010)
+
+/** No memory for a dialog, an item or a component. */
+#define KUL_NO_MEMORY (-10007)
+#define KUL_NO_MEMORY_DI (-10011)
+#define KUL_NO_MEMORY_UI (-10019)
+
+/** The file cannot be opened or read, or is no regular file. */
+#define KUL_UNREADABLE (-10028)
+
+/** Of bars: the item has no record. */
+#define KUL_NO_RECORD (-10028)
+
+/** Of kulgui_configPrime: the program has forbidden it; no primary chain or no memory. */
+#define KUL_PRIMARY_BARRED (-10001)
+#define KUL_PRIMARY_FAILED (-10006)
+
+/** Of the inside: no primary chain; one without dialog; a chain that has a dialog already. */
+#define KUL_NO_PRIMARY (-10002)
+#define KUL_NO_PRIMARY_DIALOG (-10004)
+#define KUL_HAS_DIALOG (-10008)
 
 /* ---- Dialogs -------------------------------------------------------------------------------- *
  *
@@ -275,8 +327,8 @@ typedef struct control {
  */
 
 /** Chooses the manners of the whole program: 1, the start, or 2, what people expect today. To be
- * called before the terminal is opened; between dialogs it works as well. Returns 0, -1 for any
- * other number, which changes nothing. */
+ * called before the terminal is opened; between dialogs it works as well. Returns KUL_OK, KUL_ERROR
+ * for any other number, which changes nothing. */
 KULGUI_API int kulgui_setEdition(int nEdition);
 
 /** The edition that runs, 1 or 2. */
@@ -288,13 +340,13 @@ KULGUI_API int kulgui_getRows(void);
 
 /** Makes a chain numbered nChain. With KUL_KEEP the first chain becomes 0; a later one gets the
  * first number above the count of dialogs that is already in use, wrapping round, so name later
- * chains yourself. Returns the number, -10000 if it is in use, -1 without memory. */
+ * chains yourself. Returns the number, KUL_TAKEN if it is in use, KUL_ERROR without memory. */
 KULGUI_API int kulgui_create(int nChain);
 
 /** Gives the primary chain its full-screen dialog and the number nChain, in place of what it had.
- * Colour sets: KUL_KEEP takes BLACK_WHITE, CYAN_BLUE, BLUE_WHITE, CYAN_WHITE. szTitle stands in
- * the top row. szFilePath is kept as the language file's name. Returns 0, -10001 when
- * SetPrimaryFlag was called before, -10006 without a primary chain or memory. */
+ * Colour sets: KUL_KEEP takes BLACK_WHITE, CYAN_BLUE, BLUE_WHITE, CYAN_WHITE. szTitle stands in the
+ * top row. szFilePath is kept as the language file's name. Returns KUL_OK, KUL_PRIMARY_BARRED when
+ * a program has forbidden it (the inside), KUL_PRIMARY_FAILED without a primary chain or memory. */
 KULGUI_API int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocus,
                                   int nColorUnfocus, int nColorDisable, const char* szTitle,
                                   KULCALLBACK onFocus, KULCALLBACK onPoll, KULCALLBACK onUnfocus,
@@ -306,7 +358,8 @@ KULGUI_API int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocu
  * and nY are the screen's column and row of the top left corner, nWidth and nHeight the size with
  * the frame; the shadow adds one of each. KUL_KEEP leaves nBorder at BORDER and a place or size as
  * it was, 0 at first. The primary chain must have its dialog first: without it nothing is set.
- * szFilePath is not used. Returns 0, -10009 for an unknown chain, -10007 without memory. */
+ * szFilePath is not used. Returns KUL_OK, KUL_NO_CHAIN for an unknown chain, KUL_NO_MEMORY without
+ * memory. */
 KULGUI_API int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnfocus,
                              int nColorDisable, const char* szTitle, int nBorder, int nX, int nY,
                              int nWidth, int nHeight, KULCALLBACK onFocus, KULCALLBACK onPoll,
@@ -314,55 +367,60 @@ KULGUI_API int kulgui_config(int nChain, int nColorStandard, int nColorFocus, in
 
 /** Moves a dialog with what is in it, and gives it another size; its items and components stay
  * where they are in it. nX, nY, nWidth, nHeight as for kulgui_config, KUL_KEEP for what it has.
- * Returns 0, -1 for an unknown chain, one without dialog or the primary one. */
+ * Returns KUL_OK, KUL_ERROR for an unknown chain, one without dialog or the primary one. */
 KULGUI_API int kulgui_place(int nChain, int nX, int nY, int nWidth, int nHeight);
 
 /** Has onResize run when the screen has got another size, after the dialogs were fitted into it and
  * before that is shown; NULL for none. It runs whether the dialog is shown or not, from the wait
- * for a key. Returns 0, -1 for an unknown chain or one without dialog. */
+ * for a key. Returns KUL_OK, KUL_ERROR for an unknown chain or one without dialog. */
 KULGUI_API int kulgui_setOnResize(int nChain, KULCALLBACK onResize);
 
 /** Opens the terminal if needed, shows the dialog if it never was, and runs it: the component in
  * focus gets the keys until the dialog is left. May be called from a callback. Returns KUL_LEFT
- * after kulgui_leave; in edition 2 KUL_CANCELLED after Escape; -10000 when the dialog has no
- * component to focus, its component or itself was destroyed, or the line was hung up; -1 for an
- * unknown chain, one without dialog, or without a usable terminal. The primary dialog is not drawn
- * first: kulgui_show does that. What changes at its end is shown with the next call that draws or
- * waits, so that a program that ends does not paint what is gone at once. */
+ * after kulgui_leave; in edition 2 KUL_CANCELLED after Escape; KUL_GONE when the dialog has no
+ * component to focus, its component or itself was destroyed, or the line was hung up; KUL_ERROR for
+ * an unknown chain, one without dialog, or without a usable terminal. The primary dialog is not
+ * drawn first: kulgui_show does that. What changes at its end is shown with the next call that
+ * draws or waits, so that a program that ends does not paint what is gone at once. */
 KULGUI_API int kulgui_exec(int nChain);
 
-/** Shows a dialog with all that is in it; the terminal must be open. Always 0. */
+/** Shows a dialog with all that is in it; the terminal must be open. Always KUL_OK. */
 KULGUI_API int kulgui_show(int nChain);
 
-/** Takes a dialog off the screen; it keeps what is in it. Always 0. */
+/** Takes a dialog off the screen; it keeps what is in it. Always KUL_OK. */
 KULGUI_API int kulgui_hide(int nChain);
 
-/** Frees a chain with its dialog, windows and components, also while it runs: its kulgui_exec
- * then returns -10000. What lay below is shown with the next call that draws or waits; kulgui_hide
- * shows it at once. Destroying the primary chain destroys all; kulgui_create begins anew.
- * Returns 0, -1 for an unknown chain. */
+/** Frees a chain with its dialog, windows and components, also while it runs: its kulgui_exec then
+ * returns KUL_GONE. What lay below is shown with the next call that draws or waits; kulgui_hide
+ * shows it at once. Destroying the primary chain destroys all; kulgui_create begins anew. Returns
+ * KUL_OK, KUL_ERROR for an unknown chain. */
 KULGUI_API int kulgui_destroy(int nChain);
 
-/** Gives the terminal back. Frees no chain. Always 0. */
+/** nRef 1 opens the terminal, before kulgui_exec does, 2 closes it, 0 says whether it is open, T or
+ * F. Opening gives KUL_OK, or KUL_ERROR without a usable terminal; closing KUL_OK; any other nRef
+ * comes back as it is. */
+KULGUI_API int NCursesEnv(int nRef);
+
+/** Gives the terminal back. Frees no chain. Always KUL_OK. */
 KULGUI_API int kulgui_destroyAll(void);
 
 /** Gives the terminal back, runs a command by /bin/sh -c, and takes the terminal again if it was
- * open; everything is as it was. Returns the command's wait status, -1 where it cannot be run or is
- * NULL. */
+ * open; everything is as it was. Returns the command's wait status, KUL_ERROR where it cannot be
+ * run or is NULL. */
 KULGUI_API int kulgui_run(const char* szCommand);
 
 /** The same in two steps, for a program that runs something itself. Meanwhile the terminal counts
- * as closed: nothing is drawn, and kulgui_exec takes it again as kulgui_resume does. Both return 0,
- * -1 when the terminal is not open, or was not suspended. */
+ * as closed: nothing is drawn, and kulgui_exec takes it again as kulgui_resume does. Both return
+ * KUL_OK, KUL_ERROR when the terminal is not open, or was not suspended. */
 KULGUI_API int kulgui_suspend(void);
 KULGUI_API int kulgui_resume(void);
 
 /** With T, giving the terminal back leaves on the screen what is there; F, the start, clears it
- * away. Returns 0, -1 where the terminal shows another screen then, as most do that are windows,
- * and where it is not open. */
+ * away. Returns KUL_OK, KUL_ERROR where the terminal shows another screen then, as most do that are
+ * windows, and where it is not open. */
 KULGUI_API int kulgui_keepScreen(int bKeep);
 
-/** These four do nothing and return 0. */
+/** These four do nothing and return KUL_OK. */
 KULGUI_API int kulgui_exit(void);
 KULGUI_API int kulgui_hasExited(void);
 KULGUI_API int kulgui_getExitValue(void);
@@ -370,72 +428,73 @@ KULGUI_API int kulgui_update(void);
 
 /** Ends the running loop of a dialog, the innermost one: once the callback that calls this is over,
  * the component that has the keys gets its onUnfocus and kulgui_exec returns KUL_LEFT. Forgotten
- * when no loop of the dialog runs. Returns 0, -1 for an unknown chain or one without dialog. */
+ * when no loop of the dialog runs. Returns KUL_OK, KUL_ERROR for an unknown chain or one without
+ * dialog. */
 KULGUI_API int kulgui_leave(int nChain);
 
 /** Moves the focus to component nRef; a running loop follows once the callback is over, after the
- * onUnfocus of the component that had it; without a running loop the next one begins there.
- * Returns 0, -1 when there is no such component. */
+ * onUnfocus of the component that had it; without a running loop the next one begins there. Returns
+ * KUL_OK, KUL_ERROR when there is no such component. */
 KULGUI_API int kulgui_setFocus(int nChain, int nRef);
 
 /** With T, Tab and Escape go to the next and the previous component from every kind, also from
  * those that keep these keys by themselves (buttons and menus). F, the start, leaves that to the
- * kinds. A hidden component passes the focus on to its next one. Returns 0, -1 for an unknown chain
- * or one without dialog. */
+ * kinds. A hidden component passes the focus on to its next one. Returns KUL_OK, KUL_ERROR for an
+ * unknown chain or one without dialog. */
 KULGUI_API int kulgui_setTabbing(int nChain, int bTabbing);
 
 /** Moves the selection of a menu, description menu, dynamic menu or toolbar, or the cursor of a
- * list, to the element at index nElement, from 0; a list shows it. No callback runs. Returns 0, -1
- * for an unknown component, one without elements, or an index that has none. */
+ * list, to the element at index nElement, from 0; a list shows it. No callback runs. Returns
+ * KUL_OK, KUL_ERROR for an unknown component, one without elements, or an index that has none. */
 KULGUI_API int kulgui_select(int nChain, int nRef, int nElement);
 
 /** With F the component is disabled: it is drawn in its nColorDisable (dim where there are no
  * colours, else in parentheses), is passed over by the focus and gets no keys; one that has the
  * focus loses it. T, the start, enables it. nEnable of the records is another thing: of a button or
- * text box it says so too in edition 2, in edition 1 it is a colour alone. Returns 0, -1 for an
- * unknown component or without memory. */
+ * text box it says so too in edition 2, in edition 1 it is a colour alone. Returns KUL_OK,
+ * KUL_ERROR for an unknown component or without memory. */
 KULGUI_API int kulgui_enable(int nChain, int nRef, int bEnable);
 
 /** Keeps a pointer of the program's for a component or item, or with KUL_DIALOG as nRef for the
  * dialog; the library does nothing with it. kulgui_getUser gives it back, NULL where none was set.
- * kulgui_setUser returns 0, -1 for an unknown chain or component or without memory. */
+ * kulgui_setUser returns KUL_OK, KUL_ERROR for an unknown chain or component or without memory. */
 KULGUI_API int kulgui_setUser(int nChain, int nRef, void* user);
 KULGUI_API void* kulgui_getUser(int nChain, int nRef);
 
 /** Has every key of a dialog come to onKey first, NULL for none; then hotkeys are looked for, then
  * the component in focus gets it. In onKey kulgui_getKey says which key it is and kulgui_setKey
  * gives the component another one, 0 for none. kulgui_getKey goes on to tell that key to the other
- * callbacks that it leads to; before the first key it is 0. kulgui_setOnKey returns 0, -1 for an
- * unknown chain or one without dialog; kulgui_setKey returns 0. */
+ * callbacks that it leads to; before the first key it is 0. kulgui_setOnKey returns KUL_OK,
+ * KUL_ERROR for an unknown chain or one without dialog; kulgui_setKey returns KUL_OK. */
 KULGUI_API int kulgui_setOnKey(int nChain, KULCALLBACK onKey);
 KULGUI_API int kulgui_getKey(void);
 KULGUI_API int kulgui_setKey(int nKey);
 
 /** Makes a key give the focus to a component from anywhere in its dialog, and click it if it is a
  * button; 0 for no key. Letters are hotkeys as well, also where a text box would have taken them. A
- * component that is hidden (edition 2) or disabled does not answer. Returns 0, -1 for an unknown
- * component or without memory. */
+ * component that is hidden (edition 2) or disabled does not answer. Returns KUL_OK, KUL_ERROR for
+ * an unknown component or without memory. */
 KULGUI_API int kulgui_setHotkey(int nChain, int nRef, int nKey);
 
 /** Throws away what was typed and not read yet, in front of a question that must not be answered by
- * keys that were meant for something else. Always 0. */
+ * keys that were meant for something else. Always KUL_OK. */
 KULGUI_API int kulgui_dropKeys(void);
 
 /** Runs onTime once, nMilliseconds from now (below 0: at once), while a dialog waits for a key: the
  * wait ends in time for it, and what it changes is shown with one update of the terminal. 16 timers
- * can wait. Returns the timer's number, from 1, for kulgui_stopTimer; -1 for NULL or when none is
- * free. A timer that has run is free again; its number is not given to another one soon. */
+ * can wait. Returns the timer's number, from 1, for kulgui_stopTimer; KUL_ERROR for NULL or when
+ * none is free. A timer that has run is free again; its number is not given to another one soon. */
 KULGUI_API int kulgui_setTimer(int nMilliseconds, KULCALLBACK onTime);
 
-/** Ends a timer before it runs. Returns 0, -1 when none of that number waits. */
+/** Ends a timer before it runs. Returns KUL_OK, KUL_ERROR when none of that number waits. */
 KULGUI_API int kulgui_stopTimer(int nTimer);
 
 /** Runs onReady whenever a descriptor has something to read, or its other end is closed, while a
  * dialog waits for a key; what it changes is shown with one update of the terminal. onReady must
  * read what is there, or it runs again at once. Another onReady takes the place of the one before,
  * NULL ends the watch; do that before closing the descriptor. 32 descriptors can be watched.
- * Returns 0; -1 for standard input, for a number below, when there is no room, and for NULL when
- * the descriptor is not watched. */
+ * Returns KUL_OK; KUL_ERROR for standard input, for a number below, when there is no room, and for
+ * NULL when the descriptor is not watched. */
 KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
 
 /* ---- Edition 2 ------------------------------------------------------------------------------ *
@@ -477,9 +536,37 @@ KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
  * Escape; -1 for none, the start. The focus stays where it is while onClick runs, and the current
  * selection names the button. One that is hidden or disabled is not clicked: Escape then leaves the
  * dialog. The default button is marked by > and <. Edition 2 only: edition 1 keeps them for later.
- * Return 0, -1 for an unknown chain, one without dialog, or an nRef that is no button. */
+ * Return KUL_OK, KUL_ERROR for an unknown chain, one without dialog, or an nRef that is no button.
+ */
 KULGUI_API int kulgui_setDefault(int nChain, int nRef);
 KULGUI_API int kulgui_setCancel(int nChain, int nRef);
+
+/* ---- What the user is at --------------------------------------------------------------------- */
+
+/** What has the focus, and what is selected in it. Callbacks read it. */
+typedef struct current {
+    int nChain;         /* ro */
+    int nUserInterface; /* ro: nRef of the component */
+    int nType;          /* ro: UI_TYPE */
+    int nPosition;      /* ro */
+    int nSelect;        /* ro */
+    int nSubSelect;     /* ro */
+} CURRENT;
+
+/** The record of what has the focus; always the same one, the library's. */
+KULGUI_API CURRENT* GetCurrentSelection(void);
+
+/** The UI_TYPE of what has the focus. */
+KULGUI_API int GetCurrentComponentType(void);
+
+/** The selected element of what has the focus, counted from 0, whatever its kind. */
+KULGUI_API int GetCurrentOptionSelection(void);
+KULGUI_API int GetCurrentCheckboxSelection(void);
+KULGUI_API int GetCurrentSelectedToolbarButton(void);
+KULGUI_API int GetCurrentSelectedMenuElement(void);
+
+/** The text of the text box that has the focus, the library's own; NULL when it is none. */
+KULGUI_API char* GetCurrentTextboxData(void);
 
 /* ---- Ready dialogs -------------------------------------------------------------------------- *
  *
@@ -491,16 +578,17 @@ KULGUI_API int kulgui_setCancel(int nChain, int nRef);
  *
  *     ┌──────── Title ─────────┐      Tab, Shift-Tab: between the body and the buttons
  *     │ The text, which scrolls│      Enter: the selected button, in the body the first one
- *     │ when it is long.       │      Escape: leaves, with -1
+ *     │ when it is long.       │      Escape: leaves, with KUL_DISMISSED
  *     │ ┌────────────────────┐ │      Up, Down, PageUp, PageDown, Home, End: move the text where
  *     │ │ The body           │ │          the buttons have the focus
  *     │ └────────────────────┘ │
  *     │     <OK>   <Cancel>    │
  *     └────────────────────────┘
  *
- * Texts are only read, NULL counts as empty; indexes begin at 0. Each returns 0 where nothing else
- * is said; -1 for Escape or Cancel, when what was handed in is as it was; -2 where there is no
- * usable terminal, no memory, or a file cannot be opened; -10000 when the line is gone.
+ * Texts are only read, NULL counts as empty; indexes begin at 0. Each returns KUL_OK where
+ * nothing else is said; KUL_DISMISSED for Escape or Cancel, when what was handed in is as it was;
+ * KUL_UNUSABLE where there is no usable terminal, no memory, or a file cannot be opened; KUL_GONE
+ * when the line is gone.
  */
 
 /** Words of the ready dialogs, for kuldialog_setWord. */
@@ -516,7 +604,7 @@ enum kul_words {
 };
 
 /** Sets a word of the ready dialogs, English at the start; szText is the program's and must stay.
- * Returns 0, -1 for an unknown word or NULL. */
+ * Returns KUL_OK, KUL_ERROR for an unknown word or NULL. */
 KULGUI_API int kuldialog_setWord(int nWord, const char* szText);
 
 /** Shows a text until its button is clicked. */
@@ -532,7 +620,7 @@ KULGUI_API int kuldialog_ask(const char* szTitle, const char* szText, const char
 KULGUI_API int kuldialog_enter(const char* szTitle, const char* szText, char* szBuffer, int nSize,
                                int nMask);
 
-/** A line of a form. */
+/** A line of a form. The record is the program's. */
 typedef struct kulfield {
     const char* szLabel;                /* in front of it; NULL for none */
     char* szText;                       /* in and out */
@@ -570,7 +658,7 @@ KULGUI_API int kuldialog_view(const char* szTitle, const char* szFileName, int b
 /** Long work of the program's: kuldialog_progress shows a text and a bar, kuldialog_advance moves
  * the bar to nPercent, 0 to 100, and changes the text unless it is NULL; kuldialog_done ends it.
  * None waits for a key. The title must stay until the end, and so must the first text. Without
- * kuldialog_progress before, -1. */
+ * kuldialog_progress before, KUL_ERROR. */
 KULGUI_API int kuldialog_progress(const char* szTitle, const char* szText);
 KULGUI_API int kuldialog_advance(int nPercent, const char* szText);
 KULGUI_API int kuldialog_done(void);
@@ -578,7 +666,7 @@ KULGUI_API int kuldialog_done(void);
 /** Runs a command by /bin/sh and shows what it writes, the last 64 KiB of it, without its escape
  * sequences. Escape or the button asks whether to end it, by TERM and the next time by KILL; when
  * it is over they close the dialog. A title of NULL is the command. Returns the command's exit
- * status, 128 and the number for a signal, or -2, -10000 as above. */
+ * status, 128 and the number for a signal, or KUL_UNUSABLE, KUL_GONE as above. */
 KULGUI_API int kuldialog_run(const char* szTitle, const char* szCommand);
 
 /** Has a file picked, from szDirectory on, NULL for the current one: Enter goes into a directory,
@@ -594,29 +682,9 @@ KULGUI_API int kuldialog_pick(const char* szTitle, const char* szDirectory, char
  *     └───────┘
  */
 
-typedef struct kulbutton {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    int nWidth; /* with the frame; the height is 3 */
-    char* szText;
-    int nVisible;
-    int nEnable; /* 1: enabled; else drawn in nColorDisable */
-    int nExitCode;
-    int* nExitFlag;
-    struct kulbutton* Prev;
-    struct kulbutton* Next;
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick;
-} KULBUTTON;
-
-/** Adds a button to a dialog. Returns 0, -10022 when a component has that nRef, -10009 for an
- * unknown chain, -10010 for one without dialog, -10019 or -1 without memory. The variants make
- * the same button. */
+/** Adds a button to a dialog. Returns KUL_OK, KUL_TAKEN_BUTTON when a component has that nRef,
+ * KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog, KUL_NO_MEMORY_UI or
+ * KUL_ERROR without memory. The variants make the same button. */
 KULGUI_API int kulbutton_create(int nChain, int nRef);
 KULGUI_API int kulokbutton_create(int nChain, int nRef);
 KULGUI_API int kulcancelbutton_create(int nChain, int nRef);
@@ -624,17 +692,18 @@ KULGUI_API int kulexitbutton_create(int nChain, int nRef);
 
 /** Sets a button up. The three colour sets: KUL_KEEP takes the dialog's; nColorBorder is not used.
  * nX, nY: top left corner; nWidth: columns with the frame. nEnable: 1 or not; a disabled button
- * looks so, and works. szText is copied and centred. onFocus and onSelect run when the button
- * gets the focus, onClick at Enter, onUnfocus when tabbing or one of kulgui_leave and
- * kulgui_setFocus takes the focus away. Returns 0, -1 for an unknown component or, with the
- * defaults in place, without memory. */
+ * looks so, and works. szText is copied and centred. onFocus and onSelect run when the button gets
+ * the focus, onClick at Enter, onUnfocus when tabbing or one of kulgui_leave and kulgui_setFocus
+ * takes the focus away. Returns KUL_OK, KUL_ERROR for an unknown component or, with the defaults in
+ * place, without memory. */
 KULGUI_API int kulbutton_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                 int nColorDisable, int nColorBorder, int nX, int nY, int nWidth,
                                 int nEnable, const char* szText, KULCALLBACK onFocus,
                                 KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Reset the button to its defaults and store none of the arguments: it has no text. Use
- * kulbutton_config for a button with a caption. Return 0, -1 for an unknown component. */
+ * kulbutton_config for a button with a caption. Return KUL_OK, KUL_ERROR for an unknown component.
+ */
 KULGUI_API int kulokbutton_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                   int nColorDisable, int nColorBorder, int nX, int nY, int nWidth,
                                   int nEnable, const char* szText, KULCALLBACK onFocus,
@@ -650,7 +719,7 @@ KULGUI_API int kulexitbutton_config(int nChain, int nRef, int nColorFocus, int n
                                     KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                                     KULCALLBACK onClick);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kulbutton_show(int nChain, int nRef);
 KULGUI_API int kulbutton_hide(int nChain, int nRef);
 KULGUI_API int kulokbutton_show(int nChain, int nRef);
@@ -660,9 +729,10 @@ KULGUI_API int kulcancelbutton_hide(int nChain, int nRef);
 KULGUI_API int kulexitbutton_show(int nChain, int nRef);
 KULGUI_API int kulexitbutton_hide(int nChain, int nRef);
 
-/** Gives a button the keys until it loses the focus. Returns 10 or -10 for the next or previous
- * component (10 at once when it is hidden or no button), 0 after kulgui_setFocus, KUL_LEFT after
- * kulgui_leave, -10000 when it is gone or the line was hung up. */
+/** Gives a button the keys until it loses the focus. Returns KUL_NEXT or KUL_PREVIOUS for the next
+ * or previous component (KUL_NEXT at once when it is hidden or no button), KUL_OK after
+ * kulgui_setFocus, KUL_LEFT after kulgui_leave, KUL_GONE when it is gone or the line was hung up.
+ */
 KULGUI_API int kulbutton_execKeys(int nChain, int nRef);
 
 /* ---- Menus ---------------------------------------------------------------------------------- *
@@ -676,72 +746,55 @@ KULGUI_API int kulbutton_execKeys(int nChain, int nRef);
 
 /** One element of a menu or dynamic menu. */
 typedef struct kulmenuelement {
-    int nEnable; /* 1: enabled; else drawn in nColorDisable while the menu has the focus */
-    int nExitCode;
-    int* nExitFlag;
-    char* szText;
-    struct kulmenuelement* Prev; /* of the first one: the last, NULL when it is alone */
-    struct kulmenuelement* Next; /* of the last one: NULL */
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick; /* kept, not run */
+    int nEnable;    /* rw: 1: enabled; else drawn in nColorDisable while the menu has the focus */
+    int nExitCode;  /* rw: not used */
+    int* nExitFlag; /* rw: not used */
+    char* szText;   /* ro */
+    struct kulmenuelement* Prev; /* ro: of the first one: the last, NULL when it is alone */
+    struct kulmenuelement* Next; /* ro: of the last one: NULL */
+    KULCALLBACK onSelect;        /* rw: not run */
+    KULCALLBACK onClick;         /* rw: run in edition 2 */
 } KULMENUELEMENT;
 
-typedef struct kulmenu {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    KULMENUELEMENT* Element; /* the first one */
-    int nSelect;             /* position from 0; nElements selects none */
-    int nEnable;
-    int nElements;
-    int nVisible;
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect; /* kept, not run */
-    KULCALLBACK onClick;
-} KULMENU;
-
-/** Adds a menu to a dialog. Returns 0, -10018 when a component has that nRef, else what
- * CreateUIComponent returns. */
+/** Adds a menu to a dialog. Returns KUL_OK, KUL_TAKEN_MENU when a component has that nRef, else as
+ * kulbutton_create. */
 KULGUI_API int kulmenu_create(int nChain, int nRef);
 
 /** Sets a menu up, without elements, at column 2 of row 2. The three colour sets: KUL_KEEP takes
  * the dialog's; in focus the selected element is in nColorFocus, the other ones in nColorUnfocus
  * or nColorDisable, without focus all are in nColorUnfocus; in edition 2 the selected one is told
  * then as well, black on cyan among black on white ones, else underlined. onFocus and onUnfocus
- * run when the menu gets and loses the focus, onClick at Enter. Returns 0, -1 for an unknown
- * component. */
+ * run when the menu gets and loses the focus, onClick at Enter. Returns KUL_OK, KUL_ERROR for an
+ * unknown component. */
 KULGUI_API int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                               int nColorDisable, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                               KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** Appends an element. szText is copied; nEnable: 1 or not; onSelect is not kept. Returns 0, -1
- * for an unknown menu or without memory. */
+/** Appends an element. szText is copied; nEnable: 1 or not; onSelect is not kept. Returns KUL_OK,
+ * KUL_ERROR for an unknown menu or without memory. */
 KULGUI_API int kulmenu_addElement(int nChain, int nRef, const char* szText, int nEnable,
                                   KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Removes the last element, whatever nSelection is; nSelect goes no further than the place after
- * the last. Returns 0, 1 when it was the only one, -1 for an unknown menu or one without
- * elements. */
+ * the last. Returns KUL_OK, KUL_EMPTIED when it was the only one, KUL_ERROR for an unknown menu or
+ * one without elements. */
 KULGUI_API int kulmenu_remElement(int nChain, int nRef, int nSelection);
 
 /** The element at a position from 0, the library's; its fields may be changed. Positions above 30
  * and negative ones give the element at 30. NULL for an unknown menu or when there is none. */
 KULGUI_API KULMENUELEMENT* kulmenu_getElement(int nChain, int nRef, int nElement);
 
-/** Number of its elements; -1 for an unknown menu. */
+/** Number of its elements; KUL_ERROR for an unknown menu. */
 KULGUI_API int kulmenu_count(int nChain, int nRef);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kulmenu_show(int nChain, int nRef);
 KULGUI_API int kulmenu_hide(int nChain, int nRef);
 
-/** Gives a menu the keys until it loses the focus. Returns 10 for the next component when it is
- * hidden or no menu, or when ExitUIorGUIorChains says that a navigation flag is set; 10 or -10 when
- * tabbing, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave, -10000 when it is gone or the line
- * was hung up. */
+/** Gives a menu the keys until it loses the focus. Returns KUL_NEXT for the next component when it
+ * is hidden or no menu, or when a navigation flag is set (the inside); KUL_NEXT or KUL_PREVIOUS
+ * when tabbing, KUL_OK after kulgui_setFocus, KUL_LEFT after kulgui_leave, KUL_GONE when it is gone
+ * or the line was hung up. */
 KULGUI_API int kulmenu_execKeys(int nChain, int nRef);
 
 /* ---- Dynamic menus -------------------------------------------------------------------------- *
@@ -755,33 +808,13 @@ KULGUI_API int kulmenu_execKeys(int nChain, int nRef);
  * still.
  */
 
-typedef struct kuldynmenu {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX; /* of the frame */
-    int nY;
-    int nWidth; /* inside of the frame */
-    int nHeight;
-    int nVisible;
-    int Enable;
-    int nMaxLength; /* of the texts added so far */
-    int nElements;  /* added so far; not counted down */
-    int nSelect;    /* position from 0; nElements selects none */
-    KULMENUELEMENT* Element;
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect; /* kept, not run */
-    KULCALLBACK onClick;
-} KULDYNMENU;
-
-/** Adds a dynamic menu to a dialog. Returns 0, -10021 when a component has that nRef, else what
- * CreateUIComponent returns. */
+/** Adds a dynamic menu to a dialog. Returns KUL_OK, KUL_TAKEN_DYNMENU when a component has that
+ * nRef, else as kulbutton_create. */
 KULGUI_API int kuldynmenu_create(int nChain, int nRef);
 
 /** Sets a dynamic menu up, without elements. Colour sets as kulmenu_config, and the frame in
  * nColorFocus or nColorUnfocus. nX, nY: corner of the frame; nWidth, nHeight: columns and rows
- * inside of it; below 1 nothing is drawn. Returns 0, -1 for an unknown component. */
+ * inside of it; below 1 nothing is drawn. Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kuldynmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                  int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                  KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
@@ -798,11 +831,11 @@ KULGUI_API int kuldynmenu_remElement(int nChain, int nRef, int nSelection);
 /** As kulmenu_getElement. */
 KULGUI_API KULMENUELEMENT* kuldynmenu_getElement(int nChain, int nRef, int nElement);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kuldynmenu_show(int nChain, int nRef);
 KULGUI_API int kuldynmenu_hide(int nChain, int nRef);
 
-/** Number of its elements; -1 for an unknown dynamic menu. */
+/** Number of its elements; KUL_ERROR for an unknown dynamic menu. */
 KULGUI_API int kuldynmenu_count(int nChain, int nRef);
 
 /** As kulmenu_execKeys; a hidden one gets the keys as well, unless it is passed over: in edition 2
@@ -819,51 +852,32 @@ KULGUI_API int kuldynmenu_execKeys(int nChain, int nRef);
  */
 
 typedef struct kuldescrmenuelement {
-    int nEnable; /* 1: enabled; else drawn in nColorDisable while the menu has the focus */
-    int nExitCode;
-    int* nExitFlag;
-    char* szText;
-    char* szBoxText;
-    struct kuldescrmenuelement* Prev; /* of the first one: the last, NULL when it is alone */
-    struct kuldescrmenuelement* Next; /* of the last one: NULL */
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick; /* kept, not run */
+    int nEnable;     /* rw: 1: enabled; else drawn in nColorDisable while the menu has the focus */
+    int nExitCode;   /* rw: not used */
+    int* nExitFlag;  /* rw: not used */
+    char* szText;    /* ro */
+    char* szBoxText; /* ro */
+    struct kuldescrmenuelement* Prev; /* ro: of the first one: the last, NULL when it is alone */
+    struct kuldescrmenuelement* Next; /* ro: of the last one: NULL */
+    KULCALLBACK onSelect;             /* rw: not run */
+    KULCALLBACK onClick;              /* rw: run in edition 2 */
 } KULDESCRMENUELEMENT;
 
-typedef struct kuldescrmenu {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    int nBarLength; /* of the line below the texts */
-    int nBoxWidth;  /* with the frame */
-    int nBoxHeight; /* with the lower edge of the frame; the upper one is on the line */
-    KULDESCRMENUELEMENT* Element;
-    int nVisible;
-    int nElements;
-    int nSelect; /* position from 0; -1 and nElements select none */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect; /* kept, not run */
-    KULCALLBACK onClick;
-} KULDESCRMENU;
-
-/** Adds a description menu to a dialog. Returns 0, -10020 when a component has that nRef, else
- * what CreateUIComponent returns. */
+/** Adds a description menu to a dialog. Returns KUL_OK, KUL_TAKEN_DESCRMENU when a component has
+ * that nRef, else as kulbutton_create. */
 KULGUI_API int kuldescrmenu_create(int nChain, int nRef);
 
 /** Sets a description menu up, without elements, at column 2 of row 2: nX and nY are not used.
  * Colour sets as kulmenu_config; frame and description are in nColorFocus or nColorUnfocus.
  * nBarLength, nBoxWidth, nBoxHeight: KUL_KEEP takes 75, 20 and 19. The description has nBoxWidth -
- * 3 columns and nBoxHeight - 2 rows. Returns 0, -1 for an unknown component. */
+ * 3 columns and nBoxHeight - 2 rows. Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kuldescrmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                    int nColorDisable, int nX, int nY, int nBarLength, int nBoxWidth,
                                    int nBoxHeight, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                                    KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** Appends an element. szText, for the bar, and szBoxText, its description, are copied; nEnable:
- * 1 or not; onSelect is not kept. Returns 0, -1 for an unknown menu or without memory. */
+/** Appends an element. szText, for the bar, and szBoxText, its description, are copied; nEnable: 1
+ * or not; onSelect is not kept. Returns KUL_OK, KUL_ERROR for an unknown menu or without memory. */
 KULGUI_API int kuldescrmenu_addElement(int nChain, int nRef, int nEnable, const char* szText,
                                        const char* szBoxText, KULCALLBACK onSelect,
                                        KULCALLBACK onClick);
@@ -874,16 +888,16 @@ KULGUI_API int kuldescrmenu_remElement(int nChain, int nRef, int nSelection);
 /** As kulmenu_getElement. */
 KULGUI_API KULDESCRMENUELEMENT* kuldescrmenu_getElement(int nChain, int nRef, int nElement);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kuldescrmenu_show(int nChain, int nRef);
 KULGUI_API int kuldescrmenu_hide(int nChain, int nRef);
 
-/** Number of its elements; -1 for an unknown description menu. */
+/** Number of its elements; KUL_ERROR for an unknown description menu. */
 KULGUI_API int kuldescrmenu_count(int nChain, int nRef);
 
-/** Gives a description menu the keys until it loses the focus, hidden or not. Returns 10 at once
- * when it is none; 10 or -10 when tabbing, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
- * -10000 when it is gone or the line was hung up. */
+/** Gives a description menu the keys until it loses the focus, hidden or not. Returns KUL_NEXT at
+ * once when it is none; KUL_NEXT or KUL_PREVIOUS when tabbing, KUL_OK after kulgui_setFocus,
+ * KUL_LEFT after kulgui_leave, KUL_GONE when it is gone or the line was hung up. */
 KULGUI_API int kuldescrmenu_execKeys(int nChain, int nRef);
 
 /* ---- Toolbars ------------------------------------------------------------------------------- *
@@ -894,58 +908,39 @@ KULGUI_API int kuldescrmenu_execKeys(int nChain, int nRef);
  */
 
 typedef struct kultoolbarbutton {
-    int nX; /* where it was drawn */
-    int nY;
-    char* szText;
-    int nEnable; /* 1: enabled; else drawn in nColorDisable and passed over */
-    int nExitCode;
-    int* nExitFlag;
-    struct kultoolbarbutton* Prev; /* of the first one: the last, NULL when it is alone */
-    struct kultoolbarbutton* Next; /* of the last one: NULL */
-    KULCALLBACK onSelect;          /* kept, not run */
-    KULCALLBACK onClick;
+    int nX;                        /* ro: where it was drawn */
+    int nY;                        /* ro */
+    char* szText;                  /* ro */
+    int nEnable;                   /* rw: 1: enabled; else drawn in nColorDisable and passed over */
+    int nExitCode;                 /* rw: not used */
+    int* nExitFlag;                /* rw: not used */
+    struct kultoolbarbutton* Prev; /* ro: of the first one: the last, NULL when it is alone */
+    struct kultoolbarbutton* Next; /* ro: of the last one: NULL */
+    KULCALLBACK onSelect;          /* rw: not run */
+    KULCALLBACK onClick;           /* rw */
 } KULTOOLBARBUTTON;
 
-typedef struct kultoolbar {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX; /* of the first button */
-    int nY;
-    KULTOOLBARBUTTON* Button; /* the first one */
-    int nSelect;              /* position from 0 */
-    int nButtons;
-    int nMaxLength; /* of the texts; buttons are two columns wider */
-    int nVisible;
-    int nExitCode;
-    int* nExitFlag;
-    int nOrient; /* ORIENTATION */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect; /* kept, not run */
-    KULCALLBACK onClick;
-} KULTOOLBAR;
-
-/** Adds a toolbar to a dialog. Returns 0, -10027 when a component has that nRef, else what
- * CreateUIComponent returns. */
+/** Adds a toolbar to a dialog. Returns KUL_OK, KUL_TAKEN_TOOLBAR when a component has that nRef,
+ * else as kulbutton_create. */
 KULGUI_API int kultoolbar_create(int nChain, int nRef);
 
 /** Sets a toolbar up, without buttons. The three colour sets: KUL_KEEP takes the dialog's; the
  * selected button is in nColorFocus while the toolbar has the focus, the other ones in
  * nColorUnfocus or nColorDisable. nX, nY: corner of the first button. nOrient: an ORIENTATION;
  * anything else is LATERAL. onFocus and onUnfocus run when the toolbar gets and loses the focus.
- * Returns 0, -1 for an unknown component. */
+ * Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kultoolbar_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                  int nColorDisable, int nX, int nY, int nOrient,
                                  KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                                  KULCALLBACK onClick);
 
 /** Appends a button. szText is copied; nSelect is not used; nEnable: 1 or not; onClick runs at
- * Enter while the button is selected. Returns 0, -1 for an unknown toolbar or without memory. */
+ * Enter while the button is selected. Returns KUL_OK, KUL_ERROR for an unknown toolbar or without
+ * memory. */
 KULGUI_API int kultoolbar_addButton(int nChain, int nRef, const char* szText, int nSelect,
                                     int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** These three do nothing and return 0. */
+/** These three do nothing and return KUL_OK. */
 KULGUI_API int kultoolbar_addOKButton(int nChain, int nRef, const char* szText, int nSelect,
                                       int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
 KULGUI_API int kultoolbar_addCancelButton(int nChain, int nRef, const char* szText, int nSelect,
@@ -959,18 +954,18 @@ KULGUI_API int kultoolbar_remButton(int nChain, int nRef, int nSelection);
 /** As kulmenu_getElement. */
 KULGUI_API KULTOOLBARBUTTON* kultoolbar_getButton(int nChain, int nRef, int nButton);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kultoolbar_show(int nChain, int nRef);
 KULGUI_API int kultoolbar_hide(int nChain, int nRef);
 
-/** Number of its buttons; -1 for an unknown toolbar. */
+/** Number of its buttons; KUL_ERROR for an unknown toolbar. */
 KULGUI_API int kultoolbar_count(int nChain, int nRef);
 
 /** Gives a toolbar the keys until it loses the focus. An arrow key looks at 30 buttons at most for
- * an enabled one. Returns 10 after Tab and when it is hidden, -10 after Escape; -1 when it is no
- * toolbar; 0 when it gets hidden meanwhile and after kulgui_setFocus; KUL_LEFT after kulgui_leave;
- * -10000 when it is gone, the line was hung up, or its dialog gets hidden, which hides dialog 1 as
- * well. */
+ * an enabled one. Returns KUL_NEXT after Tab and when it is hidden, KUL_PREVIOUS after Escape;
+ * KUL_ERROR when it is no toolbar; KUL_OK when it gets hidden meanwhile and after kulgui_setFocus;
+ * KUL_LEFT after kulgui_leave; KUL_GONE when it is gone, the line was hung up, or its dialog gets
+ * hidden, which hides dialog 1 as well. */
 KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
 
 /* ---- File viewers --------------------------------------------------------------------------- *
@@ -995,66 +990,52 @@ KULGUI_API int kultoolbar_execKeys(int nChain, int nRef);
  * is in view.
  */
 
-typedef struct kulfileview {
-    int nColorFocus;   /* text, with the focus */
-    int nColorUnfocus; /* text without; frame and scroll bar */
-    int nColorDisable; /* kept, not used */
-    int nX;
-    int nY;
-    int nWidth; /* with the frame, or with the scroll bar in the last column */
-    int nHeight;
-    char* szFileName; /* what is shown; NULL for nothing */
-    int nVisible;
-    int nBorder; /* BORDERS */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick;
-} KULFILEVIEW;
-
-/** Adds a file viewer to a dialog. Returns 0, -10025 when a component has that nRef, -10009 for an
- * unknown chain, -10010 for one without dialog, -10019 or -1 without memory. */
+/** Adds a file viewer to a dialog. Returns KUL_OK, KUL_TAKEN_FILEVIEW when a component has that
+ * nRef, KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog, KUL_NO_MEMORY_UI
+ * or KUL_ERROR without memory. */
 KULGUI_API int kulfileview_create(int nChain, int nRef);
 
 /** Sets a file viewer up. The three colour sets: KUL_KEEP takes the dialog's. nX, nY: top left
  * corner; nWidth, nHeight: the size with the frame. nBorder: BORDER draws a frame, NOBORDER, the
  * default, none; other values count as the default. szFileName is shown as by kulfileview_load;
  * following is off. onFocus and onUnfocus run when the viewer gets and loses the focus, onSelect
- * after a move, onClick for Enter. Returns 0, -1 for an unknown component, -10028 when the file
- * cannot be loaded: the viewer is set up then, and empty. */
+ * after a move, onClick for Enter. Returns KUL_OK, KUL_ERROR for an unknown component,
+ * KUL_UNREADABLE when the file cannot be loaded: the viewer is set up then, and empty. */
 KULGUI_API int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                   int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                   int nBorder, const char* szFileName, KULCALLBACK onFocus,
                                   KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Shows a file from its start, or from its end while following. NULL shows nothing. The name is
- * copied. Returns 0, -1 for an unknown component, -10028 for what cannot be opened or read or is
- * no regular file (never waits for a pipe or device), or without memory: what was shown stays. */
+ * copied. Returns KUL_OK, KUL_ERROR for an unknown component, KUL_UNREADABLE for what cannot be
+ * opened or read or is no regular file (never waits for a pipe or device), or without memory: what
+ * was shown stays. */
 KULGUI_API int kulfileview_load(int nChain, int nRef, const char* szFileName);
 
 /** With T the view goes to the end of the file and stays there while the file grows, by a look once
  * a second; who moves up stays where he is until he is back at the end. A file that was cut short,
  * or replaced by another one of its name, is shown from its end. F, the start, leaves the view
- * where it is. Returns 0, -1 for an unknown component. */
+ * where it is. Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kulfileview_setFollow(int nChain, int nRef, int bFollow);
 
 /** Finds the first line from line nFrom on that contains szText, byte by byte, and moves the view
- * there. Returns the line, -1 when there is none, which leaves the view, or for an unknown
+ * there. Returns the line, KUL_ERROR when there is none, which leaves the view, or for an unknown
  * component. Line + 1 is where to go on; near the end the found line is not the first in view. */
 KULGUI_API int kulfileview_find(int nChain, int nRef, const char* szText, int nFrom);
 
 /** The first line in view, 0 without a file; moving to a line, or as near as there are lines to
- * fill the view. -1 for an unknown component; setting gives 0. */
+ * fill the view. KUL_ERROR for an unknown component; setting gives KUL_OK. */
 KULGUI_API int kulfileview_getPosition(int nChain, int nRef);
 KULGUI_API int kulfileview_setPosition(int nChain, int nRef, int nLine);
 
-/** Show or hide the component from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the component from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kulfileview_show(int nChain, int nRef);
 KULGUI_API int kulfileview_hide(int nChain, int nRef);
 
-/** Gives a file viewer the keys until it loses the focus. Returns 10 after Tab and at once when it
- * is hidden, -10 after Escape, 0 when it gets hidden meanwhile and after kulgui_setFocus, KUL_LEFT
- * after kulgui_leave, -10000 when it is gone or none, or the line was hung up. */
+/** Gives a file viewer the keys until it loses the focus. Returns KUL_NEXT after Tab and at once
+ * when it is hidden, KUL_PREVIOUS after Escape, KUL_OK when it gets hidden meanwhile and after
+ * kulgui_setFocus, KUL_LEFT after kulgui_leave, KUL_GONE when it is gone or none, or the line was
+ * hung up. */
 KULGUI_API int kulfileview_execKeys(int nChain, int nRef);
 
 /* ---- Check box lists ------------------------------------------------------------------------ *
@@ -1069,66 +1050,41 @@ KULGUI_API int kulfileview_execKeys(int nChain, int nRef);
  * border; a list that is longer than its box scrolls and gets a scroll bar in its last column.
  */
 
-/** An element; programs may change nEnable, nSelect and onSelect. The elements form a ring, where
- * a lone one has no links. */
+/** An element. They form a ring, where a lone one has no links. */
 typedef struct kulcheckelement {
-    int nEnable; /* 1: enabled; else in nColorDisable while in focus; can still be checked */
-    int nExitCode;
-    int* nExitFlag;
-    int nSelect; /* 1: checked */
-    char* szText;
-    int nHeight; /* rows of the wrapped text */
-    struct kulcheckelement* Prev;
-    struct kulcheckelement* Next;
-    KULCALLBACK onSelect;
-    KULCALLBACK onUnselect; /* not run */
+    int nEnable;    /* rw: 1: enabled; else in nColorDisable while in focus; can still be checked */
+    int nExitCode;  /* rw: not used */
+    int* nExitFlag; /* rw: not used */
+    int nSelect;    /* rw: 1: checked */
+    char* szText;   /* ro */
+    int nHeight;    /* ro: rows of the wrapped text */
+    struct kulcheckelement* Prev; /* ro */
+    struct kulcheckelement* Next; /* ro */
+    KULCALLBACK onSelect;         /* rw */
+    KULCALLBACK onUnselect;       /* rw: not run */
 } KULCHECKELEMENT;
 
-typedef struct kulcheckbox {
-    int nColorFocus; /* of the cursor's element, while the list has the focus */
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    int nWidth; /* with the border */
-    int nHeight;
-    KULCHECKELEMENT* Element;     /* the head */
-    KULCHECKELEMENT* FirstShowed; /* first and last element in view */
-    KULCHECKELEMENT* LastShowed;
-    int nVisible;
-    int nSelect;      /* index of the cursor's element */
-    int nFirstShowed; /* indexes of the elements in view; -1 before the first element */
-    int nLastShowed;
-    int nElements;
-    int bScrollbar; /* T once the elements did not fit */
-    int nBorder;    /* BORDERS */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick;
-} KULCHECKBOX;
-
-/** Adds a check box list to a dialog. Returns 0, -10023 when a component has that nRef, else what
- * kulbutton_create returns. */
+/** Adds a check box list to a dialog. Returns KUL_OK, KUL_TAKEN_CHECKBOX when a component has that
+ * nRef, else as kulbutton_create. */
 KULGUI_API int kulcheckbox_create(int nChain, int nRef);
 
 /** Sets a list up, without elements: those that it had are freed. The three colour sets: KUL_KEEP
  * takes the dialog's. nX, nY: top left corner; nWidth, nHeight: size with the border. nBorder:
  * BORDERS, anything else is NOBORDER. onFocus runs when the list gets the focus, onUnfocus when it
  * loses it, onSelect after the cursor moved and the element's own, onClick after Space and Enter.
- * Returns 0, -1 for an unknown component. */
+ * Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kulcheckbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                   int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                   int nBorder, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                                   KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Appends an element. szText is copied. nSelect: 1 is checked; nEnable: 1 or not. onSelect runs
- * when the cursor comes to it; onClick is not used. Returns 0, -1 for an unknown component or
- * without memory. */
+ * when the cursor comes to it; onClick is not used. Returns KUL_OK, KUL_ERROR for an unknown
+ * component or without memory. */
 KULGUI_API int kulcheckbox_addElement(int nChain, int nRef, const char* szText, int nSelect,
                                       int nEnable, KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** Does nothing and returns 0: elements cannot be taken out. */
+/** Does nothing and returns KUL_OK: elements cannot be taken out. */
 KULGUI_API int kulcheckbox_remElement(int nChain, int nRef, int nSelection);
 
 /** The element at an index from 0, counted round the ring; a negative index and one above 30 count
@@ -1136,46 +1092,37 @@ KULGUI_API int kulcheckbox_remElement(int nChain, int nRef, int nSelection);
  * of one. */
 KULGUI_API KULCHECKELEMENT* kulcheckbox_getElement(int nChain, int nRef, int nElement);
 
-/** Checks or unchecks the element at an index below 30. Returns 0, -1 for an unknown component,
- * another index or where getElement gives NULL. */
+/** Checks or unchecks the element at an index below 30. Returns KUL_OK, KUL_ERROR for an unknown
+ * component, another index or where getElement gives NULL. */
 KULGUI_API int kulcheckbox_setSelect(int nChain, int nRef, int nElement);
 
-/** 1 when that element is checked, 0 when not; -1 where setSelect gives it. */
+/** 1 when that element is checked, 0 when not; KUL_ERROR where setSelect gives it. */
 KULGUI_API int kulcheckbox_getSelect(int nChain, int nRef, int nElement);
 
-/** Index of the cursor's element while the list has the focus, else -1. */
+/** Index of the cursor's element while the list has the focus, else KUL_ERROR. */
 KULGUI_API int kulcheckbox_getFocus(int nChain, int nRef);
 
-/** Show or hide the list from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the list from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kulcheckbox_show(int nChain, int nRef);
 KULGUI_API int kulcheckbox_hide(int nChain, int nRef);
 
-/** Whether the element at an index from 0 is checked: 1, or 0 when it is not; -1 for an unknown
- * list or when there is none. */
+/** Whether the element at an index from 0 is checked: 1, or 0 when it is not; KUL_ERROR for an
+ * unknown list or when there is none. */
 KULGUI_API int kulcheckbox_isChecked(int nChain, int nRef, int nElement);
 
-/** Checks the element at an index from 0 with T, unchecks it with F; no callback runs. Returns 0,
- * -1 for an unknown list or when there is none. */
+/** Checks the element at an index from 0 with T, unchecks it with F; no callback runs. Returns
+ * KUL_OK, KUL_ERROR for an unknown list or when there is none. */
 KULGUI_API int kulcheckbox_check(int nChain, int nRef, int nElement, int bChecked);
 
-/** Number of its elements; -1 for an unknown list. */
+/** Number of its elements; KUL_ERROR for an unknown list. */
 KULGUI_API int kulcheckbox_count(int nChain, int nRef);
 
 /** Gives a list the keys until it loses the focus; one that a callback hides goes on unseen. Space
- * and Enter check any element, also those that setSelect cannot name. Returns 10 after Tab and -10
- * after Escape, 10 at once when it is hidden, 0 after kulgui_setFocus, KUL_LEFT after kulgui_leave,
- * -10000 when it is gone or no check box list, or the line was hung up. */
+ * and Enter check any element, also those that setSelect cannot name. Returns KUL_NEXT after Tab
+ * and KUL_PREVIOUS after Escape, KUL_NEXT at once when it is hidden, KUL_OK after kulgui_setFocus,
+ * KUL_LEFT after kulgui_leave, KUL_GONE when it is gone or no check box list, or the line was hung
+ * up. */
 KULGUI_API int kulcheckbox_execKeys(int nChain, int nRef);
-
-/** The steps of scrolling, by the record alone; a list without rows has an empty view.
- * SetFirst... begins the view with the element at nFirstShowed, SetFirst...FromEnd where the last
- * elements fill the box, SetLast... ends it where the box is full. Check... gives T when
- * the last element in view is cut, else F. GetTotal... gives the rows of all elements. */
-KULGUI_API void SetFirstCheckElement(KULCHECKBOX* thisCheckbox);
-KULGUI_API void SetFirstCheckElementFromEnd(KULCHECKBOX* thisCheckbox);
-KULGUI_API void SetLastCheckElement(KULCHECKBOX* thisCheckbox);
-KULGUI_API int CheckLastCheckElementForSpillover(const KULCHECKBOX* thisCheckbox);
-KULGUI_API int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox);
 
 /* ---- Option lists --------------------------------------------------------------------------- *
  *
@@ -1186,46 +1133,21 @@ KULGUI_API int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox);
  * One element is chosen, wherever the cursor is. Texts and scrolling as in check box lists.
  */
 
-/** An element; programs may change nEnable and the callbacks. Linked as in check box lists. */
+/** An element. Linked as in check box lists. */
 typedef struct kuloptionelement {
-    int nEnable; /* 1: enabled; else in nColorDisable while in focus; can still be chosen */
-    int nExitCode;
-    int* nExitFlag;
-    char* szText;
-    int nHeight; /* rows of the wrapped text */
-    struct kuloptionelement* Prev;
-    struct kuloptionelement* Next;
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick;
+    int nEnable;    /* rw: 1: enabled; else in nColorDisable while in focus; can still be chosen */
+    int nExitCode;  /* rw: not used */
+    int* nExitFlag; /* rw: not used */
+    char* szText;   /* ro */
+    int nHeight;    /* ro: rows of the wrapped text */
+    struct kuloptionelement* Prev; /* ro */
+    struct kuloptionelement* Next; /* ro */
+    KULCALLBACK onSelect;          /* rw */
+    KULCALLBACK onClick;           /* rw */
 } KULOPTIONELEMENT;
 
-typedef struct kuloptions {
-    int nColorFocus; /* of the cursor's element, while the list has the focus */
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    int nWidth; /* with the border */
-    int nHeight;
-    KULOPTIONELEMENT* Element;     /* the head */
-    KULOPTIONELEMENT* FirstShowed; /* first and last element in view */
-    KULOPTIONELEMENT* LastShowed;
-    int nVisible;
-    int nSelect;      /* index of the chosen element */
-    int nFirstShowed; /* indexes of the elements in view; -1 before the first element */
-    int nLastShowed;
-    int nPosition; /* index of the cursor's element */
-    int nElements;
-    int bScrollbar; /* T once the elements did not fit */
-    int nBorder;    /* BORDERS */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onSelect;
-    KULCALLBACK onClick;
-} KULOPTIONS;
-
-/** Adds an option list to a dialog. Returns 0, -10024 when a component has that nRef, else what
- * kulbutton_create returns. */
+/** Adds an option list to a dialog. Returns KUL_OK, KUL_TAKEN_OPTIONS when a component has that
+ * nRef, else as kulbutton_create. */
 KULGUI_API int kuloptions_create(int nChain, int nRef);
 
 /** As kulcheckbox_config. nSelect is the index of the chosen element, nPosition that of the
@@ -1237,48 +1159,42 @@ KULGUI_API int kuloptions_config(int nChain, int nRef, int nColorFocus, int nCol
                                  KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick);
 
 /** Appends an element. szText is copied. nEnable: 1 or not. onSelect runs when the cursor comes to
- * it, onClick when it is chosen. Returns 0, -1 for an unknown component or without memory. */
+ * it, onClick when it is chosen. Returns KUL_OK, KUL_ERROR for an unknown component or without
+ * memory. */
 KULGUI_API int kuloptions_addElement(int nChain, int nRef, const char* szText, int nEnable,
                                      KULCALLBACK onSelect, KULCALLBACK onClick);
 
-/** Does nothing and returns 0: elements cannot be taken out. */
+/** Does nothing and returns KUL_OK: elements cannot be taken out. */
 KULGUI_API int kuloptions_remElement(int nChain, int nRef, int nSelection);
 
 /** As kulcheckbox_getElement. */
 KULGUI_API KULOPTIONELEMENT* kuloptions_getElement(int nChain, int nRef, int nElement);
 
 /** Choose the element at an index from 0, or ask which one is chosen. An index that no element has
- * chooses none. Both return the index, -1 for an unknown component. */
+ * chooses none. Both return the index, KUL_ERROR for an unknown component. */
 KULGUI_API int kuloptions_setClicked(int nChain, int nRef, int nSelect);
 KULGUI_API int kuloptions_getClicked(int nChain, int nRef);
 
-/** Index of the cursor's element while the list has the focus, else -1. */
+/** Index of the cursor's element while the list has the focus, else KUL_ERROR. */
 KULGUI_API int kuloptions_getSelected(int nChain, int nRef);
 
-/** Show or hide the list from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the list from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kuloptions_show(int nChain, int nRef);
 KULGUI_API int kuloptions_hide(int nChain, int nRef);
 
-/** Index from 0 of the chosen element; -1 for an unknown list or while none is. */
+/** Index from 0 of the chosen element; KUL_ERROR for an unknown list or while none is. */
 KULGUI_API int kuloptions_getChosen(int nChain, int nRef);
 
-/** Chooses the element at an index from 0; no callback runs. Returns 0, -1 for an unknown list or
- * when there is none. */
+/** Chooses the element at an index from 0; no callback runs. Returns KUL_OK, KUL_ERROR for an
+ * unknown list or when there is none. */
 KULGUI_API int kuloptions_choose(int nChain, int nRef, int nElement);
 
-/** Number of its elements; -1 for an unknown list. */
+/** Number of its elements; KUL_ERROR for an unknown list. */
 KULGUI_API int kuloptions_count(int nChain, int nRef);
 
-/** As kulcheckbox_execKeys, but Space and Enter choose an element. Returns -1 at once when the list
- * is hidden, unknown or no option list, and 0 when a callback hides it. */
+/** As kulcheckbox_execKeys, but Space and Enter choose an element. Returns KUL_ERROR at once when
+ * the list is hidden, unknown or no option list, and KUL_OK when a callback hides it. */
 KULGUI_API int kuloptions_execKeys(int nChain, int nRef);
-
-/** As their like of the check box lists. */
-KULGUI_API void SetFirstOptionElement(KULOPTIONS* theseOptions);
-KULGUI_API void SetFirstOptionElementFromEnd(KULOPTIONS* theseOptions);
-KULGUI_API void SetLastOptionElement(KULOPTIONS* theseOptions);
-KULGUI_API int CheckLastOptionElementForSpillover(const KULOPTIONS* theseOptions);
-KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
 
 /* ---- Text boxes ----------------------------------------------------------------------------- *
  *
@@ -1300,33 +1216,9 @@ KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
  */
 
 typedef enum masking { NOMASK = -1, MASK = 0 } MASKING;
-typedef enum cursor { SHOWCURSOR = 0, HIDECURSOR = 1 } CURSOR;
 
-typedef struct kultextbox {
-    int nColorFocus;
-    int nColorUnfocus;
-    int nColorDisable;
-    int nX;
-    int nY;
-    int nWidth; /* with the border */
-    int nHeight;
-    int nBorder;           /* BORDERS */
-    int nCursor;           /* CURSOR; for DrawTextBox */
-    int nCursorPos;        /* index into the text */
-    int nLength;           /* of the text, in bytes */
-    int nMaxLength;        /* cells inside the border, or the limit */
-    char* szText;          /* nMaxLength + 1 bytes at least; NULL before kultextbox_config */
-    const char* szCharSet; /* the program's */
-    int nMask;             /* MASKING */
-    int nVisible;
-    int nEnable; /* 1: enabled; else drawn in nColorDisable */
-    KULCALLBACK onFocus;
-    KULCALLBACK onUnfocus;
-    KULCALLBACK onKey;
-} KULTEXTBOX;
-
-/** Adds a text box to a dialog. Returns 0, -10026 when a component has that nRef, else what
- * kulbutton_create returns. */
+/** Adds a text box to a dialog. Returns KUL_OK, KUL_TAKEN_TEXTBOX when a component has that nRef,
+ * else as kulbutton_create. */
 KULGUI_API int kultextbox_create(int nChain, int nRef);
 
 /** Sets a box up, with an empty text; the earlier one is freed. The three colour sets: KUL_KEEP
@@ -1334,17 +1226,19 @@ KULGUI_API int kultextbox_create(int nChain, int nRef);
  * room for text. nBorder: BORDERS, anything else is NOBORDER. nMask: MASK shows asterisks, anything
  * else is NOMASK. szCharSet: the characters that can be typed, NULL for all that print; it is not
  * copied and must outlive the box. onFocus runs when the box gets the focus, onUnfocus when it
- * loses it, onKey after each key. Returns 0; -1 for an unknown component, and without memory, for a
- * negative number of cells or more than 16 million: then the box has no text and takes none. */
+ * loses it, onKey after each key. Returns KUL_OK; KUL_ERROR for an unknown component, and without
+ * memory, for a negative number of cells or more than 16 million: then the box has no text and
+ * takes none. */
 KULGUI_API int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                                  int nColorDisable, int nX, int nY, int nWidth, int nHeight,
                                  int nBorder, int nMask, const char* szCharSet, KULCALLBACK onFocus,
                                  KULCALLBACK onUnfocus, KULCALLBACK onKey);
 
 /** Copies a text into the box. The cursor stays at its index, or goes to the end of a text that is
- * shorter; in edition 2 it goes behind the text. Returns 0, -1 for an unknown component, one that
- * was not set up or NULL, and for a text that is too long: then the box is empty. Too long is one
- * of nMaxLength characters or more, in edition 2 one of more than nMaxLength. */
+ * shorter; in edition 2 it goes behind the text. Returns KUL_OK, KUL_ERROR for an unknown
+ * component, one that was not set up or NULL, and for a text that is too long: then the box is
+ * empty. Too long is one of nMaxLength characters or more, in edition 2 one of more than
+ * nMaxLength. */
 KULGUI_API int kultextbox_setText(int nChain, int nRef, const char* szText);
 
 /** The text in the locale's bytes, the library's own, until the box is set up again, gets another
@@ -1353,64 +1247,581 @@ KULGUI_API int kultextbox_setText(int nChain, int nRef, const char* szText);
 KULGUI_API char* kultextbox_getText(int nChain, int nRef);
 
 /** How many characters may be entered, 65,535 at the most, in place of the cells inside the border;
- * until the next kultextbox_config. In edition 2 a longer text scrolls in the box. Returns 0; -1
- * for an unknown component, one that was not set up, a number out of range, less than the text has
- * already, and without memory: then nothing has changed. */
+ * until the next kultextbox_config. In edition 2 a longer text scrolls in the box. Returns KUL_OK;
+ * KUL_ERROR for an unknown component, one that was not set up, a number out of range, less than the
+ * text has already, and without memory: then nothing has changed. */
 KULGUI_API int kultextbox_setLimit(int nChain, int nRef, int nCharacters);
 
 /** What judges the text when the user goes on to another component or to the default button, until
  * the next kultextbox_config; NULL for none. 0 lets him go, anything else keeps the focus in the
  * box; onCheck can say why in a label or a dialog. It is not asked on Escape, for the cancel
  * button, by kulgui_leave or kulgui_setFocus, so that a wrong text traps nobody. szText is the
- * library's own. Returns 0, -1 for an unknown component. */
+ * library's own. Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kultextbox_setCheck(int nChain, int nRef, int (*onCheck)(const char* szText));
 
 /** Puts the cursor on a character, counted from 0; as many as the text has put it behind the last
- * one. Returns 0, -1 for an unknown component or a number out of range. */
+ * one. Returns KUL_OK, KUL_ERROR for an unknown component or a number out of range. */
 KULGUI_API int kultextbox_setCursor(int nChain, int nRef, int nCharacter);
 
-/** Show or hide the box from the next drawing on. Always -1, also when all is well. */
+/** Show or hide the box from the next drawing on. Always KUL_ERROR, also when all is well. */
 KULGUI_API int kultextbox_show(int nChain, int nRef);
 KULGUI_API int kultextbox_hide(int nChain, int nRef);
 
-/** Gives a box the keys until it loses the focus. Returns 10 after Tab and Enter, -10 after Escape,
- * 10 at once when it is hidden, 0 when a callback hides it or after kulgui_setFocus, KUL_LEFT after
- * kulgui_leave, -10000 when it is gone or no text box, or the line was hung up. */
+/** Gives a box the keys until it loses the focus. Returns KUL_NEXT after Tab and Enter,
+ * KUL_PREVIOUS after Escape, KUL_NEXT at once when it is hidden, KUL_OK when a callback hides it or
+ * after kulgui_setFocus, KUL_LEFT after kulgui_leave, KUL_GONE when it is gone or no text box, or
+ * the line was hung up. */
 KULGUI_API int kultextbox_execKeys(int nChain, int nRef);
 
-/** The steps of editing, in the manners of the edition that runs. They change the record and draw
- * nothing. Up and Down move by a row where the box has more than one, Delete at the end of the text
- * takes off its last character. */
-KULGUI_API void TextBoxGoHome(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxGoEnd(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxGoRight(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxGoLeft(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxGoUp(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxGoDown(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxBackspace(KULTEXTBOX* thisBox);
-KULGUI_API void TextBoxDelete(KULTEXTBOX* thisBox);
+/* ---- Status bars ---------------------------------------------------------------------------- *
+ *
+ *     Ready           3 files      12:30      the bottom row of a dialog, in reverse video
+ *
+ * Elements are counted from 0 in the order of adding; any number below 1 means the first.
+ */
 
-/** Writes the character of a key over the one at the cursor, if it is allowed and there is room.
- * With a character set the low byte of the key counts; without one 32 to 255 are allowed. In
- * edition 2 the character is inserted; without a set all that print are allowed. */
-KULGUI_API void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke);
+/** Adds a status bar to a dialog. Returns KUL_OK, KUL_TAKEN_STATBAR when an item has that nRef,
+ * KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog, KUL_NO_MEMORY_DI or
+ * KUL_ERROR without memory. */
+KULGUI_API int kulstatbar_create(int nChain, int nRef);
 
-/** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. In edition 1
- * with a border its rows go over the right side of it, and with MASK the end of the text shows as
- * one more asterisk. The boxes of dialogs are not drawn by it. */
-KULGUI_API void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor);
+/** Sets a status bar up, without elements. nColor: KUL_KEEP takes the dialog's nColorStandard.
+ * onPoll is not used. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kulstatbar_config(int nChain, int nRef, int nColor, KULCALLBACK onPoll);
 
-/** Index of the first such character in a text; -1 for none or NULL. */
-KULGUI_API int FindChar(char cOneChar, const char* szWholeString);
+/** Adds a field at the end, at column nX and nWidth wide; the text is copied and cut to that.
+ * Returns KUL_OK, KUL_ERROR for an unknown item, a negative width or without memory. */
+KULGUI_API int kulstatbar_addElement(int nChain, int nRef, int nX, int nWidth, const char* szText,
+                                     int nAlignment, KULCALLBACK onUpdate);
 
-/** Index of the first szStr in szIn, gone through once: a character that breaks a match begins
- * none. -1 for none or NULL. */
-KULGUI_API int FindString(const char* szStr, const char* szIn);
+/** Gives a field another text, cut to its width. Returns KUL_OK, KUL_ERROR for an unknown item or
+ * field. */
+KULGUI_API int kulstatbar_setElement(int nChain, int nRef, int nElement, const char* szText);
+
+/** Removes the last field. Returns KUL_OK, KUL_ERROR for an unknown item or when there is none. */
+KULGUI_API int kulstatbar_remElement(int nChain, int nRef);
+
+/** The text of a field, the library's own; NULL for an unknown item or field. */
+KULGUI_API char* kulstatbar_getElement(int nChain, int nRef, int nElement);
+
+/** Show or hide the bar from the next drawing on. Always KUL_ERROR, also when all is well. */
+KULGUI_API int kulstatbar_show(int nChain, int nRef);
+KULGUI_API int kulstatbar_hide(int nChain, int nRef);
+
+/* ---- Scroll bars and progress bars ---------------------------------------------------------- *
+ *
+ *     ├──███─────┤      a scroll bar: a rail with a thumb in reverse video
+ *     ████▒▒▒▒▒▒▒▒      a progress bar; one that stands grows from its foot
+ */
+
+/** Add a scroll or progress bar to a dialog. Return KUL_OK, KUL_TAKEN_SCROLLBAR (scroll bar) or
+ * KUL_TAKEN_PROGBAR when an item has that nRef, KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG
+ * for one without dialog, KUL_NO_MEMORY_DI or KUL_ERROR without memory. */
+KULGUI_API int kulscrollbar_create(int nChain, int nRef);
+KULGUI_API int kulprogbar_create(int nChain, int nRef);
+
+/** Set a bar up: colour sets of the bar and of its rail, place and length of the rail, position,
+ * range, ORIENTATION. KUL_KEEP takes the dialog's nColorUnfocus and nColorStandard, 1, 10 and
+ * VERTICAL. Return KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kulscrollbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
+                                   int nY, int nLength, int nPosition, int nRange, int nOrient);
+KULGUI_API int kulprogbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
+                                 int nY, int nLength, int nPosition, int nRange, int nOrient);
+
+/** Move a bar; KUL_KEEP leaves it where it is. Return KUL_OK, KUL_ERROR for an unknown item,
+ * KUL_NO_RECORD for one without record. */
+KULGUI_API int kulscrollbar_setPosition(int nChain, int nRef, int nPosition);
+KULGUI_API int kulprogbar_setPosition(int nChain, int nRef, int nPosition);
+
+/** Move a bar by whole ranges: below 100 to 0, from 100 on to the end of its range, from 200 on to
+ * twice that. Use setPosition for what lies between. Results as there. */
+KULGUI_API int kulscrollbar_setByPercent(int nChain, int nRef, int nPercent);
+KULGUI_API int kulprogbar_setByPercent(int nChain, int nRef, int nPercent);
+
+/** Show or hide the bar from the next drawing on. Always KUL_ERROR, also when all is well. */
+KULGUI_API int kulscrollbar_show(int nChain, int nRef);
+KULGUI_API int kulscrollbar_hide(int nChain, int nRef);
+KULGUI_API int kulprogbar_show(int nChain, int nRef);
+KULGUI_API int kulprogbar_hide(int nChain, int nRef);
+
+/* ---- Description fields --------------------------------------------------------------------- *
+ *
+ *      Name   Size   Owner          the texts, from column nX and row nY on
+ *     ┌──────────────────┐░░░░░     the bar, nBarLength wide
+ *     │ What is selected │          the box, nRefWidth wide: the frame takes nRefHeight + 1 rows,
+ *     │ is explained.    │          the text in it nRefHeight - 2
+ *     └──────────────────┘
+ *
+ * Elements are counted from 0 in the order of adding. There is no call to show or hide one.
+ */
+
+/** Adds a description field to a dialog. Returns KUL_OK, KUL_TAKEN_DESCRFIELD when an item has that
+ * nRef, KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog, KUL_NO_MEMORY_DI
+ * or KUL_ERROR without memory. */
+KULGUI_API int kuldescrfield_create(int nChain, int nRef);
+
+/** Sets a description field up, without elements. KUL_KEEP takes the dialog's nColorUnfocus and
+ * nColorStandard, 2, 3, the dialog's width - 4, 20 and its height - 5. Returns KUL_OK, KUL_ERROR
+ * for an unknown item. */
+KULGUI_API int kuldescrfield_config(int nChain, int nRef, int nColorSelect, int nColorBack, int nX,
+                                    int nY, int nBarLength, int nRefWidth, int nRefHeight);
+
+/** Adds an element at the end; the first one becomes selected. Both texts are copied, the box text
+ * cut to the cells inside of the frame. Returns KUL_OK, KUL_ERROR for an unknown item or without
+ * memory. */
+KULGUI_API int kuldescrfield_addElement(int nChain, int nRef, const char* szText,
+                                        const char* szBoxText);
+
+/** Changes the texts of an element; NULL keeps one, and so does a szText as long as the present
+ * one. Returns KUL_OK, also when there is no such element; KUL_ERROR for an unknown item, a box
+ * text that is longer than the box holds or without memory, with nothing changed. */
+KULGUI_API int kuldescrfield_setElement(int nChain, int nRef, int nSelect, const char* szText,
+                                        const char* szBoxText);
+
+/** Removes the last element. Returns KUL_OK, KUL_ERROR for an unknown item or when there is none.
+ */
+KULGUI_API int kuldescrfield_remElement(int nChain, int nRef);
+
+/** Selects an element; the first one for a number below 1 and, with the result KUL_ERROR, for one
+ * past the end. Returns KUL_OK, KUL_ERROR also for an unknown item or without elements. */
+KULGUI_API int kuldescrfield_selElement(int nChain, int nRef, int nSelect);
+
+/** Marks the item as configured; draws nothing. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kuldescrfield_update(int nChain, int nRef);
+
+/* ---- Boxes and lines ------------------------------------------------------------------------ */
+
+/** Add a box or a line to a dialog. Return KUL_OK, KUL_TAKEN_BOX (box) or KUL_TAKEN_LINE when an
+ * item has that nRef, KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog,
+ * KUL_NO_MEMORY_DI or KUL_ERROR without memory. */
+KULGUI_API int kulbox_create(int nChain, int nRef);
+KULGUI_API int kulline_create(int nChain, int nRef);
+
+/** Sets a filled rectangle up. KUL_KEEP takes the dialog's nColorStandard, and BORDER; the frame
+ * counts in the size. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kulbox_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nWidth,
+                             int nHeight, int nBorder);
+
+/** Sets a line up, to the right or down from its first cell. KUL_KEEP takes the dialog's
+ * nColorStandard, NOENDS and LATERAL. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kulline_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nLength,
+                              int nEnds, int nOrient);
+
+/** Show or hide the item from the next drawing on. Always KUL_ERROR, also when all is well. */
+KULGUI_API int kulbox_show(int nChain, int nRef);
+KULGUI_API int kulbox_hide(int nChain, int nRef);
+KULGUI_API int kulline_show(int nChain, int nRef);
+KULGUI_API int kulline_hide(int nChain, int nRef);
+
+/** Marks the item as configured; draws nothing. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kulbox_update(int nChain, int nRef);
+KULGUI_API int kulline_update(int nChain, int nRef);
+
+/* ---- Labels --------------------------------------------------------------------------------- *
+ *
+ *     ┌──────────┐
+ *     │Hello     │      rows are wrapped at blanks and newlines, and aligned one by one
+ *     │world     │
+ *     └──────────┘
+ */
+
+/** Adds a label to a dialog. Returns KUL_OK, KUL_TAKEN_LABEL when an item has that nRef,
+ * KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog, KUL_NO_MEMORY_DI or
+ * KUL_ERROR without memory. */
+KULGUI_API int kullabel_create(int nChain, int nRef);
+
+/** Sets a label up; the frame counts in the size. KUL_KEEP takes the dialog's nColorStandard and
+ * nColorUnfocus, and BORDER; an alignment stays as it was, CENTER at first. szText is copied, of
+ * any length, and wrapped to rows of nWidth - 2 characters, with a frame of nWidth - 4; NULL is no
+ * text. Returns KUL_OK, KUL_ERROR for an unknown item or without memory. */
+KULGUI_API int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int nX,
+                               int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
+                               const char* szText);
+
+/** Gives a label another text. Returns KUL_OK; KUL_ERROR for an unknown or not configured item, or
+ * for a text with more characters than the label has cells, inside of its frame. */
+KULGUI_API int kullabel_setText(int nChain, int nRef, const char* szText);
+
+/** Show or hide the label from the next drawing on. Always KUL_ERROR, also when all is well. */
+KULGUI_API int kullabel_show(int nChain, int nRef);
+KULGUI_API int kullabel_hide(int nChain, int nRef);
+
+/** Marks the item as configured; draws nothing. Returns KUL_OK, KUL_ERROR for an unknown item. */
+KULGUI_API int kullabel_update(int nChain, int nRef);
+
+/* ---- Letters --------------------------------------------------------------------------------- */
+
+/** Bytes of the first letter of a text, with the marks that belong to it, in the encoding of the
+ * program's locale; 0 for an empty text or NULL. Stores its columns on the screen, 0 to 2, in
+ * *nColumns unless that is NULL. What the library cannot show counts as what it shows for it. */
+KULGUI_API int kulgui_nextLetter(const char* szText, int* nColumns);
+
+#ifndef KULGUI_NO_INSIDE
+
+/* ==== The inside ============================================================================= *
+ *
+ * What the calls above are made of, for programs that draw, scroll or keep components of their own.
+ * It is kept as it is like the rest; but nothing here looks after a whole dialog, and what it says
+ * of order and ownership has to be minded.
+ */
+
+/* ---- Records -------------------------------------------------------------------------------- */
+
+typedef enum comp_type { NONE = 0, DICOMP = 1, UICOMP = 2 } COMP_TYPE;
+
+/** Kinds of items that only show. */
+typedef enum di_type { STATBAR, SCROLLBAR, PROGBAR, DESCRFIELD, BOX, LINE, LABEL } DI_TYPE;
+
+typedef enum cursor { SHOWCURSOR = 0, HIDECURSOR = 1 } CURSOR;
+
+/** Tails of the escape sequences behind the keys from KS_F1 to KS_RIGHT, in that order. */
+#define KUL_KEYSTROKES 22
+KULGUI_API extern const char* const szKeystrokes[KUL_KEYSTROKES];
+
+/** One interactive component of a dialog. Pointer leads to the record of its kind. */
+typedef struct ui {
+    int nType;       /* ro: UI_TYPE */
+    int nRef;        /* ro */
+    struct ui* Prev; /* ro */
+    struct ui* Next; /* ro */
+    void* Pointer;   /* ro */
+    int nUpdate;     /* ro */
+} UI;
+
+/** One display item of a dialog. Pointer leads to the record of its kind. */
+typedef struct di {
+    int nType;       /* ro: DI_TYPE */
+    int nRef;        /* ro */
+    struct di* Next; /* ro */
+    void* Pointer;   /* ro */
+    int nUpdate;     /* rw: 0: changed, -1: drawn, 1: configured */
+} DI;
+
+/** One dialog. */
+typedef struct gui {
+    WINDOW* winMain;   /* ro: NULL until first shown; the standard screen for the primary dialog */
+    WINDOW* winShadow; /* ro */
+    PANEL* pnlMain;    /* ro */
+    PANEL* pnlShadow;  /* ro */
+    int nX;            /* ro */
+    int nY;            /* ro */
+    int nWidth;        /* ro */
+    int nHeight;       /* ro */
+    const char* szTitle;    /* rw */
+    int nBorder;            /* ro: BORDERS; not used, the frame is drawn in any case */
+    int nVisible;           /* ro: T or F */
+    int nCurrentUI;         /* ro: nRef of the component that has the focus, -1 for none */
+    int nColorStandard;     /* rw: COLORSET of the dialog itself */
+    int nColorFocus;        /* rw: and what its components start with */
+    int nColorUnfocus;      /* rw */
+    int nColorDisable;      /* rw */
+    const char* szLangFile; /* rw */
+    KULCALLBACK onFocus;    /* rw: not run */
+    KULCALLBACK onUnfocus;  /* rw: not run */
+    KULCALLBACK onPoll;     /* rw: run about once a second while the dialog is shown */
+    KULCALLBACK onDestroy;  /* rw: not run */
+    UI* UserInterface;      /* ro */
+    DI* Display;            /* ro */
+} GUI;
+
+/** One node of the ring of dialogs. */
+typedef struct chain {
+    struct chain* Prev; /* ro: both NULL while the primary is alone */
+    struct chain* Next; /* ro */
+    int nRef;           /* ro */
+    GUI* Pointer;       /* ro */
+} CHAIN;
+
+/** A frame with a shadow that is no dialog. The program makes it with its windows and panels. */
+typedef struct dlg {
+    WINDOW* winMain;     /* rw */
+    WINDOW* winShadow;   /* rw */
+    PANEL* pnlMain;      /* rw */
+    PANEL* pnlShadow;    /* rw */
+    int nVisible;        /* rw */
+    const char* szTitle; /* rw */
+} DLG;
+
+/** Navigation flags, T or F each. */
+typedef struct control {
+    int bMoveToNextUI; /* rw */
+    int bMoveToPrevUI; /* rw */
+    int bExitGUI;      /* rw */
+    int bExitProgram;  /* rw */
+} CONTROL;
+
+typedef struct kulbutton {
+    int nColorFocus;        /* rw */
+    int nColorUnfocus;      /* rw */
+    int nColorDisable;      /* rw */
+    int nX;                 /* rw */
+    int nY;                 /* rw */
+    int nWidth;             /* rw: with the frame; the height is 3 */
+    char* szText;           /* ro */
+    int nVisible;           /* rw: T or F */
+    int nEnable;            /* rw: 1: enabled; else drawn in nColorDisable */
+    int nExitCode;          /* rw: not used */
+    int* nExitFlag;         /* rw: not used */
+    struct kulbutton* Prev; /* ro: not used */
+    struct kulbutton* Next; /* ro: not used */
+    KULCALLBACK onFocus;    /* rw */
+    KULCALLBACK onUnfocus;  /* rw */
+    KULCALLBACK onSelect;   /* rw */
+    KULCALLBACK onClick;    /* rw */
+} KULBUTTON;
+
+typedef struct kulmenu {
+    int nColorFocus;         /* rw */
+    int nColorUnfocus;       /* rw */
+    int nColorDisable;       /* rw */
+    int nX;                  /* rw */
+    int nY;                  /* rw */
+    KULMENUELEMENT* Element; /* ro: the first one */
+    int nSelect;             /* rw: position from 0; nElements selects none */
+    int nEnable;             /* rw: not used */
+    int nElements;           /* ro */
+    int nVisible;            /* rw */
+    KULCALLBACK onFocus;     /* rw */
+    KULCALLBACK onUnfocus;   /* rw */
+    KULCALLBACK onSelect;    /* rw: run in edition 2 */
+    KULCALLBACK onClick;     /* rw */
+} KULMENU;
+
+typedef struct kuldynmenu {
+    int nColorFocus;         /* rw */
+    int nColorUnfocus;       /* rw */
+    int nColorDisable;       /* rw */
+    int nX;                  /* rw: of the frame */
+    int nY;                  /* rw */
+    int nWidth;              /* rw: inside of the frame */
+    int nHeight;             /* rw */
+    int nVisible;            /* rw */
+    int Enable;              /* rw: not used */
+    int nMaxLength;          /* ro: of the texts added so far */
+    int nElements;           /* ro: added so far; not counted down */
+    int nSelect;             /* rw: position from 0; nElements selects none */
+    KULMENUELEMENT* Element; /* ro */
+    KULCALLBACK onFocus;     /* rw */
+    KULCALLBACK onUnfocus;   /* rw */
+    KULCALLBACK onSelect;    /* rw: run in edition 2 */
+    KULCALLBACK onClick;     /* rw */
+} KULDYNMENU;
+
+typedef struct kuldescrmenu {
+    int nColorFocus;   /* rw */
+    int nColorUnfocus; /* rw */
+    int nColorDisable; /* rw */
+    int nX;            /* rw */
+    int nY;            /* rw */
+    int nBarLength;    /* rw: of the line below the texts */
+    int nBoxWidth;     /* rw: with the frame */
+    int nBoxHeight;    /* rw: with the lower edge of the frame; the upper one is on the line */
+    KULDESCRMENUELEMENT* Element; /* ro */
+    int nVisible;                 /* rw */
+    int nElements;                /* ro */
+    int nSelect;                  /* rw: position from 0; -1 and nElements select none */
+    KULCALLBACK onFocus;          /* rw */
+    KULCALLBACK onUnfocus;        /* rw */
+    KULCALLBACK onSelect;         /* rw: run in edition 2 */
+    KULCALLBACK onClick;          /* rw */
+} KULDESCRMENU;
+
+typedef struct kultoolbar {
+    int nColorFocus;          /* rw */
+    int nColorUnfocus;        /* rw */
+    int nColorDisable;        /* rw */
+    int nX;                   /* rw: of the first button */
+    int nY;                   /* rw */
+    KULTOOLBARBUTTON* Button; /* ro: the first one */
+    int nSelect;              /* rw: position from 0 */
+    int nButtons;             /* ro */
+    int nMaxLength;           /* ro: of the texts; buttons are two columns wider */
+    int nVisible;             /* rw */
+    int nExitCode;            /* rw: not used */
+    int* nExitFlag;           /* rw: not used */
+    int nOrient;              /* rw: ORIENTATION */
+    KULCALLBACK onFocus;      /* rw */
+    KULCALLBACK onUnfocus;    /* rw */
+    KULCALLBACK onSelect;     /* rw: run in edition 2 */
+    KULCALLBACK onClick;      /* rw */
+} KULTOOLBAR;
+
+typedef struct kulfileview {
+    int nColorFocus;       /* rw: text, with the focus */
+    int nColorUnfocus;     /* rw: text without; frame and scroll bar */
+    int nColorDisable;     /* rw: not used */
+    int nX;                /* rw */
+    int nY;                /* rw */
+    int nWidth;            /* rw: with the frame, or with the scroll bar in the last column */
+    int nHeight;           /* rw */
+    char* szFileName;      /* ro: what is shown; NULL for nothing */
+    int nVisible;          /* rw */
+    int nBorder;           /* rw: BORDERS */
+    KULCALLBACK onFocus;   /* rw */
+    KULCALLBACK onUnfocus; /* rw */
+    KULCALLBACK onSelect;  /* rw */
+    KULCALLBACK onClick;   /* rw */
+} KULFILEVIEW;
+
+typedef struct kulcheckbox {
+    int nColorFocus;              /* rw: of the cursor's element, while the list has the focus */
+    int nColorUnfocus;            /* rw */
+    int nColorDisable;            /* rw */
+    int nX;                       /* rw */
+    int nY;                       /* rw */
+    int nWidth;                   /* ro: with the border */
+    int nHeight;                  /* ro */
+    KULCHECKELEMENT* Element;     /* ro: the head */
+    KULCHECKELEMENT* FirstShowed; /* ro: first and last element in view */
+    KULCHECKELEMENT* LastShowed;  /* ro */
+    int nVisible;                 /* rw */
+    int nSelect;                  /* ro: index of the cursor's element */
+    int nFirstShowed;      /* ro: indexes of the elements in view; -1 before the first element */
+    int nLastShowed;       /* ro */
+    int nElements;         /* ro */
+    int bScrollbar;        /* ro: T once the elements did not fit */
+    int nBorder;           /* ro: BORDERS */
+    KULCALLBACK onFocus;   /* rw */
+    KULCALLBACK onUnfocus; /* rw */
+    KULCALLBACK onSelect;  /* rw */
+    KULCALLBACK onClick;   /* rw */
+} KULCHECKBOX;
+
+typedef struct kuloptions {
+    int nColorFocus;               /* rw: of the cursor's element, while the list has the focus */
+    int nColorUnfocus;             /* rw */
+    int nColorDisable;             /* rw */
+    int nX;                        /* rw */
+    int nY;                        /* rw */
+    int nWidth;                    /* ro: with the border */
+    int nHeight;                   /* ro */
+    KULOPTIONELEMENT* Element;     /* ro: the head */
+    KULOPTIONELEMENT* FirstShowed; /* ro: first and last element in view */
+    KULOPTIONELEMENT* LastShowed;  /* ro */
+    int nVisible;                  /* rw */
+    int nSelect;                   /* rw: index of the chosen element */
+    int nFirstShowed;      /* ro: indexes of the elements in view; -1 before the first element */
+    int nLastShowed;       /* ro */
+    int nPosition;         /* ro: index of the cursor's element */
+    int nElements;         /* ro */
+    int bScrollbar;        /* ro: T once the elements did not fit */
+    int nBorder;           /* ro: BORDERS */
+    KULCALLBACK onFocus;   /* rw */
+    KULCALLBACK onUnfocus; /* rw */
+    KULCALLBACK onSelect;  /* rw */
+    KULCALLBACK onClick;   /* rw */
+} KULOPTIONS;
+
+typedef struct kultextbox {
+    int nColorFocus;       /* rw */
+    int nColorUnfocus;     /* rw */
+    int nColorDisable;     /* rw */
+    int nX;                /* rw */
+    int nY;                /* rw */
+    int nWidth;            /* ro: with the border */
+    int nHeight;           /* ro */
+    int nBorder;           /* ro: BORDERS */
+    int nCursor;           /* rw: CURSOR; for DrawTextBox */
+    int nCursorPos;        /* rw: index into the text */
+    int nLength;           /* ro: of the text, in bytes */
+    int nMaxLength;        /* ro: cells inside the border, or the limit */
+    char* szText;          /* ro: nMaxLength + 1 bytes at least; NULL before kultextbox_config */
+    const char* szCharSet; /* rw: the program's */
+    int nMask;             /* rw: MASKING */
+    int nVisible;          /* rw */
+    int nEnable;           /* rw: 1: enabled; else drawn in nColorDisable */
+    KULCALLBACK onFocus;   /* rw */
+    KULCALLBACK onUnfocus; /* rw */
+    KULCALLBACK onKey;     /* rw */
+} KULTEXTBOX;
+
+typedef struct kulstatelement {
+    int nX;                      /* rw */
+    int nWidth;                  /* ro: columns of the field; also the most characters it keeps */
+    char* szText;                /* ro: nWidth + 1 characters */
+    int nAlignment;              /* rw: ALIGN */
+    struct kulstatelement* Next; /* ro */
+    KULCALLBACK onUpdate;        /* rw: not run */
+} KULSTATELEMENT;
+
+typedef struct kulstatbar {
+    int nColor;              /* rw */
+    KULSTATELEMENT* Element; /* ro */
+    int nVisible;            /* rw */
+    KULCALLBACK onUpdate;    /* rw: not run */
+} KULSTATBAR;
+
+typedef struct kulgaugebar {
+    int nColorBar;        /* rw */
+    int nColorRail;       /* rw */
+    int nX;               /* rw: first cell of the rail, at the left or the top */
+    int nY;               /* rw */
+    int nLength;          /* rw: cells of the rail */
+    int nRange;           /* rw: what the rail stands for */
+    int nPosition;        /* rw */
+    int nOrient;          /* rw: ORIENTATION */
+    int nVisible;         /* rw */
+    KULCALLBACK onUpdate; /* rw: not run */
+} KULGAUGEBAR;
+
+typedef struct kuldescrfldelement {
+    char* szText;                    /* ro */
+    char* szBoxText;                 /* ro: (nRefWidth - 2) * (nRefHeight - 2) + 1 characters */
+    struct kuldescrfldelement* Next; /* ro */
+    KULCALLBACK onUpdate;            /* rw: not used */
+} KULDESCRFLDELEMENT;
+
+typedef struct kuldescrfield {
+    int nColorSelect;            /* rw: of the selected text, the bar and the box */
+    int nColorBack;              /* rw: of the other texts */
+    int nX;                      /* rw */
+    int nY;                      /* rw */
+    int nBarLength;              /* rw */
+    int nRefWidth;               /* ro */
+    int nRefHeight;              /* ro */
+    KULDESCRFLDELEMENT* Element; /* ro */
+    int nSelect;                 /* rw: position of the selected element, -1 for none */
+    int nVisible;                /* rw */
+    KULCALLBACK onUpdate;        /* rw: not run */
+} KULDESCRFIELD;
+
+typedef struct kulbox {
+    int nColorSet;        /* rw */
+    int nX;               /* rw */
+    int nY;               /* rw */
+    int nWidth;           /* rw */
+    int nHeight;          /* rw */
+    int nBorder;          /* rw: BORDERS */
+    int nVisible;         /* rw */
+    KULCALLBACK onUpdate; /* rw: not run */
+} KULBOX;
+
+typedef struct kulline {
+    int nColorSet;        /* rw */
+    int nX;               /* rw */
+    int nY;               /* rw */
+    int nLength;          /* rw: cells; one more is drawn without ends */
+    int nEnds;            /* rw: LINEENDS: with tees that join a frame, or plain */
+    int nOrient;          /* rw: VERTICAL, anything else is LATERAL */
+    int nVisible;         /* rw */
+    KULCALLBACK onUpdate; /* rw: not run */
+} KULLINE;
+
+typedef struct kullabel {
+    int nColorSet;        /* rw */
+    int nColorBorder;     /* rw: not used */
+    int nX;               /* rw */
+    int nY;               /* rw */
+    int nWidth;           /* ro */
+    int nHeight;          /* ro */
+    int nAlignment;       /* rw: ALIGN */
+    int nBorder;          /* ro: BORDERS */
+    char* szText;         /* ro */
+    int nVisible;         /* rw */
+    KULCALLBACK onUpdate; /* rw: not run */
+} KULLABEL;
 
 /* ---- Selection and navigation --------------------------------------------------------------- */
-
-/** The record of what has the focus; always the same one, the library's. */
-KULGUI_API CURRENT* GetCurrentSelection(void);
 
 /** Copies thisCurrent into that record; NULL changes nothing. */
 KULGUI_API void SetCurrentSelection(const CURRENT* thisCurrent);
@@ -1427,7 +1838,7 @@ KULGUI_API void SetControls(const CONTROL* theseControls);
 /** Both in one: stores when nSetting is 1, returns the record in any case. */
 KULGUI_API CONTROL* Controls(const CONTROL* theseControls, int nSetting);
 
-/** -1 while neither bExitGUI nor bExitProgram is T, else 0. */
+/** T when bExitGUI or bExitProgram is T, else F. */
 KULGUI_API int ExitUIorGUIorChains(void);
 
 /** These five change no flag. */
@@ -1439,18 +1850,6 @@ KULGUI_API void GotoPreviousUserInterface(void);
 
 /** nComp when the chain has an item or component of that number, else 0. */
 KULGUI_API int UIComponentTypeByChain(const CHAIN* thisChain, int nComp);
-
-/** The UI_TYPE of what has the focus. */
-KULGUI_API int GetCurrentComponentType(void);
-
-/** The selected element of what has the focus, counted from 0, whatever its kind. */
-KULGUI_API int GetCurrentOptionSelection(void);
-KULGUI_API int GetCurrentCheckboxSelection(void);
-KULGUI_API int GetCurrentSelectedToolbarButton(void);
-KULGUI_API int GetCurrentSelectedMenuElement(void);
-
-/** The text of the text box that has the focus, the library's own; NULL when it is none. */
-KULGUI_API char* GetCurrentTextboxData(void);
 
 /** Runs a callback and puts the selection back as it was before; NULL does nothing. */
 KULGUI_API void ExecOnFunction(KULCALLBACK Function);
@@ -1464,15 +1863,15 @@ KULGUI_API void ShowUIComponentUnfocused(GUI* thisGUI, UI* thisUI);
 
 /* ---- Components in general ------------------------------------------------------------------ */
 
-/** Resets the component to the defaults of its kind. 0, -1 for an unknown one. */
+/** Resets the component to the defaults of its kind. KUL_OK, KUL_ERROR for an unknown one. */
 KULGUI_API int ConfigUIComponent(int nChain, int nRef);
 
-/** Sets nVisible (T or F) of the component's record. Always -1, also when all is well. */
+/** Sets nVisible (T or F) of the component's record. Always KUL_ERROR, also when all is well. */
 KULGUI_API int SetUIVisibility(int nChain, int nRef, int nVisible);
 
 /** Makes a component one of kind nType (UI_TYPE) and gives it a cleared record; one that it had is
- * not freed. 0, -1 for NULL, an unknown kind or without memory. The calls below do so for one kind
- * each. */
+ * not freed. KUL_OK, KUL_ERROR for NULL, an unknown kind or without memory. The calls below do so
+ * for one kind each. */
 KULGUI_API int AttachComponentToUI(UI* thisUI, int nType);
 KULGUI_API int AttachMenuComponentToUI(UI* thisUI);
 KULGUI_API int AttachDynmenuComponentToUI(UI* thisUI);
@@ -1484,7 +1883,7 @@ KULGUI_API int AttachOptionsComponentToUI(UI* thisUI);
 KULGUI_API int AttachTextboxComponentToUI(UI* thisUI);
 KULGUI_API int AttachFileviewComponentToUI(UI* thisUI);
 
-/** Set a record to its defaults, with the dialog's colours. 0, -1 for NULL. */
+/** Set a record to its defaults, with the dialog's colours. KUL_OK, KUL_ERROR for NULL. */
 KULGUI_API int ConfigMenuComponent(GUI* thisGUI, KULMENU* thisMenu);
 KULGUI_API int ConfigDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu);
 KULGUI_API int ConfigDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu);
@@ -1517,19 +1916,20 @@ KULGUI_API void ShowToolbarButtonComponent(GUI* thisGUI, KULTOOLBAR* thisTB,
 KULGUI_API void DrawButton(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nColorSet,
                            const char* szName);
 
-/** Free components from firstUI on, with their records; stop after the first whose kind reports
- * an error. Returns the last result, -1 for NULL. */
+/** Free components from firstUI on, with their records; stop after the first whose kind reports an
+ * error. Returns the last result, KUL_ERROR for NULL. */
 KULGUI_API int WipeAllUIComponents(UI* firstUI);
 
-/** Free one record and what it owns. 0; for NULL -1 (button) or 0 (the other ones). */
+/** Free one record and what it owns. KUL_OK; for NULL KUL_ERROR (button) or KUL_OK (the other
+ * ones). */
 KULGUI_API int WipeMenuComponent(KULMENU* thisMenu);
 KULGUI_API int WipeDynmenuComponent(KULDYNMENU* thisMenu);
 KULGUI_API int WipeDescrmenuComponent(KULDESCRMENU* thisMenu);
 KULGUI_API int WipeButtonComponent(KULBUTTON* thisButton);
 KULGUI_API int WipeToolbarComponent(KULTOOLBAR* thisTB);
 
-/** The same, with another result for what was empty: -1 for a list without elements (0 for NULL),
- * and for a text box without text or NULL. */
+/** The same, with another result for what was empty: KUL_ERROR for a list without elements (KUL_OK
+ * for NULL), and for a text box without text or NULL. */
 KULGUI_API int WipeCheckboxComponent(KULCHECKBOX* thisCheck);
 KULGUI_API int WipeOptionsComponent(KULOPTIONS* thisList);
 KULGUI_API int WipeTextboxComponent(KULTEXTBOX* thisTB);
@@ -1553,303 +1953,83 @@ KULGUI_API KULOPTIONELEMENT* AddOptionElement(KULOPTIONELEMENT* firstElement, in
                                               const char* szText, KULCALLBACK onSelect,
                                               KULCALLBACK onClick);
 
-/** Free the last element of a list. 0, 1 when it was the only one (the caller forgets the list),
- * -1 for NULL. */
+/** Free the last element of a list. KUL_OK, KUL_EMPTIED when it was the only one (the caller
+ * forgets the list), KUL_ERROR for NULL. */
 KULGUI_API int RemoveMenuElement(KULMENUELEMENT* firstElement);
 KULGUI_API int RemoveDescrmenuElement(KULDESCRMENUELEMENT* firstElement);
 KULGUI_API int RemoveToolbarButton(KULTOOLBARBUTTON* firstButton);
 KULGUI_API int RemoveCheckElement(KULCHECKELEMENT* firstElement);
 KULGUI_API int RemoveOptionElement(KULOPTIONELEMENT* firstElement);
 
-/** Free an element and all after it. 0, -1 for NULL. */
+/** Free an element and all after it. KUL_OK, KUL_ERROR for NULL. */
 KULGUI_API int WipeMenuElements(KULMENUELEMENT* firstElement);
 KULGUI_API int WipeDescrmenuElements(KULDESCRMENUELEMENT* firstElement);
 KULGUI_API int WipeToolbarButtons(KULTOOLBARBUTTON* firstButton);
 KULGUI_API int WipeCheckElements(KULCHECKELEMENT* firstElement);
 KULGUI_API int WipeOptionElements(KULOPTIONELEMENT* firstElement);
 
-/* ---- Status bars ---------------------------------------------------------------------------- *
- *
- *     Ready           3 files      12:30      the bottom row of a dialog, in reverse video
- *
- * Elements are counted from 0 in the order of adding; any number below 1 means the first.
- */
+/* ---- Lists and text boxes -------------------------------------------------------------------- */
 
-typedef struct kulstatelement {
-    int nX;
-    int nWidth;     /* columns of the field; also the most characters it keeps */
-    char* szText;   /* nWidth + 1 characters */
-    int nAlignment; /* ALIGN */
-    struct kulstatelement* Next;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULSTATELEMENT;
+/** The steps of scrolling, by the record alone; a list without rows has an empty view.
+ * SetFirst... begins the view with the element at nFirstShowed, SetFirst...FromEnd where the last
+ * elements fill the box, SetLast... ends it where the box is full. Check... gives T when
+ * the last element in view is cut, else F. GetTotal... gives the rows of all elements. */
+KULGUI_API void SetFirstCheckElement(KULCHECKBOX* thisCheckbox);
+KULGUI_API void SetFirstCheckElementFromEnd(KULCHECKBOX* thisCheckbox);
+KULGUI_API void SetLastCheckElement(KULCHECKBOX* thisCheckbox);
+KULGUI_API int CheckLastCheckElementForSpillover(const KULCHECKBOX* thisCheckbox);
+KULGUI_API int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox);
 
-typedef struct kulstatbar {
-    int nColor;
-    KULSTATELEMENT* Element;
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULSTATBAR;
+/** As their like of the check box lists. */
+KULGUI_API void SetFirstOptionElement(KULOPTIONS* theseOptions);
+KULGUI_API void SetFirstOptionElementFromEnd(KULOPTIONS* theseOptions);
+KULGUI_API void SetLastOptionElement(KULOPTIONS* theseOptions);
+KULGUI_API int CheckLastOptionElementForSpillover(const KULOPTIONS* theseOptions);
+KULGUI_API int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions);
 
-/** Adds a status bar to a dialog. Returns 0, -10012 when an item has that nRef, else what
- * CreateDIComponent returns. */
-KULGUI_API int kulstatbar_create(int nChain, int nRef);
+/** The steps of editing, in the manners of the edition that runs. They change the record and draw
+ * nothing. Up and Down move by a row where the box has more than one, Delete at the end of the text
+ * takes off its last character. */
+KULGUI_API void TextBoxGoHome(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoEnd(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoRight(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoLeft(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoUp(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxGoDown(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxBackspace(KULTEXTBOX* thisBox);
+KULGUI_API void TextBoxDelete(KULTEXTBOX* thisBox);
 
-/** Sets a status bar up, without elements. nColor: KUL_KEEP takes the dialog's nColorStandard.
- * onPoll is not used. Returns 0, -1 for an unknown item. */
-KULGUI_API int kulstatbar_config(int nChain, int nRef, int nColor, KULCALLBACK onPoll);
+/** Writes the character of a key over the one at the cursor, if it is allowed and there is room.
+ * With a character set the low byte of the key counts; without one 32 to 255 are allowed. In
+ * edition 2 the character is inserted; without a set all that print are allowed. */
+KULGUI_API void TextBoxCharacter(KULTEXTBOX* thisBox, int szKeystroke);
 
-/** Adds a field at the end, at column nX and nWidth wide; the text is copied and cut to that.
- * Returns 0, -1 for an unknown item, a negative width or without memory. */
-KULGUI_API int kulstatbar_addElement(int nChain, int nRef, int nX, int nWidth, const char* szText,
-                                     int nAlignment, KULCALLBACK onUpdate);
+/** Draws the inside of a box in a colour set, its cursor if nCursor is SHOWCURSOR. In edition 1
+ * with a border its rows go over the right side of it, and with MASK the end of the text shows as
+ * one more asterisk. The boxes of dialogs are not drawn by it. */
+KULGUI_API void DrawTextBox(GUI* thisGUI, KULTEXTBOX* thisBox, int nColor);
 
-/** Gives a field another text, cut to its width. Returns 0, -1 for an unknown item or field. */
-KULGUI_API int kulstatbar_setElement(int nChain, int nRef, int nElement, const char* szText);
+/** Index of the first such character in a text; KUL_ERROR for none or NULL. */
+KULGUI_API int FindChar(char cOneChar, const char* szWholeString);
 
-/** Removes the last field. Returns 0, -1 for an unknown item or when there is none. */
-KULGUI_API int kulstatbar_remElement(int nChain, int nRef);
-
-/** The text of a field, the library's own; NULL for an unknown item or field. */
-KULGUI_API char* kulstatbar_getElement(int nChain, int nRef, int nElement);
-KULGUI_API char* ReturnStatbarElementText(int nChain, int nRef, int nElement);
-
-/** A field; NULL for none. */
-KULGUI_API KULSTATELEMENT* GetStatbarElementByRef(int nChain, int nRef, int nElement);
-KULGUI_API KULSTATELEMENT* GetStatbarElement(KULSTATBAR* thisBar, int nElement);
-
-/** Show or hide the bar from the next drawing on. Always -1, also when all is well. */
-KULGUI_API int kulstatbar_show(int nChain, int nRef);
-KULGUI_API int kulstatbar_hide(int nChain, int nRef);
-
-/* ---- Scroll bars and progress bars ---------------------------------------------------------- *
- *
- *     ├──███─────┤      a scroll bar: a rail with a thumb in reverse video
- *     ████▒▒▒▒▒▒▒▒      a progress bar; one that stands grows from its foot
- */
-
-typedef struct kulgaugebar {
-    int nColorBar;
-    int nColorRail;
-    int nX; /* first cell of the rail, at the left or the top */
-    int nY;
-    int nLength; /* cells of the rail */
-    int nRange;  /* what the rail stands for */
-    int nPosition;
-    int nOrient; /* ORIENTATION */
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULGAUGEBAR;
-
-/** Add a scroll or progress bar to a dialog. Return 0, -10016 (scroll bar) or -10017 when an item
- * has that nRef, else what CreateDIComponent returns. */
-KULGUI_API int kulscrollbar_create(int nChain, int nRef);
-KULGUI_API int kulprogbar_create(int nChain, int nRef);
-
-/** Set a bar up: colour sets of the bar and of its rail, place and length of the rail, position,
- * range, ORIENTATION. KUL_KEEP takes the dialog's nColorUnfocus and nColorStandard, 1, 10 and
- * VERTICAL. Return 0, -1 for an unknown item. */
-KULGUI_API int kulscrollbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
-                                   int nY, int nLength, int nPosition, int nRange, int nOrient);
-KULGUI_API int kulprogbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
-                                 int nY, int nLength, int nPosition, int nRange, int nOrient);
-
-/** Move a bar; KUL_KEEP leaves it where it is. Return 0, -1 for an unknown item, -10028 for one
- * without record. */
-KULGUI_API int kulscrollbar_setPosition(int nChain, int nRef, int nPosition);
-KULGUI_API int kulprogbar_setPosition(int nChain, int nRef, int nPosition);
-
-/** Move a bar by whole ranges: below 100 to 0, from 100 on to the end of its range, from 200 on to
- * twice that. Use setPosition for what lies between. Results as there. */
-KULGUI_API int kulscrollbar_setByPercent(int nChain, int nRef, int nPercent);
-KULGUI_API int kulprogbar_setByPercent(int nChain, int nRef, int nPercent);
-
-/** Show or hide the bar from the next drawing on. Always -1, also when all is well. */
-KULGUI_API int kulscrollbar_show(int nChain, int nRef);
-KULGUI_API int kulscrollbar_hide(int nChain, int nRef);
-KULGUI_API int kulprogbar_show(int nChain, int nRef);
-KULGUI_API int kulprogbar_hide(int nChain, int nRef);
-
-/** Draws rail and bar into a dialog's window, whether visible or not; nType 1 is a scroll bar, any
- * other a progress bar. A progress bar at the end of its range takes one cell more than its rail.
- */
-KULGUI_API void BarShow(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
-
-/** The two halves of BarShow: the rail, and what moves on it. */
-KULGUI_API void BarRail(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
-KULGUI_API void BarPosition(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
-
-/* ---- Description fields --------------------------------------------------------------------- *
- *
- *      Name   Size   Owner          the texts, from column nX and row nY on
- *     ┌──────────────────┐░░░░░     the bar, nBarLength wide
- *     │ What is selected │          the box, nRefWidth wide: the frame takes nRefHeight + 1 rows,
- *     │ is explained.    │          the text in it nRefHeight - 2
- *     └──────────────────┘
- *
- * Elements are counted from 0 in the order of adding. There is no call to show or hide one.
- */
-
-typedef struct kuldescrfldelement {
-    char* szText;
-    char* szBoxText; /* (nRefWidth - 2) * (nRefHeight - 2) + 1 characters */
-    struct kuldescrfldelement* Next;
-    KULCALLBACK onUpdate; /* not used */
-} KULDESCRFLDELEMENT;
-
-typedef struct kuldescrfield {
-    int nColorSelect; /* of the selected text, the bar and the box */
-    int nColorBack;   /* of the other texts */
-    int nX;
-    int nY;
-    int nBarLength;
-    int nRefWidth;
-    int nRefHeight;
-    KULDESCRFLDELEMENT* Element;
-    int nSelect; /* position of the selected element, -1 for none */
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULDESCRFIELD;
-
-/** Adds a description field to a dialog. Returns 0, -10012 when an item has that nRef, else what
- * CreateDIComponent returns. */
-KULGUI_API int kuldescrfield_create(int nChain, int nRef);
-
-/** Sets a description field up, without elements. KUL_KEEP takes the dialog's nColorUnfocus and
- * nColorStandard, 2, 3, the dialog's width - 4, 20 and its height - 5. Returns 0, -1 for an
- * unknown item. */
-KULGUI_API int kuldescrfield_config(int nChain, int nRef, int nColorSelect, int nColorBack, int nX,
-                                    int nY, int nBarLength, int nRefWidth, int nRefHeight);
-
-/** Adds an element at the end; the first one becomes selected. Both texts are copied, the box text
- * cut to the cells inside of the frame. Returns 0, -1 for an unknown item or without memory. */
-KULGUI_API int kuldescrfield_addElement(int nChain, int nRef, const char* szText,
-                                        const char* szBoxText);
-
-/** Changes the texts of an element; NULL keeps one, and so does a szText as long as the present
- * one. Returns 0, also when there is no such element; -1 for an unknown item, a box text that is
- * longer than the box holds or without memory, with nothing changed. */
-KULGUI_API int kuldescrfield_setElement(int nChain, int nRef, int nSelect, const char* szText,
-                                        const char* szBoxText);
-
-/** Removes the last element. Returns 0, -1 for an unknown item or when there is none. */
-KULGUI_API int kuldescrfield_remElement(int nChain, int nRef);
-
-/** Selects an element; the first one for a number below 1 and, with the result -1, for one past
- * the end. Returns 0, -1 also for an unknown item or without elements. */
-KULGUI_API int kuldescrfield_selElement(int nChain, int nRef, int nSelect);
-
-/** What UpdateDIComponent does. */
-KULGUI_API int kuldescrfield_update(int nChain, int nRef);
-
-/* ---- Boxes and lines ------------------------------------------------------------------------ */
-
-typedef struct kulbox {
-    int nColorSet;
-    int nX;
-    int nY;
-    int nWidth;
-    int nHeight;
-    int nBorder; /* BORDERS */
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULBOX;
-
-typedef struct kulline {
-    int nColorSet;
-    int nX;
-    int nY;
-    int nLength; /* cells; one more is drawn without ends */
-    int nEnds;   /* LINEENDS: with tees that join a frame, or plain */
-    int nOrient; /* VERTICAL, anything else is LATERAL */
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULLINE;
-
-/** Add a box or a line to a dialog. Return 0, -10013 (box) or -10014 when an item has that nRef,
- * else what CreateDIComponent returns. */
-KULGUI_API int kulbox_create(int nChain, int nRef);
-KULGUI_API int kulline_create(int nChain, int nRef);
-
-/** Sets a filled rectangle up. KUL_KEEP takes the dialog's nColorStandard, and BORDER; the frame
- * counts in the size. Returns 0, -1 for an unknown item. */
-KULGUI_API int kulbox_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nWidth,
-                             int nHeight, int nBorder);
-
-/** Sets a line up, to the right or down from its first cell. KUL_KEEP takes the dialog's
- * nColorStandard, NOENDS and LATERAL. Returns 0, -1 for an unknown item. */
-KULGUI_API int kulline_config(int nChain, int nRef, int nColorSet, int nX, int nY, int nLength,
-                              int nEnds, int nOrient);
-
-/** Show or hide the item from the next drawing on. Always -1, also when all is well. */
-KULGUI_API int kulbox_show(int nChain, int nRef);
-KULGUI_API int kulbox_hide(int nChain, int nRef);
-KULGUI_API int kulline_show(int nChain, int nRef);
-KULGUI_API int kulline_hide(int nChain, int nRef);
-
-/** What UpdateDIComponent does. */
-KULGUI_API int kulbox_update(int nChain, int nRef);
-KULGUI_API int kulline_update(int nChain, int nRef);
-
-/* ---- Labels --------------------------------------------------------------------------------- *
- *
- *     ┌──────────┐
- *     │Hello     │      rows are wrapped at blanks and newlines, and aligned one by one
- *     │world     │
- *     └──────────┘
- */
-
-typedef struct kullabel {
-    int nColorSet;
-    int nColorBorder; /* kept, not used */
-    int nX;
-    int nY;
-    int nWidth;
-    int nHeight;
-    int nAlignment; /* ALIGN */
-    int nBorder;    /* BORDERS */
-    char* szText;
-    int nVisible;
-    KULCALLBACK onUpdate; /* kept, not run */
-} KULLABEL;
-
-/** Adds a label to a dialog. Returns 0, -10015 when an item has that nRef, else what
- * CreateDIComponent returns. */
-KULGUI_API int kullabel_create(int nChain, int nRef);
-
-/** Sets a label up; the frame counts in the size. KUL_KEEP takes the dialog's nColorStandard and
- * nColorUnfocus, and BORDER; an alignment stays as it was, CENTER at first. szText is copied, of
- * any length, and wrapped to rows of nWidth - 2 characters, with a frame of nWidth - 4; NULL is no
- * text. Returns 0, -1 for an unknown item or without memory. */
-KULGUI_API int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int nX,
-                               int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
-                               const char* szText);
-
-/** Gives a label another text. Returns 0; -1 for an unknown or not configured item, or for a text
- * with more characters than the label has cells, inside of its frame. */
-KULGUI_API int kullabel_setText(int nChain, int nRef, const char* szText);
-
-/** Show or hide the label from the next drawing on. Always -1, also when all is well. */
-KULGUI_API int kullabel_show(int nChain, int nRef);
-KULGUI_API int kullabel_hide(int nChain, int nRef);
-
-/** What UpdateDIComponent does. */
-KULGUI_API int kullabel_update(int nChain, int nRef);
+/** Index of the first szStr in szIn, gone through once: a character that breaks a match begins
+ * none. KUL_ERROR for none or NULL. */
+KULGUI_API int FindString(const char* szStr, const char* szIn);
 
 /* ---- Display items in general --------------------------------------------------------------- */
 
-/** Resets the item to the defaults of its kind. 0, -1 for an unknown one. */
+/** Resets the item to the defaults of its kind. KUL_OK, KUL_ERROR for an unknown one. */
 KULGUI_API int ConfigDIComponent(int nChain, int nRef);
 
-/** Sets nVisible (T or F) of the item's record. Always -1, also when all is well. */
+/** Sets nVisible (T or F) of the item's record. Always KUL_ERROR, also when all is well. */
 KULGUI_API int SetDIVisibility(int nChain, int nRef, int nVisible);
 
-/** Marks the item as configured; draws nothing. 0, -1 for an unknown one. */
+/** Marks the item as configured; draws nothing. KUL_OK, KUL_ERROR for an unknown one. */
 KULGUI_API int UpdateDIComponent(int nChain, int nRef);
 
-/** Makes an item one of kind nType (DI_TYPE) and gives it a cleared record; one that it had is
- * not freed. 0, -1 for NULL, an unknown kind or without memory. The calls below do so for one kind
- * each. */
+/** Makes an item one of kind nType (DI_TYPE) and gives it a cleared record; one that it had is not
+ * freed. KUL_OK, KUL_ERROR for NULL, an unknown kind or without memory. The calls below do so for
+ * one kind each. */
 KULGUI_API int AttachComponentToDI(DI* thisDI, int nType);
 KULGUI_API int AttachStatbarComponentToDI(DI* thisDI);
 KULGUI_API int AttachScrollbarComponentToDI(DI* thisDI);
@@ -1860,7 +2040,7 @@ KULGUI_API int AttachLineComponentToDI(DI* thisDI);
 KULGUI_API int AttachLabelComponentToDI(DI* thisDI);
 
 /** Set a record to its defaults, with the dialog's colours; elements and texts are forgotten, not
- * freed. 0, -1 for NULL. */
+ * freed. KUL_OK, KUL_ERROR for NULL. */
 KULGUI_API int ConfigStatbarComponent(GUI* thisGUI, KULSTATBAR* thisBar);
 KULGUI_API int ConfigScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
 KULGUI_API int ConfigProgbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
@@ -1869,7 +2049,7 @@ KULGUI_API int ConfigBoxComponent(GUI* thisGUI, KULBOX* thisBox);
 KULGUI_API int ConfigLineComponent(GUI* thisGUI, KULLINE* thisLine);
 KULGUI_API int ConfigLabelComponent(GUI* thisGUI, KULLABEL* thisLabel);
 
-/** These change and draw nothing. 0. */
+/** These change and draw nothing. KUL_OK. */
 KULGUI_API int UpdateStatbarComponent(GUI* thisGUI, KULSTATBAR* thisBar);
 KULGUI_API int UpdateScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
 KULGUI_API int UpdateProgbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar);
@@ -1898,10 +2078,11 @@ KULGUI_API void ShowDisplayComponents(GUI* thisGUI);
 KULGUI_API void UpdateDisplayComponents(GUI* thisGUI);
 
 /** Frees the records of the items from firstDI on, not the DI nodes; stops at the first whose kind
- * reports an error. Returns the last result, -1 for NULL. */
+ * reports an error. Returns the last result, KUL_ERROR for NULL. */
 KULGUI_API int WipeAllDIComponents(DI* firstDI);
 
-/** Free one record with what it owns. 0; for NULL 0 from the first two, -1 from the others. */
+/** Free one record with what it owns. KUL_OK; for NULL KUL_OK from the first two, KUL_ERROR from
+ * the others. */
 KULGUI_API int WipeStatbarComponent(KULSTATBAR* thisBar);
 KULGUI_API int WipeDescrfieldComponent(KULDESCRFIELD* thisField);
 KULGUI_API int WipeScrollbarComponent(KULGAUGEBAR* thisBar);
@@ -1910,9 +2091,27 @@ KULGUI_API int WipeBoxComponent(KULBOX* thisBox);
 KULGUI_API int WipeLineComponent(KULLINE* thisLine);
 KULGUI_API int WipeLabelComponent(KULLABEL* thisLabel);
 
-/** Free elements with their texts, from the first on. 0, -1 for NULL. */
+/** Free elements with their texts, from the first on. KUL_OK, KUL_ERROR for NULL. */
 KULGUI_API int WipeStatbarElements(KULSTATELEMENT* firstElement);
 KULGUI_API int WipeDescrfieldElements(KULDESCRFLDELEMENT* firstElement);
+
+/* ---- Status bars and gauges ------------------------------------------------------------------ */
+
+/** What kulstatbar_getElement does. */
+KULGUI_API char* ReturnStatbarElementText(int nChain, int nRef, int nElement);
+
+/** A field of a status bar; NULL for none. */
+KULGUI_API KULSTATELEMENT* GetStatbarElementByRef(int nChain, int nRef, int nElement);
+KULGUI_API KULSTATELEMENT* GetStatbarElement(KULSTATBAR* thisBar, int nElement);
+
+/** Draws rail and bar into a dialog's window, whether visible or not; nType 1 is a scroll bar, any
+ * other a progress bar. A progress bar at the end of its range takes one cell more than its rail.
+ */
+KULGUI_API void BarShow(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
+
+/** The two halves of BarShow: the rail, and what moves on it. */
+KULGUI_API void BarRail(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
+KULGUI_API void BarPosition(GUI* thisGUI, const KULGAUGEBAR* thisBar, int nType);
 
 /* ---- Chains and component lists ------------------------------------------------------------- */
 
@@ -1922,7 +2121,7 @@ KULGUI_API CHAIN* PrimaryChain(int nFlag);
 KULGUI_API CHAIN* SetPrimaryChain(void);
 KULGUI_API CHAIN* GetPrimaryChain(void);
 
-/** A flag of the program's that forbids kulgui_configPrime: -1 until set, 0 after. */
+/** A flag of the program's that forbids kulgui_configPrime: F until set, T after. */
 KULGUI_API int PrimaryFlag(int nSetting);
 KULGUI_API int SetPrimaryFlag(void);
 KULGUI_API int GetPrimaryFlag(void);
@@ -1936,14 +2135,15 @@ KULGUI_API CHAIN* GetChain(int nRef);
 /** The newest chain; the primary when it is alone; NULL without one. */
 KULGUI_API CHAIN* GetFinalChain(void);
 
-/** Number of chains besides the primary; -1 without one. */
+/** Number of chains besides the primary; KUL_ERROR without one. */
 KULGUI_API int CountChains(void);
 
-/** Frees a chain and all that is in it; does not take it out of the ring first. 0, -1 for NULL. */
+/** Frees a chain and all that is in it; does not take it out of the ring first. KUL_OK, KUL_ERROR
+ * for NULL. */
 KULGUI_API int WipeChain(CHAIN* thisChain);
 
 /** Frees a chain and those after it up to a NULL link: open the ring before. Returns the last
- * result, -1 for NULL. */
+ * result, KUL_ERROR for NULL. */
 KULGUI_API int WipeAllChains(CHAIN* firstChain);
 
 /** Number of the chain that runs; -1 before the first. ActiveChain stores any number but -1. */
@@ -1952,13 +2152,14 @@ KULGUI_API int GetActiveChain(void);
 KULGUI_API int SetActiveChain(int nChain);
 
 /** Add a component or an item of kind nType to a dialog. An nRef that is taken, by either, gives
- * 0 and adds nothing. -10009 for an unknown chain, -10010 for one without dialog, -10019 (UI) or
- * -10011 (DI) without memory, else the result of AttachComponentToUI or ..DI. */
+ * KUL_OK and adds nothing. KUL_NO_CHAIN for an unknown chain, KUL_NO_DIALOG for one without dialog,
+ * KUL_NO_MEMORY_UI (UI) or KUL_NO_MEMORY_DI (DI) without memory, else the result of
+ * AttachComponentToUI or ..DI. */
 KULGUI_API int CreateUIComponent(int nChain, int nType, int nRef);
 KULGUI_API int CreateDIComponent(int nChain, int nType, int nRef);
 
 /** Append a record to a dialog's list, which owns it from then on. The first component takes the
- * focus when none has it. 0 always; NULL is not added. */
+ * focus when none has it. KUL_OK always; NULL is not added. */
 KULGUI_API int AddUIComponent(GUI* thisGUI, UI* thisUI);
 KULGUI_API int AddDIComponent(GUI* thisGUI, DI* thisDI);
 
@@ -1972,7 +2173,7 @@ KULGUI_API DI* GetLastDIByGUI(const GUI* thisGUI);
 KULGUI_API UI* GetUIComponentByRef(int nChain, int nRef);
 KULGUI_API DI* GetDIComponentByRef(int nChain, int nRef);
 
-/** 0 when there is a record of that number, else -1. */
+/** T when there is a record of that number, else F. */
 KULGUI_API int CheckUICompExistence(int nChain, int nRef);
 KULGUI_API int CheckDICompExistence(int nChain, int nRef);
 
@@ -1988,33 +2189,30 @@ KULGUI_API void SetVar(int* nCurrValue, int nNewValue);
 
 /* ---- Terminal and frames -------------------------------------------------------------------- */
 
-/** nRef 1 opens the terminal, 2 closes it, 0 says whether it is open (0) or not (-1). Opening
- * gives 0, or -1 without a usable terminal; closing 0; any other nRef comes back as it is. */
-KULGUI_API int NCursesEnv(int nRef);
-
 /** What NCursesEnv calls to open and to close. */
 KULGUI_API int SetupGUIEnvironment(void);
 KULGUI_API int EndGUIEnvironment(void);
 
-/** Defines the 56 colour pairs. 0. */
+/** Defines the 56 colour pairs. KUL_OK. */
 KULGUI_API int InitializeColorSets(void);
 
-/** Gives a chain a dialog without contents. 0, -1 for NULL, -10008 if it has one, -10007 without
- * memory. */
+/** Gives a chain a dialog without contents. KUL_OK, KUL_ERROR for NULL, KUL_HAS_DIALOG if it has
+ * one, KUL_NO_MEMORY without memory. */
 KULGUI_API int CreateGUI(CHAIN* thisChain);
 
 /** Sets a dialog to the defaults: those of the primary when its window is the standard screen.
- * Component lists are forgotten, not freed. 0, -1 for NULL or without primary dialog. */
+ * Component lists are forgotten, not freed. KUL_OK, KUL_ERROR for NULL or without primary dialog.
+ */
 KULGUI_API int LoadGUIDefaults(GUI* thisGUI);
 
-/** Gives the primary dialog the standard screen and its defaults. 0, -10002 without a primary
- * chain, -10004 if it has no dialog. */
+/** Gives the primary dialog the standard screen and its defaults. KUL_OK, KUL_NO_PRIMARY without a
+ * primary chain, KUL_NO_PRIMARY_DIALOG if it has no dialog. */
 KULGUI_API int ConfigGUIPrime(void);
 
-/** Draws the chain's dialog frame. 0, -1 for NULL. */
+/** Draws the chain's dialog frame. KUL_OK, KUL_ERROR for NULL. */
 KULGUI_API int ConfigGUI(CHAIN* thisChain);
 
-/** Columns and rows of a window; -1 for NULL. */
+/** Columns and rows of a window; KUL_ERROR for NULL. */
 KULGUI_API int GetWindowWidth(const WINDOW* win);
 KULGUI_API int GetWindowHeight(const WINDOW* win);
 
@@ -2115,11 +2313,6 @@ KULGUI_API int GetWrapTextHeight(int nWidth, const char* szText);
 /** Always NULL; the file is not opened. */
 KULGUI_API TEXTLINE* GenerateWrapMarks(const char* szFileName, int nWidth, int bIndent);
 
-/** Bytes of the first letter of a text, with the marks that belong to it, in the encoding of the
- * program's locale; 0 for an empty text or NULL. Stores its columns on the screen, 0 to 2, in
- * *nColumns unless that is NULL. What the library cannot show counts as what it shows for it. */
-KULGUI_API int kulgui_nextLetter(const char* szText, int* nColumns);
-
 /** Where a line at nStart begins behind its leading spaces, as an index; nStart when there are
  * none, or nothing else within nLength. */
 KULGUI_API int ReturnLineStart(const char* szText, int nStart, int nLength);
@@ -2127,12 +2320,13 @@ KULGUI_API int ReturnLineStart(const char* szText, int nStart, int nLength);
 /** Index of the last character of a line at nStart that has nLength columns: the end of a text
  * shorter than nLength or than what is left, else the first newline, else where a word ends with
  * the line, else the space before the word that is cut, nStart without one. Where a blank follows
- * the line, blanks at its end are left out. -1 for a start outside of the text. Indexes are bytes,
- * nLength is columns; a word that fills the line and has a letter beyond ASCII is cut where the
- * line is full (edition 2). */
+ * the line, blanks at its end are left out. KUL_ERROR for a start outside of the text. Indexes are
+ * bytes, nLength is columns; a word that fills the line and has a letter beyond ASCII is cut where
+ * the line is full (edition 2). */
 KULGUI_API int ReturnLineEnd(const char* szText, int nStart, int nLength);
 
-/** Distance from nStart to the next newline; -1 for none, or when its index is above nLength. */
+/** Distance from nStart to the next newline; KUL_ERROR for none, or when its index is above
+ * nLength. */
 KULGUI_API int ReturnEOLPosition(const char* szText, int nStart, int nLength);
 
 /** Replace a character: everywhere, or from index 0 up to and with nLength; the terminator counts
@@ -2142,6 +2336,8 @@ KULGUI_API void SwapnChar(char* str, char this_char, char that_char, int nLength
 
 /** Copies nLength characters, or up to the terminator, which is not copied. */
 KULGUI_API void CopyStrWithoutEOS(char* szDest, const char* szSrc, int nLength);
+
+#endif /* KULGUI_NO_INSIDE */
 
 #ifdef __cplusplus
 }

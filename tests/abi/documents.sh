@@ -1,7 +1,7 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
 # Takes every whole program out of the documents, compiles it as strictly as a reader might, and looks
-# at its first screen.
+# at its first screen. None needs the inside of the header.
 # usage: documents.sh SOURCE LIBRARY_FOLDER KULSHOT CC
 set -eu
 source=$1 library=$2 kulshot=$3 cc=$4
@@ -16,7 +16,7 @@ awk '/^```c$/ { name = sprintf("%02d.c", ++number); next }
 count=0
 for program in *.c; do
     grep -q 'int main' "$program" || continue
-    "$cc" -std=c99 -pedantic -Wall -Wextra -Werror -I "$source/kulplatform/kulgui" "$program" -o program \
+    "$cc" -std=c99 -pedantic -Wall -Wextra -Werror -DKULGUI_NO_INSIDE -I "$source/kulplatform/kulgui" "$program" -o program \
         -L "$library" -Wl,-rpath,"$library" -lkulgui
     if ! "$kulshot" --size 80x24 -- ./program >screen || ! grep -q '─' screen; then
         cat "$program" screen

@@ -60,7 +60,7 @@ int changeGauge(int nChain, int nRef, Change change)
     if (!di)
         return -1;
     if (!di->Pointer)
-        return -10028;
+        return KUL_NO_RECORD;
     change(*static_cast<KULGAUGEBAR*>(di->Pointer));
     di->nUpdate = 0;
     return 0;

@@ -14,20 +14,21 @@ namespace {
 // In the order of DI_TYPE.
 constexpr kul::DIKind kDIKinds[LABEL + 1] = {
     kul::diRow<kul::StatusBar, ConfigStatbarComponent, ShowStatusBarComponent,
-               UpdateStatbarComponent, kul::dropStatbar, WipeStatbarComponent>(-10012),
+               UpdateStatbarComponent, kul::dropStatbar, WipeStatbarComponent>(KUL_TAKEN_STATBAR),
     kul::diRow<KULGAUGEBAR, ConfigScrollbarComponent, ShowScrollbarComponent,
                UpdateScrollbarComponent, kul::dropNothing<KULGAUGEBAR>, WipeScrollbarComponent>(
-        -10016),
+        KUL_TAKEN_SCROLLBAR),
     kul::diRow<KULGAUGEBAR, ConfigProgbarComponent, ShowProgBarComponent, UpdateProgbarComponent,
-               kul::dropNothing<KULGAUGEBAR>, WipeProgbarComponent>(-10017),
+               kul::dropNothing<KULGAUGEBAR>, WipeProgbarComponent>(KUL_TAKEN_PROGBAR),
     kul::diRow<kul::DescrField, ConfigDescrfieldComponent, ShowDescrfieldComponent,
-               UpdateDescrfieldComponent, kul::dropDescrfield, WipeDescrfieldComponent>(-10012),
+               UpdateDescrfieldComponent, kul::dropDescrfield, WipeDescrfieldComponent>(
+        KUL_TAKEN_DESCRFIELD),
     kul::diRow<KULBOX, ConfigBoxComponent, ShowBoxComponent, UpdateBoxComponent,
-               kul::dropNothing<KULBOX>, WipeBoxComponent>(-10013),
+               kul::dropNothing<KULBOX>, WipeBoxComponent>(KUL_TAKEN_BOX),
     kul::diRow<KULLINE, ConfigLineComponent, ShowLineComponent, UpdateLineComponent,
-               kul::dropNothing<KULLINE>, WipeLineComponent>(-10014),
+               kul::dropNothing<KULLINE>, WipeLineComponent>(KUL_TAKEN_LINE),
     kul::diRow<KULLABEL, ConfigLabelComponent, ShowLabelComponent, UpdateLabelComponent,
-               kul::dropLabel, WipeLabelComponent>(-10015),
+               kul::dropLabel, WipeLabelComponent>(KUL_TAKEN_LABEL),
 };
 
 constexpr int kChanged = 0;

@@ -76,9 +76,9 @@ int createNode(int nChain, int nType, int nRef, int nNoMemory, int (*add)(GUI*, 
         return 0;
     const CHAIN* chain = GetChain(nChain);
     if (!chain)
-        return -10009;
+        return KUL_NO_CHAIN;
     if (!chain->Pointer)
-        return -10010;
+        return KUL_NO_DIALOG;
     Node* node = kul::allocate<Node>();
     if (!node)
         return nNoMemory;
@@ -199,7 +199,7 @@ int CreateChain(int nRef)
         return Primary->nRef;
     }
     if (GetChain(nRef))
-        return -10000;
+        return KUL_TAKEN;
     CHAIN* chain = kul::allocate<CHAIN>();
     if (!chain)
         return -1;
@@ -283,12 +283,12 @@ int SetActiveChain(int nChain)
 
 int CreateUIComponent(int nChain, int nType, int nRef)
 {
-    return createNode<UI>(nChain, nType, nRef, -10019, AddUIComponent, kul::attachUI);
+    return createNode<UI>(nChain, nType, nRef, KUL_NO_MEMORY_UI, AddUIComponent, kul::attachUI);
 }
 
 int CreateDIComponent(int nChain, int nType, int nRef)
 {
-    return createNode<DI>(nChain, nType, nRef, -10011, AddDIComponent,
+    return createNode<DI>(nChain, nType, nRef, KUL_NO_MEMORY_DI, AddDIComponent,
                           [](GUI&, DI& di, int nKind) { return AttachComponentToDI(&di, nKind); });
 }
 

@@ -76,8 +76,8 @@ int CreateGUI(CHAIN* thisChain)
     if (!thisChain)
         return -1;
     if (thisChain->Pointer)
-        return -10008;
-    return kul::newDialog(thisChain) ? 0 : -10007;
+        return KUL_HAS_DIALOG;
+    return kul::newDialog(thisChain) ? 0 : KUL_NO_MEMORY;
 }
 
 int LoadGUIDefaults(GUI* thisGUI)
@@ -118,9 +118,9 @@ int ConfigGUIPrime()
 {
     const CHAIN* primary = GetPrimaryChain();
     if (!primary)
-        return -10002;
+        return KUL_NO_PRIMARY;
     if (!primary->Pointer)
-        return -10004;
+        return KUL_NO_PRIMARY_DIALOG;
     primary->Pointer->winMain = stdscr;
     primary->Pointer->winShadow = nullptr;
     primary->Pointer->pnlMain = nullptr;

@@ -40,9 +40,9 @@ private:
 enum { BODY = 1, BUTTONS = 10000, SCROLL_BAR, ITEM = 20000, TEXT_ROW = 30000 };
 
 // Results of the dialogs.
-constexpr int kCancelled = -1;
-constexpr int kUnusable = -2;
-constexpr int kGone = -10000;
+constexpr int kCancelled = KUL_DISMISSED;
+constexpr int kUnusable = KUL_UNUSABLE;
+constexpr int kGone = KUL_GONE;
 
 class Frame {
 public:

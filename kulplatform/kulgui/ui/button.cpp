@@ -176,7 +176,7 @@ int kulbutton_execKeys(int nChain, int nRef)
 {
     const auto* button = kul::findUI<KULBUTTON>(nChain, nRef, BUTTON);
     if (!button || button->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     kul::Handler<KULBUTTON> handler({nChain, nRef, BUTTON, 0, 0, 0});
     handler.call(&KULBUTTON::onFocus);
     handler.call(&KULBUTTON::onSelect);

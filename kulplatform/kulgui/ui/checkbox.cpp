@@ -209,9 +209,9 @@ int kulcheckbox_execKeys(int nChain, int nRef)
 {
     const auto* list = kul::findUI<kul::CheckList>(nChain, nRef, CHECKBOX);
     if (!list)
-        return -10000;
+        return KUL_GONE;
     if (list->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     return kul::runList<KULCHECKBOX>(
         nChain, nRef, {CHECKBOX, kul::Changed::Selected, kul::isEdition2(), click, moved});
 }

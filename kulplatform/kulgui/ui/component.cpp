@@ -22,27 +22,30 @@ namespace {
 // In the order of UI_TYPE; a kind that is not offered has an empty row.
 constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
     kul::uiRow<kul::Menu, ConfigMenuComponent, ShowMenuComponent, kul::dropMenu, WipeMenuComponent,
-               kulmenu_execKeys>({.nTaken = -10018, .keepsTab = true}),
+               kulmenu_execKeys>({.nTaken = KUL_TAKEN_MENU, .keepsTab = true}),
     kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, ShowDynmenuComponent, kul::dropDynmenu,
-               WipeDynmenuComponent, kuldynmenu_execKeys>({.nTaken = -10021, .keepsTab = true}),
+               WipeDynmenuComponent, kuldynmenu_execKeys>(
+        {.nTaken = KUL_TAKEN_DYNMENU, .keepsTab = true}),
     kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, ShowDescrmenuComponent, kul::dropDescrmenu,
-               WipeDescrmenuComponent, kuldescrmenu_execKeys>({.nTaken = -10020, .keepsTab = true}),
+               WipeDescrmenuComponent, kuldescrmenu_execKeys>(
+        {.nTaken = KUL_TAKEN_DESCRMENU, .keepsTab = true}),
     kul::uiRow<KULBUTTON, ConfigButtonComponent, ShowButtonComponent, kul::dropButton,
                WipeButtonComponent, kulbutton_execKeys>(
-        {.nTaken = -10022, .keepsTab = true, .ownsEnter = true, .hasEnable = true}),
+        {.nTaken = KUL_TAKEN_BUTTON, .keepsTab = true, .ownsEnter = true, .hasEnable = true}),
     kul::uiRow<kul::Toolbar, ConfigToolbarComponent, ShowToolbarComponent, kul::dropToolbar,
-               WipeToolbarComponent, kultoolbar_execKeys>({.nTaken = -10027, .ownsEnter = true}),
+               WipeToolbarComponent, kultoolbar_execKeys>(
+        {.nTaken = KUL_TAKEN_TOOLBAR, .ownsEnter = true}),
     kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent,
                kul::dropRing<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
-        {.nTaken = -10023, .startsSet = true, .ownsEnter = true}),
+        {.nTaken = KUL_TAKEN_CHECKBOX, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent,
                kul::dropRing<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(
-        {.nTaken = -10024, .startsSet = true, .ownsEnter = true}),
+        {.nTaken = KUL_TAKEN_OPTIONS, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
-               WipeFileviewComponent, kulfileview_execKeys>({.nTaken = -10025}),
+               WipeFileviewComponent, kulfileview_execKeys>({.nTaken = KUL_TAKEN_FILEVIEW}),
     kul::uiRow<kul::TextBox, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
                WipeTextboxComponent, kultextbox_execKeys>(
-        {.nTaken = -10026, .startsSet = true, .hasEnable = true}, kul::textboxAccepts),
+        {.nTaken = KUL_TAKEN_TEXTBOX, .startsSet = true, .hasEnable = true}, kul::textboxAccepts),
 };
 
 // The records that the library keeps more in than the public one shows. A dialog has few of them,

@@ -237,7 +237,7 @@ int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
     if (nBorder == BORDER || nBorder == NOBORDER)
         view->nBorder = nBorder;
     showFile(*view, loaded);
-    return szFileName && !loaded.text ? -10028 : 0;
+    return szFileName && !loaded.text ? KUL_UNREADABLE : 0;
 }
 
 int kulfileview_load(int nChain, int nRef, const char* szFileName)
@@ -247,7 +247,7 @@ int kulfileview_load(int nChain, int nRef, const char* szFileName)
         return -1;
     const Loaded loaded = openFile(szFileName);
     if (szFileName && !loaded.text)
-        return -10028;
+        return KUL_UNREADABLE;
     showFile(*view, loaded);
     return 0;
 }
@@ -317,9 +317,9 @@ int kulfileview_execKeys(int nChain, int nRef)
 {
     const FileView* start = findView(nChain, nRef);
     if (!start)
-        return -10000;
+        return KUL_GONE;
     if (start->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     kul::Handler<FileView> handler({nChain, nRef, FILEVIEW, percent(*start), 0, 0});
     handler.call(&FileView::onFocus);
     while (const int nKey = handler.key(kul::isShown<FileView>)) {
@@ -329,7 +329,7 @@ int kulfileview_execKeys(int nChain, int nRef)
         const auto* move = std::find_if(std::begin(kKeyMoves), std::end(kKeyMoves),
                                         [=](const KeyMove& row) { return row.nKey == nKey; });
         if (nKey == KS_TAB || nKey == KS_ESC) {
-            handler.end(nKey == KS_TAB ? 10 : -10);
+            handler.end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
         } else if (nKey == KS_ENTER) {
             SetCurrentSelection(&handler.selection);
             handler.call(&FileView::onClick);

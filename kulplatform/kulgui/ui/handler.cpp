@@ -137,7 +137,7 @@ void* HandlerBase::findRecord()
     void* record = findUIRecord(selection.nChain, selection.nUserInterface,
                                 static_cast<UI_TYPE>(selection.nType));
     if (!record)
-        end(-10000);
+        end(KUL_GONE);
     return record;
 }
 
@@ -173,7 +173,7 @@ int HandlerBase::nextKey()
         return KS_ENTER;
     const int nKey = waitOnce();
     if (nKey == 0 && lineIsGone())
-        end(-10000);
+        end(KUL_GONE);
     const int nLeft = offerKey(selection.nChain, nKey);
     if (nKey != 0 && nLeft == 0)
         show(); // what onKey did in place of the component

@@ -130,7 +130,7 @@ public:
     template <typename Public>
     int finish(KULCALLBACK Public::*onUnfocus)
     {
-        const Record* now = result() == -10000 ? nullptr : record();
+        const Record* now = result() == KUL_GONE ? nullptr : record();
         if (now) {
             ExecOnFunction(now->*onUnfocus);
             record(); // ends with an error if that has destroyed it

@@ -128,6 +128,6 @@ int kulmenu_execKeys(int nChain, int nRef)
 {
     const auto* menu = kul::findUI<KULMENU>(nChain, nRef, MENU);
     if (!menu || menu->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     return kul::runMenu<kul::Menu>(nChain, nRef, kMenuKeys);
 }

@@ -77,7 +77,7 @@ struct MenuKeys {
     UI_TYPE type;
     int nBack;
     int nForward;
-    bool obeysControls; // ends, with 10, when a navigation control asks to leave
+    bool obeysControls; // ends, with KUL_NEXT, when a navigation control asks to leave
 };
 
 // The selection goes round the elements and one place after them, on which none is selected.
@@ -199,7 +199,7 @@ int runMenu(int nChain, int nRef, const MenuKeys& keys)
 {
     auto* start = findUI<Record>(nChain, nRef, keys.type);
     if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
-        return 10;
+        return KUL_NEXT;
     if (isEdition2())
         start->nSelect = settled(start->nSelect, stepsOf(*start));
     Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
@@ -215,7 +215,7 @@ int runMenu(int nChain, int nRef, const MenuKeys& keys)
         handler.show(Changed::Selected);
     }
     if (keys.obeysControls && ExitUIorGUIorChains() != -1)
-        handler.end(10);
+        handler.end(KUL_NEXT);
     return handler.finish(&Record::onUnfocus);
 }
 

@@ -140,12 +140,12 @@ int HandlerBase::navigate(int nKey)
     if (!isEdition2()) {
         if (!isTab(nKey))
             return nKey;
-        end(nKey == KS_TAB ? 10 : -10);
+        end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
         return 0;
     }
     if (nKey == KS_TAB || nKey == KS_BACKTAB) {
         if (mayGoOn())
-            end(nKey == KS_TAB ? 10 : -10);
+            end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
         return 0;
     }
     if (nKey == KS_ESC)

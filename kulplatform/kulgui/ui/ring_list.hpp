@@ -262,7 +262,7 @@ int runList(int nChain, int nRef, const ListKeys<Record>& keys)
         noteSelection(handler);
         handler.show(nKey == KS_SPACE || nKey == KS_ENTER ? keys.clickChanges : Changed::Selected);
         if (nKey == KS_TAB || nKey == KS_ESC)
-            handler.end(nKey == KS_TAB ? 10 : -10);
+            handler.end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
     }
     return handler.finish(&Record::onUnfocus);
 }

@@ -74,7 +74,7 @@ void edit(KULTEXTBOX* box, int nKey)
 // What a key makes the handler return; 0 for one that stays.
 int leavesWith(int nKey)
 {
-    return nKey == KS_TAB || nKey == KS_ENTER ? 10 : nKey == KS_ESC ? -10 : 0;
+    return nKey == KS_TAB || nKey == KS_ENTER ? KUL_NEXT : nKey == KS_ESC ? KUL_PREVIOUS : 0;
 }
 
 } // namespace
@@ -267,9 +267,9 @@ int kultextbox_execKeys(int nChain, int nRef)
 {
     const auto* box = kul::findUI<kul::TextBox>(nChain, nRef, TEXTBOX);
     if (!box)
-        return -10000;
+        return KUL_GONE;
     if (box->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     kul::Handler<kul::TextBox> handler({nChain, nRef, TEXTBOX, 0, 0, 0});
     handler.call(&KULTEXTBOX::onFocus);
     while (const int nKey = handler.key(kul::isShown<KULTEXTBOX>)) {

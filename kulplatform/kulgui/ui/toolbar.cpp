@@ -144,7 +144,7 @@ void handleKey(kul::Handler<kul::Toolbar>& handler, int nKey)
     }
     handler.show();
     if (nKey == KS_TAB || nKey == KS_ESC)
-        handler.end(nKey == KS_TAB ? 10 : -10);
+        handler.end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
 }
 
 } // namespace
@@ -324,7 +324,7 @@ int kultoolbar_execKeys(int nChain, int nRef)
     if (!toolbar)
         return -1;
     if (toolbar->nVisible != T)
-        return 10;
+        return KUL_NEXT;
     if (kul::isEdition2())
         toolbar->nSelect = kul::settled(toolbar->nSelect, stepsOf(*toolbar));
     kul::Handler<kul::Toolbar> handler({nChain, nRef, TOOLBAR, 0, toolbar->nSelect, 0});
@@ -336,5 +336,5 @@ int kultoolbar_execKeys(int nChain, int nRef)
     if (dialogHidden)
         kulgui_hide(1); // dialog 1, whichever this one is
     const int nResult = handler.finish(&KULTOOLBAR::onUnfocus);
-    return dialogHidden && nResult == 0 ? -10000 : nResult;
+    return dialogHidden && nResult == 0 ? KUL_GONE : nResult;
 }
