@@ -265,7 +265,7 @@ TEST(Updates, KnowWhatClearingLeaves)
         update_panels();
         kul::updateTerminal(kul::kNowhere, false);
         side.show();
-        EXPECT_EQ(side.emulator.cell(9, 40).background == COLOR_BLACK, look == 0);
+        EXPECT_EQ(side.emulator.cell(3, 40).background == COLOR_BLACK, look == 0);
     }
 }
 
