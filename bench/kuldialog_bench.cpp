@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
 // kuldialog beside the two programs whose names it can have, where they are installed: whether all
-// agree with the rows of the tests, and what each box costs.
-// usage: kuldialog_bench [rows|costs]
+// agree with the rows of the tests, and what each box costs. KULDIALOG in the environment names the
+// program that is measured: what is installed is built for its size.
+// usage: kuldialog_bench [rows|costs [BOX]]
 #include <algorithm>
 #include <array>
 #include <chrono>
@@ -15,6 +16,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include <unistd.h>
 
 #include "rows.hpp"
 #include "terminal.hpp"
@@ -31,14 +34,15 @@ struct Program {
     std::string path;
 };
 
+const char* const szNamed = std::getenv("KULDIALOG");
 const std::array<Program, 3> kPrograms = {{{"whiptail", "/usr/bin/whiptail"},
                                            {"dialog", "/usr/bin/dialog"},
-                                           {"kuldialog", KULGUI_KULDIALOG}}};
+                                           {"kuldialog", szNamed ? szNamed : KULGUI_KULDIALOG}}};
 
 struct Figures {
     double first, down, leaving; // bytes
     double milliseconds;         // to the first screen
-    double memory;               // KiB that are the process' own
+    double memory;               // KiB that the process has of its own and written to
 };
 
 struct Box {
@@ -46,7 +50,7 @@ struct Box {
     bool peers; // whether the first program has it as well
     bool moves; // whether Down does anything
     const char* arguments;
-    const char* leave = "\r";
+    const char* leave = "\r"; // the last of these keys
 };
 
 const std::vector<Box> kBoxes = {
@@ -55,7 +59,7 @@ const std::vector<Box> kBoxes = {
     {"infobox", true, false, "--infobox 'Please wait.' 10 50", ""},
     {"inputbox", true, false, "--inputbox 'Name of this device:' 10 50 gateway"},
     {"passwordbox", true, false, "--passwordbox 'Password:' 10 50"},
-    {"textbox", true, true, "--textbox /usr/share/common-licenses/BSD 20 70"},
+    {"textbox", true, true, "--scrolltext --textbox /usr/share/common-licenses/BSD 20 70", "\t\r"},
     {"menu", true, true,
      "--menu 'Choose one of these:' 18 60 8 1 'Item number 1' 2 'Item number 2' 3 'Item number 3' "
      "4 'Item number 4' 5 'Item number 5' 6 'Item number 6' 7 'Item number 7' 8 'Item number 8'"},
@@ -76,13 +80,13 @@ const std::vector<Box> kBoxes = {
     {"programbox", false, false, "--programbox 'Output' 10 50 </dev/null"},
 };
 
-// What a process has in memory that is nobody else's.
+// What a process has in memory that is nobody else's and cannot be read from a file again.
 double privateMemory(pid_t pid)
 {
     std::ifstream file("/proc/" + std::to_string(pid) + "/smaps_rollup");
     double sum = 0;
     for (std::string line; std::getline(file, line);) {
-        if (line.starts_with("Private_"))
+        if (line.starts_with("Private_Dirty"))
             sum += std::atof(line.c_str() + line.find(':') + 1);
     }
     return sum;
@@ -115,9 +119,11 @@ Figures measure(const Program& program, const Box& box, const char* szTerm)
         figures.down = static_cast<double>(
             taken(terminal, std::strcmp(szTerm, "vt100") == 0 ? "\033OB" : "\033[B"));
     figures.memory = privateMemory(terminal.pid());
-    if (*box.leave) {
+    if (const std::string leave = box.leave; !leave.empty()) {
+        if (leave.size() > 1)
+            taken(terminal, leave.substr(0, leave.size() - 1).c_str());
         terminal.mark();
-        terminal.send(box.leave);
+        terminal.send(leave.substr(leave.size() - 1));
         terminal.wait();
         while (terminal.pump(kQuiet)) {
         }
@@ -209,6 +215,7 @@ int main(int argc, char** argv)
         compareRows();
     if (!costs)
         return 0;
+    sync(); // pages of files that wait for the disk would count as written to
     std::printf("%-43s", "Boxes for shell scripts, 80x24");
     for (const Program& program : kPrograms)
         std::printf(" %12s", program.name);

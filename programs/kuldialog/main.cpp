@@ -138,10 +138,11 @@ int Program::noBox(bool any)
 {
     const Settings& settings = line_.settings();
     const bool printed = settings.is(kPrintVersion) || settings.is(kPrintMaxsize);
-    if (!any && settings.is(kPrintMaxsize) && takeTerminal())
+    const bool clears = settings.is(kClear) && name != kWhiptail;
+    if (!any && (clears || settings.is(kPrintMaxsize)) && takeTerminal())
         openScreen();
     printFacts(settings);
-    if (any || printed || settings.is(kClear) || name == kDialog)
+    if (any || printed || clears || name == kDialog)
         return finish(kAccepted);
     complain("no box is asked for; see", "--help");
     return 255;
@@ -149,7 +150,7 @@ int Program::noBox(bool any)
 
 int Program::finish(Answer answer)
 {
-    closeScreen(answer == kAccepted ? stays_ : nullptr);
+    closeScreen(answer == kAccepted ? stays_ : nullptr, line_.settings().is(kClear));
     if (!output.isWhole() || !output.writeTo(descriptor_))
         answer = kFailed;
     return statusOf(answer);
@@ -189,6 +190,7 @@ int Program::run()
 
 int main(int argc, char** argv)
 {
+    fillDescriptors();
     std::setlocale(LC_CTYPE, ""); // what texts need; the rest costs time
     takeName(argc > 0 ? argv[0] : "");
     // One of the programs answers a single word that is no box by itself with its help.

@@ -54,6 +54,14 @@ bool put(int nFd, int nPlace)
 
 } // namespace
 
+void fillDescriptors()
+{
+    for (int nFd = STDIN_FILENO; nFd <= STDERR_FILENO; ++nFd) {
+        if (fcntl(nFd, F_GETFD) < 0)
+            open("/dev/null", O_RDONLY);
+    }
+}
+
 bool takeTerminal()
 {
     const int nOutput = openTerminal(STDOUT_FILENO, STDERR_FILENO);
@@ -104,12 +112,12 @@ int screenHeight()
     return desktop() ? desktop()->nHeight : 0;
 }
 
-void closeScreen(const char* szStays)
+void closeScreen(const char* szStays, bool clear)
 {
     if (!isOpen)
         return;
     isOpen = false;
-    const bool stays = szStays && kulgui_keepScreen(T) == 0;
+    const bool stays = kulgui_keepScreen(clear ? F : T) == 0;
     kulgui_destroyAll();
     if (szStays && !stays) {
         Buffer text;

@@ -14,6 +14,10 @@ namespace kuldialog {
 // Standard input as the script gave it; a gauge and a program box read from it.
 extern int nScriptInput;
 
+// Puts something in the place of descriptors below 3 that a script has closed: nothing comes from
+// there, and an answer cannot be written. To be called before anything is opened.
+void fillDescriptors();
+
 // Gives descriptors 0 and 1 to the terminal, remembering what they were. False without one.
 bool takeTerminal();
 
@@ -28,8 +32,9 @@ GUI* desktop(); // null before that
 int screenWidth();
 int screenHeight();
 
-// Gives the terminal back. What an information box showed stays where the terminal can keep it.
-void closeScreen(const char* szStays);
+// Gives the terminal back, with the last box on it unless it was to be cleared. Where the terminal
+// has another screen to go back to, the text is written there, if there is one.
+void closeScreen(const char* szStays, bool clear = false);
 
 // The descriptor of the answer; -1 for one that is not open.
 int answerDescriptor(const Settings& settings);

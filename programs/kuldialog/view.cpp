@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <kulgui.h>
+#include <poll.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,8 +20,15 @@ namespace kuldialog {
 
 namespace {
 
-// What comes out of a pipe or device goes into a file of its own, in memory, up to this.
+// What comes out of a pipe or device goes into a file of its own, in memory, up to this. A key
+// ends the waiting for more.
 constexpr std::size_t kMostCopied = 16 * 1024 * 1024;
+
+bool hasMore(int nFrom)
+{
+    pollfd ends[] = {{nFrom, POLLIN, 0}, {STDIN_FILENO, POLLIN, 0}};
+    return poll(ends, 2, -1) > 0 && ends[0].revents;
+}
 
 int copied(int nFrom)
 {
@@ -28,7 +36,8 @@ int copied(int nFrom)
     char part[4096];
     std::size_t all = 0;
     ssize_t size;
-    while (nTo >= 0 && all < kMostCopied && (size = read(nFrom, part, sizeof part)) > 0) {
+    while (nTo >= 0 && all < kMostCopied && hasMore(nFrom) &&
+           (size = read(nFrom, part, sizeof part)) > 0) {
         if (write(nTo, part, static_cast<std::size_t>(size)) != size)
             break;
         all += static_cast<std::size_t>(size);
@@ -40,21 +49,27 @@ int copied(int nFrom)
 // where there is nothing to read.
 bool loadable(const char* szFile, Buffer& name)
 {
-    const int nFd = open(szFile, O_RDONLY | O_CLOEXEC);
+    int nFd = open(szFile, O_RDONLY | O_CLOEXEC);
+    // The terminal has taken the place of what the script has behind a name like /dev/stdin.
+    const bool given = nFd >= 0 && isatty(nFd);
+    if (given)
+        nFd = nScriptInput;
     struct stat status;
-    if (nFd < 0 || fstat(nFd, &status) != 0) {
-        complain(szFile, std::strerror(errno));
+    const int nError = nFd < 0 || fstat(nFd, &status) != 0 ? errno
+                       : S_ISDIR(status.st_mode)           ? EISDIR
+                       : isatty(nFd)                       ? EINVAL
+                                                           : 0;
+    if (nError) {
+        complain(szFile, std::strerror(nError));
         return false;
     }
-    if (S_ISDIR(status.st_mode)) {
-        complain(szFile, std::strerror(EISDIR));
-        return false;
-    }
-    if (S_ISREG(status.st_mode))
+    const bool regular = S_ISREG(status.st_mode);
+    if (regular && !given)
         name.add(szFile);
     else
-        name.add("/proc/self/fd/").addNumber(copied(nFd));
-    close(nFd);
+        name.add("/proc/self/fd/").addNumber(regular ? nFd : copied(nFd));
+    if (!given)
+        close(nFd);
     return true;
 }
 

@@ -132,7 +132,9 @@ const std::vector<Row> kRows = {
     {kOthers, "$D --fselect ./fi 8 40", "space enter", 0, "./file1"},
     {kAll, "$D --textbox file1 15 40", "down enter", 0, ""},
     {kAll, "$D --textbox nofile 15 40", "", 255, "?"},
+    {kWhiptail | kOwn, "printf 'a\\nb' | $D --textbox /dev/stdin 15 40", "enter", 0, ""},
     {kAll, "$D --gauge x 8 40 0 <numbers", "", 0, ""},
+    {kOwn, "$D --gauge x 8 40 0 <&-", "", 0, ""},
     {kAll, "$D --gauge x 8 40 0 <cut", "", 0, ""},
     {kOthers, "$D --pause x 10 40 1", "", 0, ""},
     {kOthers, "$D --pause x 10 40 9", "right enter", 1, ""},
@@ -144,6 +146,7 @@ const std::vector<Row> kRows = {
     {kAll, "$D --output-fd 3 --inputbox x 8 40 i", "enter", 0, "", "i"},
     {kAll, "$D --output-fd 7 --inputbox x 8 40 i", "enter", 255, "?"},
     {kOthers, "A=$($D --stdout --inputbox x 8 40 i); echo \"got $A $?\" >&3", "enter", 0, "", "got i 0\n"},
+    {kOwn, "$D --stdout --inputbox x 8 40 i >&-", "enter", 255, ""},
     {kAll, "echo foo | $D --inputbox x 8 40 i", "enter", 0, "i"},
     // Several boxes.
     {kOthers, "$D --inputbox x 8 40 i --and-widget --inputbox y 8 40 q", "enter enter", 0, "i\tq"},
