@@ -36,7 +36,7 @@ static void save(struct settings* now)
 
 static int is_changed(void)
 {
-    return memcmp(&saved, &settings, sizeof saved) != 0;
+    return !settings_equal(&saved, &settings);
 }
 
 /* Leaves the program, unless there is something to save and the user thinks better of it. */
@@ -113,7 +113,7 @@ static void make_main(void)
     kullabel_config(MAIN, HELP, KUL_KEEP, KUL_KEEP, 3, rows + 3, 31, 1, LEFT, NOBORDER,
                     say(TEXT_MENU_HELP));
     kullabel_create(MAIN, STATE);
-    kullabel_config(MAIN, STATE, KUL_KEEP, KUL_KEEP, 25, 0, 9, 1, RIGHT, NOBORDER,
+    kullabel_config(MAIN, STATE, KUL_KEEP, KUL_KEEP, 24, rows + 4, 10, 1, RIGHT, NOBORDER,
                     say(TEXT_CHANGED));
     kulgui_setOnKey(MAIN, on_key);
     show_state();

@@ -24,7 +24,8 @@ void page_overview(struct settings* settings)
                          say(TEXT_ADDRESS), settings->address, say(TEXT_MASK), settings->mask,
                          say(TEXT_GATEWAY), settings->gateway);
     snprintf(text + used, sizeof text - (size_t)used, "%s: %s\n%s: %s\n%s: %s", say(TEXT_ZONE),
-             settings->zone, say(TEXT_SERVICES), settings->services, say(TEXT_PASSWORD),
+             settings->zone, say(TEXT_SERVICES),
+             settings->services[0] ? settings->services : say(TEXT_NONE), say(TEXT_PASSWORD),
              say(settings->password[0] ? TEXT_PASSWORD_SET : TEXT_PASSWORD_UNSET));
     kuldialog_tell(say(TEXT_OVERVIEW), text);
 }

@@ -137,6 +137,15 @@ int settings_save(const struct settings* settings, const char* path)
     return error;
 }
 
+int settings_equal(const struct settings* one, const struct settings* other)
+{
+    int i = 0;
+    while (i < KEYS &&
+           strcmp((const char*)one + keys[i].offset, (const char*)other + keys[i].offset) == 0)
+        ++i;
+    return i == KEYS;
+}
+
 int list_has(const char* list, const char* name)
 {
     const size_t length = strlen(name);

@@ -29,6 +29,9 @@ int settings_load(struct settings* settings, const char* path, char* errors, int
  * 0, or an error number. */
 int settings_save(const struct settings* settings, const char* path);
 
+/* Whether both would make the same file. */
+int settings_equal(const struct settings* one, const struct settings* other);
+
 /* Whether a name is in a list of names. */
 int list_has(const char* list, const char* name);
 

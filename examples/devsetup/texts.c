@@ -37,6 +37,7 @@ static const char* const texts[TEXTS][2] = {
                             "Leertaste schaltet einen Dienst ein oder aus."},
     [TEXT_NO_SERVICES] = {"This device has no services to choose from.",
                           "Dieses Gerät hat keine Dienste zur Auswahl."},
+    [TEXT_NONE] = {"none", "keine"},
     [TEXT_PASSWORD] = {"Password", "Passwort"},
     [TEXT_AGAIN] = {"Once more", "Noch einmal"},
     [TEXT_PASSWORD_HELP] = {"At least eight characters, with letters and something else.",
@@ -55,7 +56,7 @@ static const char* const texts[TEXTS][2] = {
     [TEXT_UNSAVED] = {"There are changes that are not saved.",
                       "Es gibt Änderungen, die nicht gespeichert sind."},
     [TEXT_UNSAVED_BUTTONS] = {"Save\nDiscard\nBack", "Speichern\nVerwerfen\nZurück"},
-    [TEXT_CHANGED] = {"changed", "geändert"},
+    [TEXT_CHANGED] = {"changed ", "geändert "},
     [TEXT_BAD_FILE] =
         {"Some settings could not be read. The others are taken, for these the defaults.",
          "Einige Einstellungen konnten nicht gelesen werden. Für sie gilt die Vorgabe."},
