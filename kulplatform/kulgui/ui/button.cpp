@@ -15,7 +15,7 @@ namespace {
 // What the config calls of the variants do.
 int resetButton(int nChain, int nRef)
 {
-    return kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON) ? 0 : -1;
+    return kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON, KUL_KEEP, KUL_KEEP, KUL_KEEP) ? 0 : -1;
 }
 
 // How far a button is from another one in the direction of an arrow key, along the rows and columns
@@ -123,13 +123,13 @@ int kulbutton_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, i
 {
     // Copied first: it may be the text that the button has, and the reset frees that.
     char* szCopy = kul::copyText(szText);
-    auto* button = kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON);
+    auto* button =
+        kul::resetUI<KULBUTTON>(nChain, nRef, BUTTON, nColorFocus, nColorUnfocus, nColorDisable);
     if (!button || !szCopy) {
         std::free(szCopy);
         return -1;
     }
     button->szText = szCopy;
-    kul::setColors(*button, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*button, onFocus, onUnfocus, onSelect, onClick);
     button->nX = nX;
     button->nY = nY;

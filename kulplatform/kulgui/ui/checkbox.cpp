@@ -5,7 +5,10 @@
 
 namespace {
 
-using Handler = kul::Handler<kul::CheckList>;
+KULCHECKELEMENT* checkOf(kul::AnyElement* element)
+{
+    return reinterpret_cast<KULCHECKELEMENT*>(element);
+}
 
 void toggle(KULCHECKELEMENT& element)
 {
@@ -16,7 +19,7 @@ void toggle(KULCHECKELEMENT& element)
 KULCHECKELEMENT* anyElement(int nChain, int nRef, int nElement)
 {
     auto* list = kul::findUI<kul::CheckList>(nChain, nRef, CHECKBOX);
-    return list ? kul::elementsOf(*list)(nElement) : nullptr;
+    return list ? checkOf(kul::elementAt(kul::listOf(*list), nElement)) : nullptr;
 }
 
 // The element of a public call that changes or reads one; null when it cannot be named by it.
@@ -26,21 +29,26 @@ KULCHECKELEMENT* findElement(int nChain, int nRef, int nElement)
     return named ? kulcheckbox_getElement(nChain, nRef, nElement) : nullptr;
 }
 
-void click(Handler& handler)
+void click(kul::ListHandler& handler)
 {
-    kul::CheckList* list = handler.record();
-    if (auto* element = list ? kul::cursorElement(*list) : nullptr) {
+    const auto list = handler.list();
+    if (auto* element = list ? checkOf(kul::cursorElement(*list)) : nullptr) {
         if (!kul::isUsable(*element))
             return;
         toggle(*element);
     }
-    handler.call(&KULCHECKBOX::onClick);
+    handler.call(&kul::ListCalls::onClick);
 }
 
-void moved(Handler& handler)
+void moved(kul::ListHandler& handler)
 {
-    kul::callElement(handler, &KULCHECKELEMENT::onSelect);
-    handler.call(&KULCHECKBOX::onSelect);
+    handler.callElement(&kul::ElementLinks::onSelect);
+    handler.call(&kul::ListCalls::onSelect);
+}
+
+const char* marker(const kul::List&, kul::AnyElement* element, int)
+{
+    return checkOf(element)->nSelect == 1 ? "[X]" : "[ ]";
 }
 
 } // namespace
@@ -48,10 +56,8 @@ void moved(Handler& handler)
 KULCHECKELEMENT* AddCheckElement(KULCHECKELEMENT* firstElement, int nEnable, const char* szText,
                                  KULCALLBACK onSelect)
 {
-    auto* element = kul::newElement<KULCHECKELEMENT>(nEnable, szText, nullptr);
-    if (element)
-        element->onSelect = onSelect;
-    return kul::appendToRing(firstElement, element);
+    return kul::appendToRing(firstElement,
+                             kul::newElement<KULCHECKELEMENT>(nEnable, szText, onSelect, nullptr));
 }
 
 int RemoveCheckElement(KULCHECKELEMENT* firstElement)
@@ -71,40 +77,43 @@ int AttachCheckboxComponentToUI(UI* thisUI)
 
 int ConfigCheckboxComponent(GUI* thisGUI, KULCHECKBOX* thisCheck)
 {
-    return kul::setListDefaults(thisGUI, thisCheck);
+    if (!thisGUI || !thisCheck)
+        return -1;
+    kul::setListDefaults(*thisGUI, kul::listOf(*thisCheck));
+    return 0;
 }
 
 int WipeCheckboxComponent(KULCHECKBOX* thisCheck)
 {
-    return kul::wipeList(thisCheck);
+    return thisCheck ? kul::wipeList(thisCheck, kul::listOf(*thisCheck)) : 0;
 }
 
 void SetFirstCheckElement(KULCHECKBOX* thisCheckbox)
 {
     if (thisCheckbox)
-        kul::setFirst(*thisCheckbox);
+        kul::setFirst(kul::listOf(*thisCheckbox));
 }
 
 void SetFirstCheckElementFromEnd(KULCHECKBOX* thisCheckbox)
 {
     if (thisCheckbox)
-        kul::setFirstFromEnd(*thisCheckbox);
+        kul::setFirstFromEnd(kul::listOf(*thisCheckbox));
 }
 
 void SetLastCheckElement(KULCHECKBOX* thisCheckbox)
 {
     if (thisCheckbox)
-        kul::setLast(*thisCheckbox);
+        kul::setLast(kul::listOf(*thisCheckbox));
 }
 
 int CheckLastCheckElementForSpillover(const KULCHECKBOX* thisCheckbox)
 {
-    return thisCheckbox && kul::spills(*thisCheckbox) ? T : F;
+    return thisCheckbox && kul::spills(kul::listOf(*thisCheckbox)) ? T : F;
 }
 
 int GetTotalCheckElementHeights(const KULCHECKBOX* thisCheckbox)
 {
-    return thisCheckbox ? kul::shifted(0, kul::rowsOfAll(*thisCheckbox)) : 0;
+    return thisCheckbox ? kul::shifted(0, kul::rowsOfAll(kul::listOf(*thisCheckbox))) : 0;
 }
 
 int kulcheckbox_create(int nChain, int nRef)
@@ -116,10 +125,10 @@ int kulcheckbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                        int nX, int nY, int nWidth, int nHeight, int nBorder, KULCALLBACK onFocus,
                        KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* list = kul::resetUI<kul::CheckList>(nChain, nRef, CHECKBOX);
+    auto* list = kul::resetUI<kul::CheckList>(nChain, nRef, CHECKBOX, nColorFocus, nColorUnfocus,
+                                              nColorDisable);
     if (!list)
         return -1;
-    kul::setColors(*list, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*list, onFocus, onUnfocus, onSelect, onClick);
     kul::setBox(*list, nX, nY, nWidth, nHeight, nBorder);
     return 0;
@@ -133,7 +142,7 @@ int kulcheckbox_addElement(int nChain, int nRef, const char* szText, int nSelect
     if (!element)
         return -1;
     element->nSelect = nSelect;
-    kul::takeElement(*list, *element);
+    kul::takeElement(kul::listOf(*list), kul::asAny(element));
     return 0;
 }
 
@@ -200,18 +209,18 @@ int kulcheckbox_hide(int nChain, int nRef)
 
 void ShowCheckboxComponent(GUI* thisGUI, KULCHECKBOX* thisCheckbox, int nFocus)
 {
-    kul::showList(thisGUI, thisCheckbox, nFocus, [](const KULCHECKELEMENT& element, int) {
-        return element.nSelect == 1 ? "[X]" : "[ ]";
-    });
+    if (thisGUI && thisCheckbox)
+        kul::showList(*thisGUI, kul::listOf(*thisCheckbox, kul::ringOf(*thisCheckbox)), nFocus,
+                      marker);
 }
 
 int kulcheckbox_execKeys(int nChain, int nRef)
 {
-    const auto* list = kul::findUI<kul::CheckList>(nChain, nRef, CHECKBOX);
+    auto* list = kul::findUI<kul::CheckList>(nChain, nRef, CHECKBOX);
     if (!list)
         return KUL_GONE;
     if (list->nVisible != T)
         return KUL_NEXT;
-    return kul::runList<KULCHECKBOX>(
-        nChain, nRef, {CHECKBOX, kul::Changed::Selected, kul::isEdition2(), click, moved});
+    return kul::runList(nChain, nRef, kul::listOf(*list),
+                        {CHECKBOX, kul::Changed::Selected, kul::isEdition2(), click, moved});
 }

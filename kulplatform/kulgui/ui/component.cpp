@@ -36,10 +36,10 @@ constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
                WipeToolbarComponent, kultoolbar_execKeys>(
         {.nTaken = KUL_TAKEN_TOOLBAR, .ownsEnter = true}),
     kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent,
-               kul::dropRing<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
+               kul::dropList<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
         {.nTaken = KUL_TAKEN_CHECKBOX, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent,
-               kul::dropRing<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(
+               kul::dropList<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(
         {.nTaken = KUL_TAKEN_OPTIONS, .startsSet = true, .ownsEnter = true}),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
                WipeFileviewComponent, kulfileview_execKeys>({.nTaken = KUL_TAKEN_FILEVIEW}),
@@ -84,9 +84,9 @@ void drawParentheses(WINDOW* win, const kul::Area& area, int nColor)
 
 void showDisabled(GUI* gui, const kul::UIKind& kind, void* record)
 {
-    const int nColor = kind.disableColor(record);
+    const int nColor = kind.colors(record).nDisable;
     {
-        const kul::DisabledMark mark(kind.unfocusColor(record), nColor);
+        const kul::DisabledMark mark(kind.colors(record).nUnfocus, nColor);
         kind.show(gui, record, 0);
     }
     if (kul::needsParentheses() && kind.visible(record) == T)
@@ -108,7 +108,7 @@ void show(GUI* gui, UI* ui, bool focused)
         kul::showComponent(gui->winMain, area.nY, area.nX, area.nHeight, area.nWidth);
     }
     {
-        const int nColor = focused ? kind->focusColor(ui->Pointer) : kul::FocusMark::kNone;
+        const int nColor = focused ? kind->colors(ui->Pointer).nFocus : kul::FocusMark::kNone;
         const kul::FocusMark mark(nColor);
         kind->show(gui, ui->Pointer, focused ? 1 : 0);
     }
@@ -149,7 +149,7 @@ void freeRecord(void* record)
 
 const UIKind* uiKind(int nType)
 {
-    const bool known = nType >= 0 && nType <= TEXTBOX && kUIKinds[nType].allocate;
+    const bool known = nType >= 0 && nType <= TEXTBOX && kUIKinds[nType].size != 0;
     return known ? &kUIKinds[nType] : nullptr;
 }
 
@@ -159,6 +159,18 @@ void* findUIRecord(int nChain, int nRef, UI_TYPE type)
     if (!ui || ui->nType != type)
         return nullptr;
     return kUIKinds[type].inner && !isInner(ui->Pointer) ? nullptr : ui->Pointer;
+}
+
+void* resetUIRecord(int nChain, int nRef, UI_TYPE type, int nFocus, int nUnfocus, int nDisable)
+{
+    void* record = findUIRecord(nChain, nRef, type);
+    if (!record || ConfigUIComponent(nChain, nRef) < 0)
+        return nullptr;
+    UIColors& colors = kUIKinds[type].colors(record);
+    SetVar(&colors.nFocus, nFocus);
+    SetVar(&colors.nUnfocus, nUnfocus);
+    SetVar(&colors.nDisable, nDisable);
+    return record;
 }
 
 bool isDisabled(const Dialog& dialog, const UI& ui)
@@ -183,11 +195,6 @@ Area areaOf(const KULMENU& menu)
     return {menu.nX, menu.nY, 0, 1, false};
 }
 
-Rows rowsOf(const KULDESCRMENU&)
-{
-    return {INT_MIN, INT_MAX};
-}
-
 Area areaOf(const KULDYNMENU& menu)
 {
     return {menu.nX, menu.nY, shifted(menu.nWidth, 2), shifted(menu.nHeight, 2), true};
@@ -195,7 +202,7 @@ Area areaOf(const KULDYNMENU& menu)
 
 Area areaOf(const KULDESCRMENU& menu)
 {
-    return {menu.nX, menu.nY, menu.nBarLength, 1, false};
+    return {menu.nX, menu.nY, menu.nBarLength, 1, false, INT_MAX};
 }
 
 Area areaOf(const KULBUTTON& button)
@@ -245,7 +252,7 @@ int AttachComponentToUI(UI* thisUI, int nType)
     if (!thisUI || !kind)
         return -1;
     thisUI->nType = nType;
-    thisUI->Pointer = kind->allocate();
+    thisUI->Pointer = kind->inner ? kul::newInner(kind->size) : std::calloc(1, kind->size);
     return thisUI->Pointer ? 0 : -1;
 }
 

@@ -6,6 +6,7 @@
 
 #include <concepts>
 #include <cstddef>
+#include <type_traits>
 
 #include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
@@ -51,6 +52,7 @@ Record* innerOf(typename Record::Public* record)
 struct Area {
     int nX, nY, nWidth, nHeight;
     bool framed;
+    int nBelow = 0; // rows that it draws into below these
 };
 
 template <typename Record>
@@ -64,16 +66,6 @@ Area areaOf(const KULDYNMENU& menu);
 Area areaOf(const KULDESCRMENU& menu);
 Area areaOf(const KULBUTTON& button);
 Area areaOf(const KULTOOLBAR& toolbar);
-
-// The rows that a component draws into. A description menu's are not known from its record.
-template <typename Record>
-Rows rowsOf(const Record& record)
-{
-    const Area area = areaOf(record);
-    return {area.nY, shifted(area.nY, area.nHeight)};
-}
-
-Rows rowsOf(const KULDESCRMENU& menu);
 
 // The rows of the selected element. While the view stays the same, a move of the selection changes
 // nothing else.
@@ -91,33 +83,104 @@ struct UITraits {
     bool hasEnable = false; // nEnable of its record says whether it can be used
 };
 
+// The colours of a record, which lie next to each other in the records of all kinds and in dialogs.
+struct [[gnu::may_alias]] UIColors {
+    int nFocus;
+    int nUnfocus;
+    int nDisable;
+};
+
+template <typename Record>
+auto& colorsOf(Record& record)
+{
+    constexpr std::size_t kFirst = offsetof(Record, nColorFocus);
+    static_assert(offsetof(Record, nColorUnfocus) == kFirst + offsetof(UIColors, nUnfocus) &&
+                  offsetof(Record, nColorDisable) == kFirst + offsetof(UIColors, nDisable));
+    using Colors = std::conditional_t<std::is_const_v<Record>, const UIColors, UIColors>;
+    return reinterpret_cast<Colors&>(record.nColorFocus);
+}
+
+// Fields that the kinds have in common are named by where they are in a record: in a table of the
+// library a number is a byte, and a function is a pointer that each process has to be given anew.
+struct UIFields {
+    unsigned char visible;
+    unsigned char colors;
+    unsigned char onClick; // 0 for none
+    unsigned char enable;  // 0 for none
+};
+
 struct UIKind {
     UITraits traits;
+    UIFields fields;
     bool inner;                            // its own records are Inner
-    void* (*allocate)();                   // a cleared record
+    unsigned short size;                   // of those
     int (*config)(GUI*, void*);            // sets the defaults
     void (*show)(GUI*, void*, int nFocus); // draws
     void (*drop)(void*);                   // frees what the record owns
     int (*wipe)(void*);                    // the same, and the record
     int (*execKeys)(int nChain, int nRef); // runs it
-    int& (*visible)(void*);                // nVisible of the record
-    bool (*enabled)(void*);                // by the record
-    bool (*clickable)(void*);              // something happens at Enter
     Area (*area)(void*);
-    Rows (*rows)(void*);
-    Spot (*spot)(void*);
-    int (*focusColor)(void*); // nColorFocus of the record
-    int (*unfocusColor)(void*);
-    int (*disableColor)(void*);
+    Spot (*ownSpot)(void*);                // null for those that are drawn whole
+    bool (*ownClick)(void*);               // null for those whose onClick tells
     bool (*select)(void*, int nElement);   // moves the selection; null for kinds without elements
     bool (*accepts)(int nChain, int nRef); // whether the user may go on from it; null for always
+
+    int& visible(void* record) const { return at<int>(record, fields.visible); }
+    UIColors& colors(void* record) const { return at<UIColors>(record, fields.colors); }
+
+    // By the record.
+    bool enabled(void* record) const
+    {
+        return fields.enable == 0 || at<int>(record, fields.enable) == 1;
+    }
+
+    // Whether something happens at Enter.
+    bool clickable(void* record) const
+    {
+        if (ownClick)
+            return ownClick(record);
+        return fields.onClick != 0 && at<KULCALLBACK>(record, fields.onClick);
+    }
+
+    // The rows that it draws into.
+    Rows rows(void* record) const
+    {
+        const Area where = area(record);
+        return {where.nY, shifted(where.nY, where.nHeight + 0LL + where.nBelow)};
+    }
+
+    Spot spot(void* record) const { return ownSpot ? ownSpot(record) : Spot{rows(record), 0}; }
+
+private:
+    template <typename Field>
+    static Field& at(void* record, int nOffset)
+    {
+        return *reinterpret_cast<Field*>(static_cast<char*>(record) + nOffset);
+    }
 };
+
+template <typename Record>
+constexpr UIFields fieldsOf()
+{
+    UIFields fields{offsetof(Record, nVisible), offsetof(Record, nColorFocus), 0, 0};
+    if constexpr (requires(Record & record) { record.onClick; })
+        fields.onClick = offsetof(Record, onClick);
+    if constexpr (requires(Record & record) { record.nEnable; })
+        fields.enable = offsetof(Record, nEnable);
+    return fields;
+}
 
 // A row of the table from the functions of a kind, which take its public record.
 template <typename Record, auto Config, auto Show, auto Drop, auto Wipe, auto ExecKeys>
 constexpr UIKind uiRow(UITraits traits, bool (*accepts)(int, int) = nullptr)
 {
     using Public = typename PublicOf<Record>::Type;
+    Spot (*spot)(void*) = nullptr;
+    if constexpr (requires(Record & record) { spotOf(record); })
+        spot = [](void* record) { return spotOf(*static_cast<Record*>(record)); };
+    bool (*click)(void*) = nullptr;
+    if constexpr (requires(Record & record) { isClickable(record); })
+        click = [](void* record) { return isClickable(*static_cast<Record*>(record)); };
     bool (*select)(void*, int) = nullptr;
     if constexpr (requires(Record & record) { selectElement(record, 0); })
         select = [](void* record, int nElement) {
@@ -125,36 +188,17 @@ constexpr UIKind uiRow(UITraits traits, bool (*accepts)(int, int) = nullptr)
         };
     return {
         traits,
+        fieldsOf<Public>(),
         Inner<Record>,
-        []() -> void* { return Inner<Record> ? newInner(sizeof(Record)) : allocate<Record>(); },
+        sizeof(Record),
         [](GUI* gui, void* record) { return Config(gui, static_cast<Public*>(record)); },
         [](GUI* gui, void* record, int nFocus) { Show(gui, static_cast<Public*>(record), nFocus); },
         [](void* record) { Drop(*static_cast<Public*>(record)); },
         [](void* record) { return Wipe(static_cast<Public*>(record)); },
         ExecKeys,
-        [](void* record) -> int& { return static_cast<Public*>(record)->nVisible; },
-        [](void* record) {
-            if constexpr (requires(Public * p) { p->nEnable; })
-                return static_cast<Public*>(record)->nEnable == 1;
-            return true;
-        },
-        [](void* record) {
-            if constexpr (requires(Record & own) { isClickable(own); })
-                return isClickable(*static_cast<Record*>(record));
-            else if constexpr (requires(Public * p) { p->onClick; })
-                return static_cast<Public*>(record)->onClick != nullptr;
-            return false;
-        },
         [](void* record) { return areaOf(*static_cast<Public*>(record)); },
-        [](void* record) { return rowsOf(*static_cast<Public*>(record)); },
-        [](void* record) {
-            if constexpr (requires(Record & own) { spotOf(own); })
-                return spotOf(*static_cast<Record*>(record));
-            return Spot{rowsOf(*static_cast<Public*>(record)), 0};
-        },
-        [](void* record) { return static_cast<Public*>(record)->nColorFocus; },
-        [](void* record) { return static_cast<Public*>(record)->nColorUnfocus; },
-        [](void* record) { return static_cast<Public*>(record)->nColorDisable; },
+        spot,
+        click,
         select,
         accepts};
 }
@@ -176,13 +220,14 @@ Record* findUI(int nChain, int nRef, UI_TYPE type)
 bool isDisabled(const Dialog& dialog, const UI& ui);
 bool takesFocus(const Dialog& dialog, const UI& ui);
 
-// What every kul<kind>_config begins with: the record, empty and with its defaults. Null when there
-// is none or it is of another kind.
+// What every kul<kind>_config begins with: the record, empty and with its defaults but for the
+// colours given. Null when there is none or it is of another kind.
+void* resetUIRecord(int nChain, int nRef, UI_TYPE type, int nFocus, int nUnfocus, int nDisable);
+
 template <typename Record>
-Record* resetUI(int nChain, int nRef, UI_TYPE type)
+Record* resetUI(int nChain, int nRef, UI_TYPE type, int nFocus, int nUnfocus, int nDisable)
 {
-    auto* record = findUI<Record>(nChain, nRef, type);
-    return record && ConfigUIComponent(nChain, nRef) >= 0 ? record : nullptr;
+    return static_cast<Record*>(resetUIRecord(nChain, nRef, type, nFocus, nUnfocus, nDisable));
 }
 
 // What the count calls of the kinds with elements do: their number, -1 for an unknown component.
@@ -203,9 +248,7 @@ int createUI(int nChain, int nRef, UI_TYPE type);
 template <typename Record>
 void takeColors(const GUI& gui, Record& record)
 {
-    record.nColorFocus = gui.nColorFocus;
-    record.nColorUnfocus = gui.nColorUnfocus;
-    record.nColorDisable = gui.nColorDisable;
+    colorsOf(record) = colorsOf(gui);
 }
 
 // A box as its config call gives it; it has a border or, with any other number, none.
@@ -219,15 +262,7 @@ void setBox(Record& record, int nX, int nY, int nWidth, int nHeight, int nBorder
     record.nBorder = nBorder == BORDER ? BORDER : NOBORDER;
 }
 
-// The colours and callbacks that the config calls of the kinds have in common.
-template <typename Record>
-void setColors(Record& record, int nColorFocus, int nColorUnfocus, int nColorDisable)
-{
-    SetVar(&record.nColorFocus, nColorFocus);
-    SetVar(&record.nColorUnfocus, nColorUnfocus);
-    SetVar(&record.nColorDisable, nColorDisable);
-}
-
+// The callbacks that the config calls of the kinds have in common.
 template <typename Record>
 void setCallbacks(Record& record, KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                   KULCALLBACK onClick)

@@ -48,9 +48,9 @@ KULDESCRMENUELEMENT* AddDescrmenuElement(KULDESCRMENUELEMENT* firstElement, int 
                                          const char* szText, const char* szBoxText, KULCALLBACK,
                                          KULCALLBACK onClick)
 {
-    auto* element = kul::newElement<KULDESCRMENUELEMENT>(nEnable, szText, onClick);
+    auto* element = kul::newElement<KULDESCRMENUELEMENT>(nEnable, szText, nullptr, onClick);
     if (element && !(element->szBoxText = kul::copyText(szBoxText))) {
-        kul::freeElement(element);
+        kul::freeElement(kul::shapeOf<KULDESCRMENUELEMENT>(), kul::asAny(element));
         return nullptr;
     }
     return kul::append(firstElement, element);
@@ -107,10 +107,10 @@ int kuldescrmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus
                         KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                         KULCALLBACK onClick)
 {
-    auto* menu = kul::resetUI<KULDESCRMENU>(nChain, nRef, DESCRMENU);
+    auto* menu = kul::resetUI<KULDESCRMENU>(nChain, nRef, DESCRMENU, nColorFocus, nColorUnfocus,
+                                            nColorDisable);
     if (!menu)
         return -1;
-    kul::setColors(*menu, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*menu, onFocus, onUnfocus, onSelect, onClick);
     SetVar(&menu->nBarLength, nBarLength);
     SetVar(&menu->nBoxWidth, nBoxWidth);

@@ -181,10 +181,10 @@ int kuldynmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       int nX, int nY, int nWidth, int nHeight, KULCALLBACK onFocus,
                       KULCALLBACK onUnfocus, KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* menu = kul::resetUI<KULDYNMENU>(nChain, nRef, DYNMENU);
+    auto* menu =
+        kul::resetUI<KULDYNMENU>(nChain, nRef, DYNMENU, nColorFocus, nColorUnfocus, nColorDisable);
     if (!menu)
         return -1;
-    kul::setColors(*menu, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*menu, onFocus, onUnfocus, onSelect, onClick);
     menu->nX = nX;
     menu->nY = nY;

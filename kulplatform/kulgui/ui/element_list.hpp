@@ -7,8 +7,13 @@
 //
 // Programs reach elements and records, so nothing here trusts a count: the links alone say what
 // there is. Any element may stand for its list.
+//
+// The kinds of elements differ in where their fields are, and in nothing that matters here: one
+// code serves all of them, by a shape that says where, and the templates only keep the types apart.
 #ifndef KUL_UI_ELEMENT_LIST_HPP
 #define KUL_UI_ELEMENT_LIST_HPP
+
+#include <cstddef>
 
 #include "../gui/chain.hpp"
 #include "../gui/draw.hpp"
@@ -22,115 +27,111 @@ constexpr int kLookupSteps = 30;
 // Counts what was taken out of any list: who remembers an element must then look for it anew.
 inline unsigned nElementRemovals = 0;
 
+// An element of any kind, from its start.
+struct AnyElement;
+
+// The fields that lie next to each other in all kinds.
+struct [[gnu::may_alias]] ElementLinks {
+    AnyElement* Prev;
+    AnyElement* Next;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick; // onUnselect of a check box
+};
+
+// Where the fields are. It goes from hand to hand as one number.
+struct ElementShape {
+    unsigned char size;
+    unsigned char enable;
+    unsigned char text;
+    unsigned char boxText; // 0 for none
+    unsigned char links;
+
+    template <typename Field>
+    static Field& at(AnyElement* element, int nOffset)
+    {
+        return *reinterpret_cast<Field*>(reinterpret_cast<char*>(element) + nOffset);
+    }
+
+    ElementLinks& linksOf(AnyElement* element) const { return at<ElementLinks>(element, links); }
+};
+
 template <typename Element>
-Element* headOf(Element* element)
+constexpr ElementShape shapeOf()
 {
-    while (element->Prev && element->Prev->Next == element)
-        element = element->Prev;
-    return element;
+    constexpr std::size_t kLinks = offsetof(Element, Prev);
+    static_assert(offsetof(Element, Next) == kLinks + offsetof(ElementLinks, Next) &&
+                  offsetof(Element, onSelect) == kLinks + offsetof(ElementLinks, onSelect) &&
+                  sizeof(Element) == kLinks + sizeof(ElementLinks));
+    ElementShape shape{sizeof(Element), offsetof(Element, nEnable), offsetof(Element, szText), 0,
+                       kLinks};
+    if constexpr (requires(Element & element) { element.szBoxText; })
+        shape.boxText = offsetof(Element, szBoxText);
+    return shape;
 }
+
+template <typename Element>
+AnyElement* asAny(Element* element)
+{
+    return reinterpret_cast<AnyElement*>(element);
+}
+
+// An element with a private copy of its text, in no list yet. Null without memory.
+AnyElement* newElement(ElementShape shape, int nEnable, const char* szText, KULCALLBACK onSelect,
+                       KULCALLBACK onClick);
+
+template <typename Element>
+Element* newElement(int nEnable, const char* szText, KULCALLBACK onSelect, KULCALLBACK onClick)
+{
+    return reinterpret_cast<Element*>(
+        newElement(shapeOf<Element>(), nEnable, szText, onSelect, onClick));
+}
+
+void freeElement(ElementShape shape, AnyElement* element);
+
+AnyElement* lastOf(ElementShape shape, AnyElement* head);
 
 template <typename Element>
 Element* lastOf(Element* head)
 {
-    Element* last = head->Prev ? head->Prev : head;
-    while (last->Next)
-        last = last->Next;
-    return last;
-}
-
-// An element with a private copy of its text, in no list yet. Null without memory.
-template <typename Element>
-Element* newElement(int nEnable, const char* szText, KULCALLBACK onClick)
-{
-    ++nCalls;
-    auto* element = allocate<Element>();
-    if (!element)
-        return nullptr;
-    element->szText = copyText(szText);
-    if (!element->szText) {
-        std::free(element);
-        return nullptr;
-    }
-    element->nEnable = nEnable;
-    if constexpr (requires { element->onClick; })
-        element->onClick = onClick;
-    return element;
-}
-
-template <typename Element>
-void freeElement(Element* element)
-{
-    ++nCalls;
-    std::free(element->szText);
-    if constexpr (requires { element->szBoxText; })
-        std::free(element->szBoxText);
-    std::free(element);
+    return reinterpret_cast<Element*>(lastOf(shapeOf<Element>(), asAny(head)));
 }
 
 // Appends to the list of an element, null for an empty one. Returns what was appended.
+AnyElement* append(ElementShape shape, AnyElement* anyElement, AnyElement* added);
+
 template <typename Element>
 Element* append(Element* anyElement, Element* added)
 {
-    if (!anyElement || !added)
-        return added;
-    Element* head = headOf(anyElement);
-    Element* last = lastOf(head);
-    last->Next = added;
-    added->Prev = last;
-    head->Prev = added;
+    append(shapeOf<Element>(), asAny(anyElement), asAny(added));
     return added;
 }
 
-// Takes an element and all after it out of the list of head.
-template <typename Element>
-void cutFrom(Element* head, Element* first)
-{
-    ++nElementRemovals;
-    if (first == head)
-        return;
-    Element* before = first->Prev;
-    before->Next = nullptr;
-    head->Prev = before == head ? nullptr : before;
-}
-
 // Frees the last element. 1 when it was the only one, else 0; -1 for null.
+int removeLast(ElementShape shape, AnyElement* anyElement);
+
 template <typename Element>
 int removeLast(Element* anyElement)
 {
-    if (!anyElement)
-        return -1;
-    Element* head = headOf(anyElement);
-    Element* last = lastOf(head);
-    cutFrom(head, last);
-    freeElement(last);
-    return last == head ? 1 : 0;
+    return removeLast(shapeOf<Element>(), asAny(anyElement));
 }
 
 // Frees an element and all after it. 0, -1 for null.
+int wipe(ElementShape shape, AnyElement* first);
+
 template <typename Element>
 int wipe(Element* first)
 {
-    if (!first)
-        return -1;
-    cutFrom(headOf(first), first);
-    while (first) {
-        Element* next = first->Next;
-        freeElement(first);
-        first = next;
-    }
-    return 0;
+    return wipe(shapeOf<Element>(), asAny(first));
 }
 
 // The public lookup: a position that is negative or above the cap counts as the cap. Null when the
 // list ends before.
+AnyElement* cappedLookup(ElementShape shape, AnyElement* head, int nPosition);
+
 template <typename Element>
 Element* cappedLookup(Element* head, int nPosition)
 {
-    const int nSteps = nPosition < 0 ? kLookupSteps : std::min(nPosition, kLookupSteps);
-    for (int i = 0; head && i < nSteps; ++i)
-        head = head->Next;
-    return head;
+    return reinterpret_cast<Element*>(cappedLookup(shapeOf<Element>(), asAny(head), nPosition));
 }
 
 // What the records of the kinds do with their list, count and selection when one was added or is to
@@ -178,48 +179,32 @@ void dropAll(Element*& head)
 
 // Finds elements near the one that was found before, so that a step along a list of any length is a
 // step. Cleared memory is a new one. It notices by itself what happened to the list.
+class AnyPlace {
+protected:
+    AnyElement* find(ElementShape shape, AnyElement* head, int nPosition);
+    int count(ElementShape shape, AnyElement* head);
+
+private:
+    AnyElement* head_;
+    AnyElement* found_;
+    AnyElement* last_;
+    int nFound_;
+    int nLast_;
+    unsigned nRemovals_;
+};
+
 template <typename Element>
-class Place {
+class Place : AnyPlace {
 public:
     // The element at a position; null when there is none.
     Element* find(Element* head, int nPosition)
     {
-        if (nPosition < 0 || nPosition >= count(head))
-            return nullptr;
-        if (nPosition < std::abs(nPosition - nFound_)) {
-            found_ = head_;
-            nFound_ = 0;
-        } else if (nLast_ - nPosition < std::abs(nPosition - nFound_)) {
-            found_ = last_;
-            nFound_ = nLast_;
-        }
-        for (; nFound_ < nPosition; ++nFound_)
-            found_ = found_->Next;
-        for (; nFound_ > nPosition; --nFound_)
-            found_ = found_->Prev;
-        return found_;
+        return reinterpret_cast<Element*>(
+            AnyPlace::find(shapeOf<Element>(), asAny(head), nPosition));
     }
 
     // Number of elements; walks those only that were added since the last time.
-    int count(Element* head)
-    {
-        if (head != head_ || nRemovals_ != nElementRemovals) {
-            head_ = found_ = last_ = head;
-            nFound_ = nLast_ = 0;
-            nRemovals_ = nElementRemovals;
-        }
-        for (; last_ && last_->Next; last_ = last_->Next)
-            ++nLast_;
-        return last_ ? nLast_ + 1 : 0;
-    }
-
-private:
-    Element* head_;
-    Element* found_;
-    Element* last_;
-    int nFound_;
-    int nLast_;
-    unsigned nRemovals_;
+    int count(Element* head) { return AnyPlace::count(shapeOf<Element>(), asAny(head)); }
 };
 
 } // namespace kul

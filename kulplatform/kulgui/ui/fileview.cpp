@@ -227,8 +227,8 @@ int kulfileview_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
         return -1;
     // Opened before the reset, which frees the name that the program may have got from the record.
     const Loaded loaded = openFile(szFileName);
-    auto* view = kul::resetUI<FileView>(nChain, nRef, FILEVIEW);
-    kul::setColors(*view, nColorFocus, nColorUnfocus, nColorDisable);
+    auto* view =
+        kul::resetUI<FileView>(nChain, nRef, FILEVIEW, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*view, onFocus, onUnfocus, onSelect, onClick);
     view->nX = nX;
     view->nY = nY;

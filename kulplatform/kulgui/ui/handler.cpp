@@ -180,8 +180,18 @@ int HandlerBase::nextKey()
     return nLeft;
 }
 
-int HandlerBase::settle()
+KULCALLBACK HandlerBase::callbackAt(std::ptrdiff_t nField)
 {
+    const char* record = static_cast<char*>(findRecord());
+    return record ? *reinterpret_cast<const KULCALLBACK*>(record + nField) : nullptr;
+}
+
+int HandlerBase::finishAt(std::ptrdiff_t nField)
+{
+    if (nResult_ != KUL_GONE) {
+        ExecOnFunction(callbackAt(nField));
+        findRecord(); // ends with an error if that has destroyed it
+    }
     if (takeLeaving(selection.nChain))
         return KUL_LEFT;
     return takeRefocus(selection.nChain) ? 0 : nResult_;

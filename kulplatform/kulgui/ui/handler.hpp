@@ -11,6 +11,9 @@
 #ifndef KUL_UI_HANDLER_HPP
 #define KUL_UI_HANDLER_HPP
 
+#include <bit>
+#include <cstddef>
+
 #include "../gui/chain.hpp"
 #include "../gui/screen.hpp"
 #include "component.hpp"
@@ -88,8 +91,13 @@ protected:
     ~HandlerBase() = default;
 
     void* findRecord();
-    int settle();
-    int result() const { return nResult_; }
+
+    // The callback in a field, which is where it is in the record: one code for all kinds. Null
+    // when the handler is over with an error.
+    KULCALLBACK callbackAt(std::ptrdiff_t nField);
+    void callAt(std::ptrdiff_t nField) { run(callbackAt(nField)); }
+    int finishAt(std::ptrdiff_t nField);
+
     bool isOver();
 
 private:
@@ -121,8 +129,7 @@ public:
     template <typename Public>
     void call(KULCALLBACK Public::*callback)
     {
-        if (const Record* now = record())
-            run(now->*callback);
+        callAt(std::bit_cast<std::ptrdiff_t>(callback));
     }
 
     // What the handler returns: runs onUnfocus, and lets requests of callbacks come before its own
@@ -130,12 +137,7 @@ public:
     template <typename Public>
     int finish(KULCALLBACK Public::*onUnfocus)
     {
-        const Record* now = result() == KUL_GONE ? nullptr : record();
-        if (now) {
-            ExecOnFunction(now->*onUnfocus);
-            record(); // ends with an error if that has destroyed it
-        }
-        return settle();
+        return finishAt(std::bit_cast<std::ptrdiff_t>(onUnfocus));
     }
 };
 

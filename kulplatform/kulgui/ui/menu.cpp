@@ -21,7 +21,8 @@ void dropMenu(KULMENU& menu)
 KULMENUELEMENT* AddMenuElement(KULMENUELEMENT* firstElement, int nEnable, const char* szText,
                                KULCALLBACK, KULCALLBACK onClick)
 {
-    return kul::append(firstElement, kul::newElement<KULMENUELEMENT>(nEnable, szText, onClick));
+    return kul::append(firstElement,
+                       kul::newElement<KULMENUELEMENT>(nEnable, szText, nullptr, onClick));
 }
 
 int RemoveMenuElement(KULMENUELEMENT* firstElement)
@@ -71,10 +72,10 @@ int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, int
                    KULCALLBACK onFocus, KULCALLBACK onUnfocus, KULCALLBACK onSelect,
                    KULCALLBACK onClick)
 {
-    auto* menu = kul::resetUI<KULMENU>(nChain, nRef, MENU);
+    auto* menu =
+        kul::resetUI<KULMENU>(nChain, nRef, MENU, nColorFocus, nColorUnfocus, nColorDisable);
     if (!menu)
         return -1;
-    kul::setColors(*menu, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*menu, onFocus, onUnfocus, onSelect, onClick);
     return 0;
 }

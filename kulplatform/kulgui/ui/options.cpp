@@ -5,25 +5,28 @@
 
 namespace {
 
-using Handler = kul::Handler<kul::OptionList>;
-
-void click(Handler& handler)
+void click(kul::ListHandler& handler)
 {
-    if (kul::OptionList* list = handler.record()) {
-        const auto* element = kul::cursorElement(*list);
+    if (const auto list = handler.list()) {
+        const auto* element = reinterpret_cast<KULOPTIONELEMENT*>(kul::cursorElement(*list));
         if (element && !kul::isUsable(*element))
             return;
-        list->nSelect = list->nPosition;
+        list->box.nSelect = list->nCursor;
     }
-    kul::noteSelection(handler);
-    handler.call(&KULOPTIONS::onClick);
-    kul::callElement(handler, &KULOPTIONELEMENT::onClick);
+    handler.noteSelection();
+    handler.call(&kul::ListCalls::onClick);
+    handler.callElement(&kul::ElementLinks::onClick);
 }
 
-void moved(Handler& handler)
+void moved(kul::ListHandler& handler)
 {
-    handler.call(&KULOPTIONS::onSelect);
-    kul::callElement(handler, &KULOPTIONELEMENT::onSelect);
+    handler.call(&kul::ListCalls::onSelect);
+    handler.callElement(&kul::ElementLinks::onSelect);
+}
+
+const char* marker(const kul::List& list, kul::AnyElement*, int nIndex)
+{
+    return nIndex == list.box.nSelect ? "(o)" : "( )";
 }
 
 } // namespace
@@ -31,10 +34,8 @@ void moved(Handler& handler)
 KULOPTIONELEMENT* AddOptionElement(KULOPTIONELEMENT* firstElement, int nEnable, const char* szText,
                                    KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* element = kul::newElement<KULOPTIONELEMENT>(nEnable, szText, onClick);
-    if (element)
-        element->onSelect = onSelect;
-    return kul::appendToRing(firstElement, element);
+    return kul::appendToRing(firstElement,
+                             kul::newElement<KULOPTIONELEMENT>(nEnable, szText, onSelect, onClick));
 }
 
 int RemoveOptionElement(KULOPTIONELEMENT* firstElement)
@@ -54,40 +55,43 @@ int AttachOptionsComponentToUI(UI* thisUI)
 
 int ConfigOptionsComponent(GUI* thisGUI, KULOPTIONS* thisList)
 {
-    return kul::setListDefaults(thisGUI, thisList);
+    if (!thisGUI || !thisList)
+        return -1;
+    kul::setListDefaults(*thisGUI, kul::listOf(*thisList));
+    return 0;
 }
 
 int WipeOptionsComponent(KULOPTIONS* thisList)
 {
-    return kul::wipeList(thisList);
+    return thisList ? kul::wipeList(thisList, kul::listOf(*thisList)) : 0;
 }
 
 void SetFirstOptionElement(KULOPTIONS* theseOptions)
 {
     if (theseOptions)
-        kul::setFirst(*theseOptions);
+        kul::setFirst(kul::listOf(*theseOptions));
 }
 
 void SetFirstOptionElementFromEnd(KULOPTIONS* theseOptions)
 {
     if (theseOptions)
-        kul::setFirstFromEnd(*theseOptions);
+        kul::setFirstFromEnd(kul::listOf(*theseOptions));
 }
 
 void SetLastOptionElement(KULOPTIONS* theseOptions)
 {
     if (theseOptions)
-        kul::setLast(*theseOptions);
+        kul::setLast(kul::listOf(*theseOptions));
 }
 
 int CheckLastOptionElementForSpillover(const KULOPTIONS* theseOptions)
 {
-    return theseOptions && kul::spills(*theseOptions) ? T : F;
+    return theseOptions && kul::spills(kul::listOf(*theseOptions)) ? T : F;
 }
 
 int GetTotalOptionElementHeights(const KULOPTIONS* theseOptions)
 {
-    return theseOptions ? kul::shifted(0, kul::rowsOfAll(*theseOptions)) : 0;
+    return theseOptions ? kul::shifted(0, kul::rowsOfAll(kul::listOf(*theseOptions))) : 0;
 }
 
 int kuloptions_create(int nChain, int nRef)
@@ -100,10 +104,10 @@ int kuloptions_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       int nPosition, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                       KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* list = kul::resetUI<kul::OptionList>(nChain, nRef, OPTIONS);
+    auto* list = kul::resetUI<kul::OptionList>(nChain, nRef, OPTIONS, nColorFocus, nColorUnfocus,
+                                               nColorDisable);
     if (!list)
         return -1;
-    kul::setColors(*list, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*list, onFocus, onUnfocus, onSelect, onClick);
     kul::setBox(*list, nX, nY, nWidth, nHeight, nBorder);
     SetVar(&list->nSelect, nSelect);
@@ -119,7 +123,7 @@ int kuloptions_addElement(int nChain, int nRef, const char* szText, int nEnable,
         list ? AddOptionElement(list->Element, nEnable, szText, onSelect, onClick) : nullptr;
     if (!element)
         return -1;
-    kul::takeElement(*list, *element);
+    kul::takeElement(kul::listOf(*list), kul::asAny(element));
     return 0;
 }
 
@@ -149,13 +153,13 @@ int kuloptions_getClicked(int nChain, int nRef)
 int kuloptions_getChosen(int nChain, int nRef)
 {
     auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
-    return list && kul::elementsOf(*list)(list->nSelect) ? list->nSelect : -1;
+    return list && kul::elementAt(kul::listOf(*list), list->nSelect) ? list->nSelect : -1;
 }
 
 int kuloptions_choose(int nChain, int nRef, int nElement)
 {
     auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
-    if (!list || !kul::elementsOf(*list)(nElement))
+    if (!list || !kul::elementAt(kul::listOf(*list), nElement))
         return -1;
     list->nSelect = nElement;
     return 0;
@@ -183,16 +187,16 @@ int kuloptions_hide(int nChain, int nRef)
 
 void ShowOptionsComponent(GUI* thisGUI, KULOPTIONS* theseOptions, int nFocus)
 {
-    kul::showList(thisGUI, theseOptions, nFocus, [&](const KULOPTIONELEMENT&, int nIndex) {
-        return nIndex == theseOptions->nSelect ? "(o)" : "( )";
-    });
+    if (thisGUI && theseOptions)
+        kul::showList(*thisGUI, kul::listOf(*theseOptions, kul::ringOf(*theseOptions)), nFocus,
+                      marker);
 }
 
 int kuloptions_execKeys(int nChain, int nRef)
 {
-    const auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
+    auto* list = kul::findUI<kul::OptionList>(nChain, nRef, OPTIONS);
     if (!list || list->nVisible != T)
         return -1;
-    return kul::runList<KULOPTIONS>(nChain, nRef,
-                                    {OPTIONS, kul::Changed::Component, true, click, moved});
+    return kul::runList(nChain, nRef, kul::listOf(*list),
+                        {OPTIONS, kul::Changed::Component, true, click, moved});
 }

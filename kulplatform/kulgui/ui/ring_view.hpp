@@ -16,370 +16,171 @@
 #ifndef KUL_UI_RING_VIEW_HPP
 #define KUL_UI_RING_VIEW_HPP
 
-#include <type_traits>
-
+#include "component.hpp"
 #include "element_list.hpp"
 
 namespace kul {
 
-template <typename Record>
-using ElementOf = std::remove_pointer_t<decltype(Record::Element)>;
+// What the two kinds' records have in common, in the same order, but not all of it at the same
+// places: an option list has one field more. One code serves both through these.
 
-// A list as it is allocated: the public record, KULCHECKBOX or KULOPTIONS, and where its ring was
-// last looked at.
-template <typename Record>
-struct RingList : Record {
-    using Public = Record;
-    ElementOf<Record>* head;  // the list that the rest of this is about
-    ElementOf<Record>* found; // the element that was looked for last, and its index
+struct [[gnu::may_alias]] ListBox { // what a record begins with
+    UIColors colors;
+    int nX, nY, nWidth, nHeight;
+    AnyElement* Element;
+    AnyElement* FirstShowed;
+    AnyElement* LastShowed;
+    int nVisible;
+    int nSelect;
+    int nFirstShowed;
+    int nLastShowed;
+};
+
+struct [[gnu::may_alias]] ListSize { // from its number of elements on
+    int nElements;
+    int bScrollbar;
+    int nBorder;
+};
+
+struct [[gnu::may_alias]] ListCalls { // from its first callback on
+    KULCALLBACK onFocus, onUnfocus, onSelect, onClick;
+};
+
+// An element from its text on.
+struct [[gnu::may_alias]] ListText {
+    char* szText;
+    int nHeight;
+    AnyElement* Prev;
+    AnyElement* Next;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+};
+
+// Where a ring was last looked at.
+struct RingState {
+    AnyElement* head;  // the list that the rest of this is about
+    AnyElement* found; // the element that was looked for last, and its index
     int nFound;
     unsigned nRemovals; // nElementRemovals at that time
     long long nRows;    // that all elements take together
 };
 
+// A list as it is allocated.
+template <typename Record>
+struct RingList : Record {
+    using Public = Record;
+    RingState ring;
+};
+
 using CheckList = RingList<KULCHECKBOX>;
 using OptionList = RingList<KULOPTIONS>;
 
-inline int& cursorOf(KULCHECKBOX& list)
+// A list of either kind. Where the program made the record, there is no state.
+struct List {
+    ListBox& box;
+    ListSize& size;
+    ListCalls& calls;
+    int& nCursor;
+    ElementShape shape;
+    RingState* ring;
+
+    ListText& operator[](AnyElement* element) const
+    {
+        return ElementShape::at<ListText>(element, shape.text);
+    }
+};
+
+List listOf(KULCHECKBOX& list, RingState* ring = nullptr);
+List listOf(KULOPTIONS& list, RingState* ring = nullptr);
+
+template <typename Record>
+List listOf(RingList<Record>& list)
 {
-    return list.nSelect;
+    return listOf(static_cast<Record&>(list), &list.ring);
 }
 
-inline int& cursorOf(KULOPTIONS& list)
+// One that is only read.
+template <typename Record>
+List listOf(const Record& list)
 {
-    return list.nPosition;
+    return listOf(const_cast<Record&>(list), nullptr);
 }
 
 // The box without its border: rows for elements, and columns for texts behind the markers.
-template <typename Record>
-int viewRows(const Record& list)
-{
-    return shifted(list.nHeight, list.nBorder == BORDER ? -2 : 0);
-}
-
-template <typename Record>
-int textWidth(const Record& list)
-{
-    return shifted(list.nWidth, list.nBorder == BORDER ? -6 : -4);
-}
-
-template <typename Record>
-bool hasRoom(const Record& list)
-{
-    return viewRows(list) > 0 && textWidth(list) > 0;
-}
+int viewRows(const List& list);
+int textWidth(const List& list);
+bool hasRoom(const List& list);
 
 // Index of the last element; the count may be any number that a program wrote.
-template <typename Record>
-int lastIndex(const Record& list)
-{
-    return shifted(list.nElements, -1);
-}
+int lastIndex(const List& list);
 
 // The ring.
+
+// Appends an element, null for none. Returns it.
+AnyElement* appendToRing(ElementShape shape, AnyElement* head, AnyElement* added);
 
 template <typename Element>
 Element* appendToRing(Element* head, Element* added)
 {
-    if (!head || !added)
-        return added;
-    Element* last = head->Prev ? head->Prev : head;
-    last->Next = head->Prev = added;
-    added->Prev = last;
-    added->Next = head;
+    appendToRing(shapeOf<Element>(), asAny(head), asAny(added));
     return added;
 }
 
 // Frees the last element. 1 when it was the only one, else 0; -1 for null.
+int removeLastOfRing(ElementShape shape, AnyElement* head);
+
 template <typename Element>
 int removeLastOfRing(Element* head)
 {
-    if (!head)
-        return -1;
-    ++nElementRemovals;
-    Element* last = head->Prev ? head->Prev : head;
-    Element* before = last->Prev;
-    if (last != head) {
-        before->Next = before == head ? nullptr : head;
-        head->Prev = before == head ? nullptr : before;
-    }
-    freeElement(last);
-    return last == head ? 1 : 0;
+    return removeLastOfRing(shapeOf<Element>(), asAny(head));
 }
 
 // Frees all elements. 0, -1 for null.
+int wipeRing(ElementShape shape, AnyElement* head);
+
 template <typename Element>
 int wipeRing(Element* head)
 {
-    if (!head)
-        return -1;
-    ++nElementRemovals;
-    if (head->Prev)
-        head->Prev->Next = nullptr;
-    while (head) {
-        Element* next = head->Next;
-        freeElement(head);
-        head = next;
-    }
-    return 0;
+    return wipeRing(shapeOf<Element>(), asAny(head));
 }
 
-// Rows of the first nElements elements.
-template <typename Record>
-long long rowsOfAll(const Record& list)
-{
-    long long rows = 0;
-    const auto* element = list.Element;
-    for (int i = 0; element && i < list.nElements; ++i, element = element->Next)
-        rows += element->nHeight;
-    return rows;
-}
-
-// Forgets what was found in a ring that is another one now, or that may have lost elements. Whether
-// it did; FirstShowed and LastShowed may then be gone.
-template <typename Record>
-bool noticeLoss(RingList<Record>& list)
-{
-    if (list.head == list.Element && list.nRemovals == nElementRemovals)
-        return false;
-    list.head = list.found = list.Element;
-    list.nFound = 0;
-    list.nRemovals = nElementRemovals;
-    list.nRows = rowsOfAll(list);
-    return true;
-}
-
-// The element at an index, null when there is none, reached from the nearest one of the head, the
-// last one and the one found before. Losses were noticed before.
-template <typename Record>
-ElementOf<Record>* elementAt(RingList<Record>& list, int nIndex)
-{
-    auto* head = list.Element;
-    if (!head || nIndex < 0 || nIndex >= list.nElements)
-        return nullptr;
-    auto* found = list.found;
-    int nFound = list.nFound;
-    if (nIndex < std::abs(nIndex - nFound)) {
-        found = head;
-        nFound = 0;
-    }
-    const int nLast = lastIndex(list);
-    if (head->Prev && nLast - nIndex < std::abs(nIndex - nFound)) {
-        found = head->Prev;
-        nFound = nLast;
-    }
-    for (; found && nFound < nIndex; ++nFound)
-        found = found->Next;
-    for (; found && nFound > nIndex; --nFound)
-        found = found->Prev;
-    if (found) {
-        list.found = found;
-        list.nFound = nFound;
-    }
-    return found;
-}
+// Rows of all elements.
+long long rowsOfAll(const List& list);
 
 // The view. These need the public record only.
 
 // Begins the view with the element at index nFirstShowed, however often that is round the ring.
-template <typename Record>
-void setFirst(Record& list)
-{
-    int nSteps = std::max(list.nFirstShowed, 0);
-    if (list.nElements > 0)
-        nSteps %= list.nElements;
-    list.FirstShowed = list.Element;
-    for (; list.FirstShowed && list.FirstShowed->Next && nSteps > 0; --nSteps)
-        list.FirstShowed = list.FirstShowed->Next;
-}
+void setFirst(const List& list);
 
-template <typename Record>
-void emptyView(Record& list)
-{
-    list.LastShowed = nullptr;
-    list.nLastShowed = shifted(list.nFirstShowed, -1);
-}
+// Begins it so that it ends with the last element.
+void setFirstFromEnd(const List& list);
 
 // Ends the view with the element that fills the box, or the last one.
-template <typename Record>
-void setLast(Record& list)
-{
-    const int nRows = viewRows(list);
-    auto* element = list.LastShowed = list.FirstShowed;
-    if (!element)
-        return;
-    if (nRows < 1) {
-        emptyView(list);
-        return;
-    }
-    int nIndex = list.nFirstShowed;
-    for (long long used = element->nHeight;
-         used < nRows && nIndex < lastIndex(list) && element->Next; ++nIndex) {
-        element = element->Next;
-        used += element->nHeight;
-    }
-    list.LastShowed = element;
-    list.nLastShowed = nIndex;
-}
+void setLast(const List& list);
 
 // Whether the last element in view is cut.
-template <typename Record>
-bool spills(const Record& list)
-{
-    const int nRows = viewRows(list);
-    const long long nShowed = std::min(1LL + list.nLastShowed - list.nFirstShowed,
-                                       static_cast<long long>(list.nElements));
-    long long used = 0;
-    const auto* element = list.FirstShowed;
-    for (int i = 0; element && i < nShowed && used <= nRows; ++i) {
-        used += element->nHeight;
-        element = element->Next;
-    }
-    return used > nRows;
-}
+bool spills(const List& list);
 
-// Begins the view so that it ends with the given element, or before it where the first one is cut.
-template <typename Record>
-void setFirstBefore(Record& list, ElementOf<Record>* element, int nIndex)
-{
-    const int nRows = viewRows(list);
-    long long used = 0;
-    for (; nIndex > 0 && element->Prev && used + element->nHeight < nRows; --nIndex) {
-        used += element->nHeight;
-        element = element->Prev;
-    }
-    list.FirstShowed = element;
-    list.nFirstShowed = nIndex;
-}
-
-template <typename Record>
-void setFirstFromEnd(Record& list)
-{
-    if (list.nElements < 2)
-        list.nFirstShowed = lastIndex(list);
-    else if (list.Element)
-        setFirstBefore(list, list.Element->Prev ? list.Element->Prev : list.Element,
-                       lastIndex(list));
-}
-
-// The view while elements come and the cursor moves.
-
-template <typename Record>
-void setView(RingList<Record>& list)
-{
-    list.FirstShowed = elementAt(list, std::max(list.nFirstShowed, 0));
-    if (hasRoom(list))
-        setLast(list);
-    else
-        emptyView(list);
-}
+// The view while elements come and the cursor moves. These need the state as well.
 
 // Takes the view anew where its elements may be gone.
-template <typename Record>
-void keepView(RingList<Record>& list)
-{
-    if (!noticeLoss(list))
-        return;
-    list.nFirstShowed = std::min(list.nFirstShowed, lastIndex(list));
-    setView(list);
-}
+void keepView(const List& list);
 
-// The cursor's element, whatever became of the list since the last look; null for none.
-template <typename Record>
-ElementOf<Record>* cursorElement(RingList<Record>& list)
-{
-    keepView(list);
-    return elementAt(list, cursorOf(list));
-}
+// The element at an index, and the cursor's; null when there is none. It is reached from the
+// nearest one of the head, the last one and the one found before, whatever became of the list since
+// then.
+AnyElement* elementAt(const List& list, int nIndex);
+AnyElement* cursorElement(const List& list);
 
 // Moves a view that does not show the cursor's element: one that the program chose, or one behind
 // an element that fills the box alone.
-template <typename Record>
-void bringIntoView(RingList<Record>& list)
-{
-    const int nCursor = cursorOf(list);
-    auto* element = elementAt(list, nCursor);
-    if (!element || !hasRoom(list) || (nCursor >= list.nFirstShowed && nCursor <= list.nLastShowed))
-        return;
-    if (nCursor < list.nFirstShowed) {
-        list.FirstShowed = element;
-        list.nFirstShowed = nCursor;
-    } else {
-        setFirstBefore(list, element, nCursor);
-    }
-    for (setLast(list); list.nLastShowed < nCursor; setLast(list)) {
-        list.FirstShowed = list.FirstShowed->Next;
-        ++list.nFirstShowed;
-    }
-}
+void bringIntoView(const List& list);
 
-// A cursor that the program set outside of the list comes back into it. One below 0 counts as 0 on
-// the way up; an empty list keeps counting.
-template <typename Record>
-void moveUp(RingList<Record>& list)
-{
-    int& nCursor = cursorOf(list);
-    if (nCursor > 0) {
-        nCursor = (list.nElements > 0 ? std::min(nCursor, list.nElements) : nCursor) - 1;
-        list.nFirstShowed = std::min(list.nFirstShowed, nCursor);
-    } else {
-        nCursor = lastIndex(list);
-        setFirstFromEnd(list);
-    }
-}
-
-template <typename Record>
-void moveDown(RingList<Record>& list)
-{
-    int& nCursor = cursorOf(list);
-    const int nLast = lastIndex(list);
-    if (nCursor == nLast || (nCursor > nLast && list.nElements > 0))
-        nCursor = list.nFirstShowed = 0;
-    else
-        nCursor = shifted(std::max(nCursor, -1), 1);
-    if (nCursor > list.nLastShowed)
-        list.nFirstShowed = shifted(list.nFirstShowed, 1);
-    else if (nCursor == list.nLastShowed && spills(list))
-        list.nFirstShowed = nCursor;
-}
-
-template <typename Record>
-void moveCursor(RingList<Record>& list, int nKey)
-{
-    keepView(list);
-    if (nKey == KS_UP)
-        moveUp(list);
-    else
-        moveDown(list);
-    if (!hasRoom(list) && list.nElements > 0)
-        list.nFirstShowed = cursorOf(list);
-    setView(list);
-    bringIntoView(list);
-}
+// Moves the cursor as edition 1 has it, by KS_UP or KS_DOWN.
+void moveCursor(const List& list, int nKey);
 
 // Takes an element that was appended to the ring into the list and its view.
-template <typename Record>
-void takeElement(RingList<Record>& list, ElementOf<Record>& added)
-{
-    if (!list.Element || list.nFirstShowed == -1)
-        list.nFirstShowed = 0;
-    if (!list.Element)
-        list.Element = &added;
-    noticeLoss(list);
-    list.nElements = shifted(list.nElements, 1);
-    added.nHeight = GetWrapTextHeight(textWidth(list), added.szText);
-    list.nRows += added.nHeight;
-    const int nRows = viewRows(list);
-    if (list.nFirstShowed == 0 && hasRoom(list) && list.nRows <= nRows) { // all are in view
-        list.FirstShowed = list.Element;
-        list.LastShowed = &added;
-        list.nLastShowed = lastIndex(list);
-    } else {
-        setView(list);
-    }
-    if (nRows < list.nElements || nRows < list.nRows)
-        list.bScrollbar = T;
-}
+void takeElement(const List& list, AnyElement* added);
 
 } // namespace kul
 

@@ -148,14 +148,14 @@ int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       const char* szCharSet, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                       KULCALLBACK onKey)
 {
-    auto* box = kul::resetUI<kul::TextBox>(nChain, nRef, TEXTBOX);
+    auto* box = kul::resetUI<kul::TextBox>(nChain, nRef, TEXTBOX, nColorFocus, nColorUnfocus,
+                                           nColorDisable);
     if (!box)
         return -1;
     box->nBorder = nBorder == BORDER ? BORDER : NOBORDER;
     if (!makeText(*box, nWidth, nHeight))
         return -1;
     kul::setBox(*box, nX, nY, nWidth, nHeight, nBorder);
-    kul::setColors(*box, nColorFocus, nColorUnfocus, nColorDisable);
     box->nMask = nMask == MASK ? MASK : NOMASK;
     box->szCharSet = szCharSet;
     box->onFocus = onFocus;

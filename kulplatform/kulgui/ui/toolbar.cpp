@@ -174,10 +174,10 @@ void dropToolbar(KULTOOLBAR& toolbar)
 KULTOOLBARBUTTON* AddToolbarButton(KULTOOLBAR* thisTB, KULTOOLBARBUTTON* firstButton, int nEnable,
                                    const char* szText, KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* button = thisTB ? kul::newElement<KULTOOLBARBUTTON>(nEnable, szText, onClick) : nullptr;
+    auto* button =
+        thisTB ? kul::newElement<KULTOOLBARBUTTON>(nEnable, szText, onSelect, onClick) : nullptr;
     if (!button)
         return nullptr;
-    button->onSelect = onSelect;
     thisTB->nMaxLength = std::max(thisTB->nMaxLength, kul::widthOf(button->szText));
     return kul::append(firstButton, button);
 }
@@ -231,10 +231,10 @@ int kultoolbar_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       int nX, int nY, int nOrient, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                       KULCALLBACK onSelect, KULCALLBACK onClick)
 {
-    auto* toolbar = kul::resetUI<KULTOOLBAR>(nChain, nRef, TOOLBAR);
+    auto* toolbar =
+        kul::resetUI<KULTOOLBAR>(nChain, nRef, TOOLBAR, nColorFocus, nColorUnfocus, nColorDisable);
     if (!toolbar)
         return -1;
-    kul::setColors(*toolbar, nColorFocus, nColorUnfocus, nColorDisable);
     kul::setCallbacks(*toolbar, onFocus, onUnfocus, onSelect, onClick);
     toolbar->nOrient = nOrient == VERTICAL ? VERTICAL : LATERAL;
     toolbar->nX = nX;

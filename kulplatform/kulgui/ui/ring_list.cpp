@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: MIT
+#include "ring_list.hpp"
+
+#include "../gui/edition.hpp"
+#include "../gui/print.hpp"
+#include "../gui/screen.hpp"
+#include "../gui/text.hpp"
+
+namespace kul {
+
+void dropRing(const List& list)
+{
+    wipeRing(list.shape, list.box.Element);
+    list.box.Element = list.box.FirstShowed = list.box.LastShowed = nullptr;
+    if (list.ring) {
+        list.ring->head = list.ring->found = nullptr;
+        list.ring->nRows = 0;
+    }
+}
+
+int wipeList(void* record, const List& list)
+{
+    const int nResult = wipeRing(list.shape, list.box.Element);
+    freeRecord(record);
+    return nResult;
+}
+
+void setListDefaults(const GUI& gui, const List& list)
+{
+    list.box.colors = colorsOf(gui);
+    list.calls = {};
+    list.box.Element = list.box.FirstShowed = list.box.LastShowed = nullptr;
+    list.box.nVisible = T;
+    list.box.nSelect = 0;
+    list.nCursor = 0;
+    list.size = {0, F, NOBORDER};
+    list.box.nFirstShowed = list.box.nLastShowed = -1;
+}
+
+// ---- Drawing --------------------------------------------------------------------------------
+
+namespace {
+
+void drawScrollbar(GUI& gui, const List& list)
+{
+    const int nColor = list.box.colors.nUnfocus;
+    const int nRight = shifted(list.box.nX, list.box.nWidth - 1LL);
+    const int nLast = lastIndex(list);
+    const int nCursor = list.nCursor;
+    const KULGAUGEBAR bar = {nColor, nColor,  nRight,   list.box.nY, list.box.nHeight,
+                             nLast,  nCursor, VERTICAL, T,           nullptr};
+    BarShow(&gui, &bar, 1);
+    if (nCursor != 0 && nCursor != nLast)
+        return;
+    const Attribute color(gui.winMain, nColor);
+    drawCell(gui.winMain, nCursor == 0 ? list.box.nY : shifted(list.box.nY, list.box.nHeight - 1LL),
+             nRight, ACS_DIAMOND | A_REVERSE);
+}
+
+// In edition 2 the cursor's element is one bar over the box, up to the scroll bar where that stands
+// inside of it, and the terminal's cursor is on its first letter.
+void drawCursorBar(WINDOW* win, const List& list, int nY, int nX, int nHeight)
+{
+    if (!isEdition2())
+        return;
+    const int nBar = list.size.nBorder != BORDER && list.size.bScrollbar == T ? 1 : 0;
+    for (int i = 0; i < nHeight; ++i)
+        hRun(win, shifted(nY, i), nX, textWidth(list) + 4LL - nBar, ' ');
+    showCursorAt(win, nY, shifted(nX, 4));
+}
+
+int colorOf(const List& list, AnyElement* element, bool focused, bool selected)
+{
+    if (focused && selected)
+        return list.box.colors.nFocus;
+    return focused && ElementShape::at<int>(element, list.shape.enable) != 1
+               ? list.box.colors.nDisable
+               : list.box.colors.nUnfocus;
+}
+
+// Draws the elements in view.
+void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
+{
+    const int nEdge = list.size.nBorder == BORDER ? 1 : 0;
+    const int nX = shifted(list.box.nX, nEdge);
+    const int nY = shifted(list.box.nY, nEdge);
+    const int nRows = hasRoom(list) ? viewRows(list) : 0;
+    const int nSeen = std::min(nRows, shifted(getmaxy(win), -static_cast<long long>(nY)));
+    AnyElement* element = list.box.FirstShowed;
+    int nUsed = 0;
+    for (long long i = list.box.nFirstShowed; element && i <= list.box.nLastShowed && nUsed < nSeen;
+         ++i) {
+        const bool selected = i == list.nCursor;
+        const int nColor = colorOf(list, element, focused, selected);
+        const char* szText = list[element].szText;
+        const int nTop = shifted(nY, nUsed);
+        const int nHeight =
+            i < list.box.nLastShowed ? GetWrapTextHeight(textWidth(list), szText) : nRows;
+        const int nCut = std::min(nHeight, nRows - nUsed);
+        nUsed += nCut;
+        AnyElement* shown = element;
+        element = list[element].Next;
+        if (!isDrawn(win, nTop, nCut))
+            continue;
+        {
+            const Attribute color(win, nColor);
+            if (focused && selected)
+                drawCursorBar(win, list, nTop, nX, nCut);
+            drawText(win, nTop, nX, marker(list, shown, static_cast<int>(i)));
+        }
+        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT, szText);
+    }
+}
+
+} // namespace
+
+// A record of the program's own is drawn as it is.
+void showList(GUI& gui, const List& list, int nFocus, Marker marker)
+{
+    if (list.box.nVisible != T || list.box.nWidth < 1 || list.box.nHeight < 1)
+        return;
+    if (list.ring)
+        keepView(list);
+    if (list.size.nBorder == BORDER)
+        DrawBorder(gui.winMain, list.box.nY, list.box.nX, list.box.nHeight, list.box.nWidth,
+                   list.box.colors.nUnfocus);
+    if (list.size.bScrollbar == T)
+        drawScrollbar(gui, list);
+    drawElements(gui.winMain, list, nFocus == 1, marker);
+}
+
+// A scroll bar tells of every move.
+Spot spotOf(const List& list)
+{
+    keepView(list);
+    const int nCursor = list.nCursor;
+    AnyElement* element = list.box.FirstShowed;
+    if (list.size.bScrollbar == T || !hasRoom(list) || !element ||
+        nCursor < list.box.nFirstShowed || nCursor > list.box.nLastShowed)
+        return {{}, -1};
+    int nY = shifted(list.box.nY, list.size.nBorder == BORDER ? 1 : 0);
+    const int nEnd = shifted(nY, viewRows(list));
+    for (int i = list.box.nFirstShowed; i < nCursor && element; ++i, element = list[element].Next)
+        nY = shifted(nY, GetWrapTextHeight(textWidth(list), list[element].szText));
+    if (nCursor == list.box.nLastShowed || !element)
+        return {{nY, nEnd}, list.box.nFirstShowed};
+    return {{nY, shifted(nY, GetWrapTextHeight(textWidth(list), list[element].szText))},
+            list.box.nFirstShowed};
+}
+
+// ---- Elements -------------------------------------------------------------------------------
+
+namespace {
+
+Steps stepsOf(const List& list)
+{
+    return {const_cast<List*>(&list), std::max(list.size.nElements, 0), [](void* any, int nIndex) {
+                const List& ring = *static_cast<const List*>(any);
+                AnyElement* element = elementAt(ring, nIndex);
+                if (!element)
+                    return Step{nullptr, false};
+                const bool enabled = ElementShape::at<int>(element, ring.shape.enable) == 1;
+                return Step{ring[element].szText, enabled};
+            }};
+}
+
+// Moves the cursor by a key. Whether the key is one that moves.
+bool stepList(const List& list, int nKey)
+{
+    if (!isEdition2()) {
+        if (nKey != KS_UP && nKey != KS_DOWN)
+            return false;
+        moveCursor(list, nKey);
+        return true;
+    }
+    keepView(list);
+    const StepKeys keys = {KS_UP, KS_DOWN,
+                           std::max(list.box.nLastShowed - list.box.nFirstShowed, 1)};
+    const int nBefore = list.nCursor;
+    const int nTo = stepped(nBefore, nKey, keys, stepsOf(list));
+    return nTo != nBefore && selectElement(list, nTo);
+}
+
+} // namespace
+
+bool selectElement(const List& list, int nElement)
+{
+    if (!elementAt(list, nElement))
+        return false;
+    list.nCursor = nElement;
+    bringIntoView(list);
+    return true;
+}
+
+// ---- Keys -----------------------------------------------------------------------------------
+
+std::optional<List> ListHandler::list()
+{
+    void* record = findRecord();
+    if (!record)
+        return {};
+    return selection.nType == CHECKBOX ? listOf(*static_cast<CheckList*>(record))
+                                       : listOf(*static_cast<OptionList*>(record));
+}
+
+void ListHandler::call(KULCALLBACK ListCalls::*callback)
+{
+    if (const auto now = list())
+        run(now->calls.*callback);
+}
+
+void ListHandler::callElement(KULCALLBACK ElementLinks::*callback)
+{
+    const auto now = list();
+    if (AnyElement* element = now ? cursorElement(*now) : nullptr)
+        run(now->shape.linksOf(element).*callback);
+}
+
+void ListHandler::noteSelection()
+{
+    if (const auto now = list()) {
+        selection.nSelect = now->box.nSelect;
+        selection.nPosition = now->nCursor;
+        SetCurrentSelection(&selection);
+    }
+}
+
+int ListHandler::finish()
+{
+    return finishAt(selection.nType == CHECKBOX ? offsetof(KULCHECKBOX, onUnfocus)
+                                                : offsetof(KULOPTIONS, onUnfocus));
+}
+
+int runList(int nChain, int nRef, const List& start, const ListKeys& keys)
+{
+    keepView(start);
+    if (isEdition2())
+        start.nCursor = settled(start.nCursor, stepsOf(start));
+    bringIntoView(start);
+    ListHandler handler({nChain, nRef, keys.type, start.nCursor, start.box.nSelect, 0});
+    handler.call(&ListCalls::onFocus);
+    while (const int nKey = handler.key(keys.endsHidden ? isShown<ListBox> : nullptr)) {
+        const bool clicks = nKey == KS_SPACE || nKey == KS_ENTER;
+        const auto list = handler.list();
+        if (clicks) {
+            keys.click(handler);
+        } else if (list && stepList(*list, nKey)) {
+            handler.noteSelection();
+            keys.moved(handler);
+        }
+        handler.noteSelection();
+        handler.show(clicks ? keys.clickChanges : Changed::Selected);
+        if (nKey == KS_TAB || nKey == KS_ESC)
+            handler.end(nKey == KS_TAB ? KUL_NEXT : KUL_PREVIOUS);
+    }
+    return handler.finish();
+}
+
+} // namespace kul
