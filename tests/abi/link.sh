@@ -47,10 +47,12 @@ package() {
     package shared
 
     prepare static
-    "$cc" $(pkg-config --cflags --static kulgui) "$source/examples/hello.c" -o "$work/hello-static" \
-        $(pkg-config --libs --static kulgui)
+    for program in examples/hello tests/abi/own_names; do
+        "$cc" $(pkg-config --cflags --static kulgui) "$source/$program.c" -o "$work/alone" \
+            $(pkg-config --libs --static kulgui)
+        LD_LIBRARY_PATH='' starts "$work/alone"
+    done
     unset LD_LIBRARY_PATH
-    starts "$work/hello-static"
     package static
     starts "$stage/build-static/part"
 }

@@ -1,0 +1,57 @@
+# The static library shares one space of names with the program: a function of the inside (Fill, Poll)
+# would be defined twice where the program has one of that name. So the library's own calls go to other
+# names, and the public one of each lies in an object of its own, that only calls the inner one: the
+# linker takes it only where the program has none.
+#
+#     program -> Fill -> kulinner_Fill <- the library
+#
+# Objects are compiled as for the shared library; the names are exchanged in the archive.
+set(outer ${CMAKE_CURRENT_BINARY_DIR}/outer)
+set(outerSources "")
+set(outerNames "")
+file(READ kulgui.h text)
+string(REGEX MATCHALL "KULGUI_API [^;(]+\\([^;]*\\)" calls "${text}")
+foreach(call ${calls})
+    string(REGEX MATCH "^KULGUI_API (.*[ *])([A-Za-z]+)\\((.*)\\)$" found "${call}")
+    set(result "${CMAKE_MATCH_1}")
+    set(name "${CMAKE_MATCH_2}")
+    set(parameters "${CMAKE_MATCH_3}")
+    if(NOT found OR name MATCHES "^kul")
+        continue()
+    endif()
+    # Of each parameter its name is handed on.
+    string(REGEX REPLACE "[^,]*[ *]([A-Za-z_]+) *(,|$)" "\\1\\2" arguments "${parameters}")
+    string(REGEX REPLACE "^void$" "" arguments "${arguments}")
+    string(REGEX REPLACE "^void $" "" return "${result}")
+    if(return)
+        set(return "return ")
+    endif()
+    file(CONFIGURE OUTPUT ${outer}/${name}.c @ONLY CONTENT
+"#include <kulgui.h>
+@result@kulouter_@name@(@parameters@);
+@result@kulouter_@name@(@parameters@)
+{
+    @return@@name@(@arguments@);
+}
+")
+    list(APPEND outerSources ${outer}/${name}.c)
+    string(APPEND outerNames "${name} kulinner_${name}\nkulouter_${name} ${name}\n")
+endforeach()
+file(CONFIGURE OUTPUT ${outer}/names CONTENT "${outerNames}" @ONLY)
+
+add_library(kulgui_outer OBJECT ${outerSources})
+target_include_directories(kulgui_outer PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+set_target_properties(kulgui_outer PROPERTIES POSITION_INDEPENDENT_CODE ON)
+target_link_libraries(kulgui_outer PRIVATE kulgui_curses)
+
+# Adds these to a static library and exchanges the names. Objects become plain ones, for whatever links
+# them; those of a compiler that optimises at the link cannot, and stay as they are.
+function(exchange_names library)
+    if("${CMAKE_C_FLAGS} ${CMAKE_CXX_FLAGS}" MATCHES "-flto" OR NOT CMAKE_OBJCOPY)
+        return()
+    endif()
+    target_sources(${library} PRIVATE $<TARGET_OBJECTS:kulgui_outer>)
+    add_custom_command(TARGET ${library} POST_BUILD COMMAND ${CMAKE_OBJCOPY}
+        --remove-section=.gnu.lto_* --remove-section=.gnu.debuglto_* --redefine-syms=${outer}/names
+        $<TARGET_FILE:${library}> VERBATIM)
+endfunction()

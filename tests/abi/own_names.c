@@ -1,0 +1,77 @@
+/* SPDX-License-Identifier: MIT
+ *
+ * A program with functions of its own that have the names of the library's inside, linked with the
+ * static library: each calls its own ones.
+ */
+#define KULGUI_NO_INSIDE
+#include <kulgui.h>
+
+#include <stdio.h>
+#include <stdlib.h>
+
+int Fill(void);
+double Poll(double seconds);
+int Offset(void), GetChain(void), CreateChain(void), SetVar(void), AddUIComponent(void), Inkeys(void);
+
+int Fill(void)
+{
+    return 40;
+}
+
+double Poll(double seconds)
+{
+    return seconds + 1;
+}
+
+static int mistaken(const char* name)
+{
+    printf("the library calls the program's %s\n", name);
+    exit(2);
+}
+
+int Offset(void)
+{
+    return mistaken("Offset");
+}
+
+int GetChain(void)
+{
+    return mistaken("GetChain");
+}
+
+int CreateChain(void)
+{
+    return mistaken("CreateChain");
+}
+
+int SetVar(void)
+{
+    return mistaken("SetVar");
+}
+
+int AddUIComponent(void)
+{
+    return mistaken("AddUIComponent");
+}
+
+int Inkeys(void)
+{
+    return mistaken("Inkeys");
+}
+
+int main(void)
+{
+    kulgui_create(0);
+    kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", NULL, NULL, NULL, NULL, NULL);
+    kulgui_create(1);
+    kulgui_config(1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", BORDER, 1, 1, 20, 5, NULL, NULL, NULL, NULL, NULL);
+    if (Fill() + Poll(1) != 42 || kulmenu_create(1, 1) != KUL_OK ||
+        kulmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, NULL, NULL, NULL, NULL) != KUL_OK ||
+        kulmenu_create(1, 1) != KUL_TAKEN_MENU)
+        return 3;
+    if (kulgui_exec(1) == KUL_ERROR) {
+        printf("own names: no terminal\n");
+        return 1;
+    }
+    return 0;
+}
