@@ -1,128 +1,107 @@
 // SPDX-License-Identifier: MIT
 //
 // Any calls in any order with any numbers, texts and callbacks, also from callbacks, and keys to what
-// runs then. Numbers of dialogs and components are small, so that calls meet; other numbers are odd.
-#include <climits>
-#include <clocale>
-#include <ctime>
-#include <iterator>
-#include <type_traits>
-
-#include "gui/description.hpp"
-#include "input.hpp"
-#include "kulgui.h"
+// runs then.
+#include "arguments.hpp"
 
 using namespace kulfuzz;
 
 namespace {
 
-constexpr int kNumbers[] = {0,          1,  2,  3,  -1, -2,  5,       8,       10,       13,
-                            20,         40, 79, 80, 81, 100, INT_MAX, INT_MIN, KUL_KEEP, 24,
-                            KUL_CENTER, 55, 56, 30, 31, 512, 1000,    1 << 24, -1000};
-constexpr int kKeys[] = {KS_TAB,       KS_ENTER,
-                         KS_ESC,       KS_SPACE,
-                         KS_BACKSPACE, KS_DELETE,
-                         KS_HOME,      KS_END,
-                         KS_LEFT,      KS_RIGHT,
-                         KS_UP,        KS_DOWN,
-                         KS_PAGEUP,    KS_PAGEDOWN,
-                         KS_BACKTAB,   KS_F1,
-                         KS_INSERT,    'a',
-                         KS_ALT + 'x', 1,
-                         21,           KUL_CHARACTER + 0x4e2d};
-constexpr const char* kTexts[] = {"",
-                                  "OK",
-                                  "two words",
-                                  "a\nb\nc",
-                                  "Gr\xc3\xb6\xc3\x9f"
-                                  "e",
-                                  "\xe4\xb8\xad\xe6\x96\x87 wide",
-                                  "\x1b[2J\x07",
-                                  "longerthanarowofwords and more",
-                                  "e\xcc\x81\xe2\x80\x8d",
-                                  "\xff\xc2"};
-constexpr const char* kItems[] = {"one", "two", "three", "", nullptr};
 int nDepth = 0;
 
-void callAny();
-int refuse(const char* szText)
+// A record that the program has made, of which no dialog knows.
+template <typename Node, typename Record>
+void callForRecord(int (*attach)(Node*), int (*config)(GUI*, Record*), int (*wipe)(Record*))
 {
-    return szText[0] == 'x';
-}
-constexpr KULCALLBACK kCallbacks[] = {nullptr, callAny, [] { kulgui_leave(1); },
-                                      [] { kulgui_destroy(static_cast<int>(take() % 4)); }};
-
-char* text()
-{
-    static char szTexts[8][40];
-    static unsigned nNext = 0;
-    const unsigned n = take();
-    char* szText = szTexts[nNext++ % 8];
-    std::snprintf(szText, sizeof *szTexts, "%s", n < 128 ? kTexts[n % std::size(kTexts)] : takeText(39).c_str());
-    return n == 127 ? nullptr : szText;
-}
-
-template <typename Type>
-Type argument()
-{
-    if constexpr (std::is_same_v<Type, int>) {
-        const unsigned n = take();
-        return n < 160 ? static_cast<int>(n % 4) : kNumbers[n % std::size(kNumbers)];
-    } else if constexpr (std::is_same_v<Type, const char*>) {
-        return text();
-    } else if constexpr (std::is_same_v<Type, KULCALLBACK>) {
-        return kCallbacks[take() % std::size(kCallbacks)];
-    } else if constexpr (std::is_same_v<Type, int (*)(const char*)>) {
-        return refuse;
-    } else if constexpr (std::is_same_v<Type, WINDOW*> || std::is_same_v<Type, const WINDOW*>) {
-        const CHAIN* chain = GetChain(static_cast<int>(take() % 4));
-        return chain && chain->Pointer ? chain->Pointer->winMain : nullptr;
-    } else if constexpr (std::is_same_v<Type, char>) {
-        return static_cast<char>(take());
-    } else {
-        return nullptr;
+    Node node{};
+    if (attach(&node) == 0) {
+        config(argument<GUI*>(), static_cast<Record*>(node.Pointer));
+        wipe(static_cast<Record*>(node.Pointer));
     }
+    attach(nullptr);
+    config(nullptr, nullptr);
+    wipe(nullptr);
 }
 
-template <auto Function, typename Result, typename... Arguments>
-void call(Result (*)(Arguments...))
+// Lists of elements that the program has made.
+void callForElements()
 {
-    Function(argument<std::remove_cv_t<Arguments>>()...);
+    KULTOOLBAR bar{};
+    const auto useUp = [](auto* first, auto* second, int (*remove)(decltype(first)), int (*wipe)(decltype(first))) {
+        check(first && second && remove(first) == 0 && wipe(first) == 0);
+    };
+    auto* menu = AddMenuElement(nullptr, number(), text(), nullptr, nullptr);
+    useUp(menu, AddMenuElement(menu, 1, text(), nullptr, nullptr), RemoveMenuElement, WipeMenuElements);
+    auto* box = AddDescrmenuElement(nullptr, number(), text(), text(), nullptr, nullptr);
+    useUp(box, AddDescrmenuElement(box, 1, text(), text(), nullptr, nullptr), RemoveDescrmenuElement,
+          WipeDescrmenuElements);
+    auto* button = AddToolbarButton(&bar, nullptr, number(), text(), nullptr, nullptr);
+    useUp(button, AddToolbarButton(&bar, button, 1, text(), nullptr, nullptr), RemoveToolbarButton, WipeToolbarButtons);
+    auto* checked = AddCheckElement(nullptr, number(), text(), nullptr);
+    useUp(checked, AddCheckElement(checked, 1, text(), nullptr), RemoveCheckElement, WipeCheckElements);
+    auto* option = AddOptionElement(nullptr, number(), text(), nullptr, nullptr);
+    useUp(option, AddOptionElement(option, 1, text(), nullptr, nullptr), RemoveOptionElement, WipeOptionElements);
 }
 
-void enter()
+// What fills memory of the program's.
+void callForMemory()
 {
-    char szBuffer[8] = "ab";
+    constexpr const char* kItems[] = {"one", "two", "three", "", nullptr};
+    char szBuffer[9] = "ab";
+    const auto nSize = static_cast<int>(take() % sizeof szBuffer);
     int nChecked[5] = {};
     KULFIELD fields[] = {{"a", szBuffer, sizeof szBuffer, NOMASK, nullptr, refuse}};
-    switch (take() % 5) {
-    case 0:
-        kuldialog_enter(text(), text(), szBuffer, static_cast<int>(take() % 9), argument<int>());
-        break;
-    case 1:
-        kuldialog_form(text(), text(), fields, 1);
-        break;
-    case 2:
-        kuldialog_check(text(), text(), kItems, nChecked, 5);
-        break;
-    case 3:
-        kuldialog_choose(text(), text(), kItems, 5, argument<int>());
-        break;
-    default:
-        kuldialog_option(text(), text(), kItems, 5, argument<int>());
-    }
+    DLG dialog{newwin(3, 5, 0, 0), newwin(3, 5, 1, 1), nullptr, nullptr, T, ""};
+    GUI own{};
+    const CURRENT current{number(), number(), number(), number(), number(), number()};
+    const CONTROL controls{number(), number(), number(), number()};
+    switch (take() % 12) { // clang-format off
+    case 0: kuldialog_enter(text(), text(), szBuffer, nSize, number()); break;
+    case 1: kuldialog_form(text(), text(), fields, 1); break;
+    case 2: kuldialog_check(text(), text(), kItems, nChecked, 5); break;
+    case 3: kuldialog_choose(text(), text(), kItems, 5, number()); break;
+    case 4: kuldialog_option(text(), text(), kItems, 5, number()); break;
+    case 5: kuldialog_pick(text(), text(), szBuffer, nSize); break;
+    case 6: FillString(szBuffer, nSize, 'a'); CopyStrWithoutEOS(szBuffer, "12345678", nSize); break;
+    case 7: SwapnChar(szBuffer, 'a', '\0', nSize); SwapChar(szBuffer, 'b', 'c'); break;
+    case 8: LoadGUIDefaults(&own); SetVar(&own.nX, number()); break;
+    case 9: SetCurrentSelection(&current); CurrentSelection(&current, number()); break;
+    case 10: SetControls(&controls); Controls(&controls, number()); break;
+    default: ShowDlg(&dialog); HideDlg(&dialog);
+    } // clang-format on
+    KillDlg(&dialog);
+    kulgui_setUser(number(), number(), &nDepth);
 }
 
 constexpr void (*kCalls[])() = {
 #define C(name) [] { call<name>(name); },
+#define N(name) [] { callWithNothing<name>(name); },
+#define K(attach, config, wipe) [] { callForRecord(attach, config, wipe); },
 #include "calls.hpp"
-#undef C
-    enter,
-};
+    callForElements, callForMemory};
 
-void callAny()
+void build()
 {
-    if (nDepth >= 6)
+    kulgui_create(0);
+    kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", nullptr, kCallbacks[take() % 2], nullptr, nullptr,
+                       nullptr);
+    ConfigGUIPrime();
+    for (int nChain = 1; nChain < 3; ++nChain) {
+        kulgui_create(nChain);
+        kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "t", BORDER, 4 * nChain, nChain, 30, 10, nullptr,
+                      nullptr, nullptr, nullptr, nullptr);
+        CreateUIComponent(nChain, static_cast<int>(take() % 9), 1);
+        CreateDIComponent(nChain, static_cast<int>(take() % 7), 2);
+        ConfigUIComponent(nChain, 1);
+    }
+}
+
+} // namespace
+
+void kulfuzz::callAny()
+{
+    if (nDepth >= 6 || isOver())
         return;
     ++nDepth;
     const unsigned n = take() + 256 * take();
@@ -133,66 +112,26 @@ void callAny()
     --nDepth;
 }
 
-void build()
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
-    kulgui_create(0);
-    kulgui_configPrime(0, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "", nullptr, kCallbacks[take() % 2], nullptr, nullptr,
-                       nullptr);
-    for (int nChain = 1; nChain < 3; ++nChain) {
-        kulgui_create(nChain);
-        kulgui_config(nChain, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, "t", BORDER, 4 * nChain, nChain, 40, 14, nullptr,
-                      nullptr, nullptr, nullptr, nullptr);
-        CreateUIComponent(nChain, static_cast<int>(take() % 9), 1);
-        ConfigUIComponent(nChain, 1);
-    }
-}
-
-} // namespace
-
-extern "C" {
-
-int __wrap_NCursesEnv(int nMode)
-{
-    return nMode > 2 ? nMode : 0;
-}
-
-std::time_t __wrap_time(std::time_t*)
-{
-    static std::time_t now = 1000000;
-    return ++now;
-}
-
-int __wrap__ZN3kul8awaitKeyEv()
-{
-    if (isOver()) {
-        kulgui_leave(GetCurrentSelection()->nChain);
-        kulgui_leave(GetActiveChain());
-        return GetActiveChain() < 0 ? KS_ESC : 0;
-    }
-    const unsigned n = take();
-    return n < 200 ? kKeys[n % std::size(kKeys)] : static_cast<int>(n % 128);
-}
-
-int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
-{
-    static SCREEN* screen = nullptr;
-    if (!screen) {
-        FILE* nothing = std::fopen("/dev/null", "r+");
-        std::setlocale(LC_CTYPE, "C.UTF-8");
-        screen = kul::openScreen("xterm-256color", nothing, nothing);
-        start_color();
-        InitializeColorSets();
-    }
-    begin(data, size);
+    static const bool isOpen = openMemory("12", "40");
+    check(isOpen && szKeystrokes[0]);
+    beginLine(data, size);
+    NCursesEnv(1);
+    for (int nWord = 0; nWord < KULWORDS; ++nWord)
+        kuldialog_setWord(nWord, nullptr);
     kulgui_setEdition(1 + static_cast<int>(take() % 2));
     build();
     while (!isOver())
         callAny();
     kuldialog_done();
-    for (int nTimer = 0; nTimer < 64; ++nTimer)
-        kulgui_stopTimer(nTimer);
+    static int nTimer = 1;
+    for (int n = 0; n < 100; ++n) // more than an input has room for
+        kulgui_stopTimer(nTimer + n);
+    nTimer = kulgui_setTimer(0, callAny);
+    for (const int n : kNumbers)
+        kulgui_watch(n, nullptr);
     while (GetPrimaryChain())
         kulgui_destroy(GetPrimaryChain()->nRef);
     return 0;
-}
 }

@@ -115,7 +115,7 @@ void addLine(const Frame& frame, int nLine)
                       frame.bodyY(), std::max(frame.bodyWidth() - form.nLabels, 1), 1, NOBORDER,
                       field.nMask == MASK ? MASK : NOMASK, field.szCharSet, nullptr, nullptr,
                       nullptr);
-    kultextbox_setLimit(nChain, nRef, std::clamp(field.nSize - 1, 0, kMostCharacters));
+    kultextbox_setLimit(nChain, nRef, std::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
     kultextbox_setText(nChain, nRef, field.szText ? field.szText : "");
     kultextbox_setCheck(nChain, nRef, field.onCheck);
 }
