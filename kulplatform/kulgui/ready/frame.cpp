@@ -101,7 +101,7 @@ void Frame::addButton(const char* szText, std::size_t size)
     const std::size_t start = buttons_.size();
     if (!buttons_.add(szText, size) || !buttons_.add("", 1))
         return;
-    nButtonColumns_ += columns(buttons_.text() + start) + 2 + (nButtons_ > 0 ? kGap - 2 : 0);
+    nButtonColumns_ += columns(buttons_.text() + start) + 2 + (nButtons_ > 0 ? kGap : 0);
     ++nButtons_;
 }
 
