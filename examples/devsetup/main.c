@@ -100,7 +100,7 @@ static void make_main(void)
 {
     const int height = kulgui_getRows();
     static char title[64];
-    snprintf(title, sizeof title, " %s ", say(TEXT_TITLE));
+    snprintf(title, sizeof title, " %s ", say(TEXT_MENU));
     const int rows = height < PAGE_COUNT + 7 ? (height < 8 ? 3 : height - 5) : PAGE_COUNT;
     kulgui_config(MAIN, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, title, BORDER, KUL_CENTER,
                   KUL_CENTER, 36, rows + 5, NULL, NULL, NULL, NULL, NULL);

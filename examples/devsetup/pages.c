@@ -141,7 +141,8 @@ void page_account(struct settings* settings)
         } else if (!is_strong(first)) {
             kuldialog_tell(say(TEXT_ACCOUNT), say(TEXT_PASSWORD_WEAK));
         } else {
-            keep_password(settings, first);
+            if (keep_password(settings, first) != 0)
+                kuldialog_tell(say(TEXT_ACCOUNT), say(TEXT_PASSWORD_FAILED));
             break;
         }
     }
