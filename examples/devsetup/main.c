@@ -145,6 +145,7 @@ static void set_words(void)
 int main(int argc, char** argv)
 {
     char errors[1024];
+    char name[64];
     /* The locale says how texts are encoded and which language the user reads. */
     setlocale(LC_ALL, "");
     texts_choose();
@@ -157,8 +158,9 @@ int main(int argc, char** argv)
 
     kulgui_setEdition(2);
     kulgui_create(DESKTOP);
-    kulgui_configPrime(DESKTOP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, say(TEXT_TITLE), NULL, NULL,
-                       NULL, NULL, NULL);
+    snprintf(name, sizeof name, " %s", say(TEXT_TITLE));
+    kulgui_configPrime(DESKTOP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, name, NULL, NULL, NULL,
+                       NULL, NULL);
     kulgui_create(MAIN);
     if (NCursesEnv(1) != 0) {
         fprintf(stderr, "devsetup: %s\n", say(TEXT_NO_TERMINAL));
