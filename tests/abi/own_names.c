@@ -9,9 +9,19 @@
 #include <stdio.h>
 #include <stdlib.h>
 
-int Fill(void);
+#define NEVER(name)                                                                                                    \
+    int name(void);                                                                                                    \
+    int name(void)                                                                                                     \
+    {                                                                                                                  \
+        printf("the library calls the program's " #name "\n");                                                         \
+        exit(2);                                                                                                       \
+    }
+NEVER(Offset)
+NEVER(GetChain)
+NEVER(CreateChain) NEVER(SetVar) NEVER(AddUIComponent) NEVER(Inkeys)
+
+    int Fill(void);
 double Poll(double seconds);
-int Offset(void), GetChain(void), CreateChain(void), SetVar(void), AddUIComponent(void), Inkeys(void);
 
 int Fill(void)
 {
@@ -21,42 +31,6 @@ int Fill(void)
 double Poll(double seconds)
 {
     return seconds + 1;
-}
-
-static int mistaken(const char* name)
-{
-    printf("the library calls the program's %s\n", name);
-    exit(2);
-}
-
-int Offset(void)
-{
-    return mistaken("Offset");
-}
-
-int GetChain(void)
-{
-    return mistaken("GetChain");
-}
-
-int CreateChain(void)
-{
-    return mistaken("CreateChain");
-}
-
-int SetVar(void)
-{
-    return mistaken("SetVar");
-}
-
-int AddUIComponent(void)
-{
-    return mistaken("AddUIComponent");
-}
-
-int Inkeys(void)
-{
-    return mistaken("Inkeys");
 }
 
 int main(void)

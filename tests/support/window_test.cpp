@@ -357,6 +357,32 @@ std::string CanvasTest::shades(int nY, int nX, int nHeight, int nWidth) const
         colors(win_, nY, nX, nHeight, nWidth, {{'b', RED_BLUE}, {'w', RED_WHITE}, {'c', RED_CYAN}, {'-', 0}}));
 }
 
+// Calls for another kind do nothing.
+void addComponent(int nType, int nRef, int nX, int nY)
+{
+    constexpr int k = KUL_KEEP;
+    constexpr KULCALLBACK no = nullptr;
+    EXPECT_EQ(CreateUIComponent(1, nType, nRef), 0);
+    kulmenu_config(1, nRef, k, k, k, no, no, no, no);
+    kuldynmenu_config(1, nRef, k, k, k, nX, nY, 10, 2, no, no, no, no);
+    kuldescrmenu_config(1, nRef, k, k, k, k, k, 30, 20, 8, no, no, no, no);
+    kulbutton_config(1, nRef, k, k, k, k, nX, nY, 8, 1, "OK", no, no, no, no);
+    kultoolbar_config(1, nRef, k, k, k, nX, nY, nRef % 2 ? LATERAL : VERTICAL, no, no, no, no);
+    kulcheckbox_config(1, nRef, k, k, k, nX, nY, 18, 5, BORDER, no, no, no, no);
+    kuloptions_config(1, nRef, k, k, k, nX, nY, 18, 5, nRef % 2 ? BORDER : NOBORDER, 0, 0, no, no, no, no);
+    kultextbox_config(1, nRef, k, k, k, nX, nY, 12, 4, BORDER, NOMASK, nullptr, no, no, no);
+}
+
+void addElement(int nRef, const char* szText, int nEnable)
+{
+    kulmenu_addElement(1, nRef, szText, nEnable, nullptr, nullptr);
+    kuldynmenu_addElement(1, nRef, szText, nullptr, nullptr, nEnable);
+    kuldescrmenu_addElement(1, nRef, nEnable, szText, "what it means\nand more", nullptr, nullptr);
+    kultoolbar_addButton(1, nRef, szText, 0, nEnable, nullptr, nullptr);
+    kulcheckbox_addElement(1, nRef, szText, 0, nEnable, nullptr, nullptr);
+    kuloptions_addElement(1, nRef, szText, nEnable, nullptr, nullptr);
+}
+
 void ComponentTest::SetUp()
 {
     WindowTest::SetUp();

@@ -121,6 +121,10 @@ Record& record()
     return *static_cast<Record*>(GetUIComponentByRef(1, kRef)->Pointer);
 }
 
+// Adds a component of any kind to dialog 1, without callbacks, and an element to it where it has them.
+void addComponent(int nType, int nRef, int nX, int nY);
+void addElement(int nRef, const char* szText, int nEnable = 1);
+
 // What callbacks noted, each with what was selected: "focus0 click2 ".
 inline std::string events;
 

@@ -147,25 +147,9 @@ constexpr struct {
 
 void addElements(int nType)
 {
-    CreateUIComponent(1, nType, 1);
-    if (nType == DYNMENU)
-        kuldynmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 10, 2, nullptr, nullptr, nullptr, nullptr);
-    else if (nType == CHECKBOX)
-        kulcheckbox_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 18, 5, BORDER, nullptr, nullptr, nullptr, nullptr);
-    else if (nType == OPTIONS)
-        kuloptions_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 1, 18, 5, BORDER, 0, 0, nullptr, nullptr, nullptr,
-                          nullptr);
-    else
-        ConfigUIComponent(1, 1);
-    for (const char* szText : {"Ab", "ac", "ba", "Bb", "cc"}) {
-        const int nEnable = szText[1] != 'c' || szText[0] == 'c';
-        kulmenu_addElement(1, 1, szText, nEnable, nullptr, nullptr);
-        kuldynmenu_addElement(1, 1, szText, nullptr, nullptr, nEnable);
-        kuldescrmenu_addElement(1, 1, nEnable, szText, "", nullptr, nullptr);
-        kultoolbar_addButton(1, 1, szText, 0, nEnable, nullptr, nullptr);
-        kulcheckbox_addElement(1, 1, szText, 0, nEnable, nullptr, nullptr);
-        kuloptions_addElement(1, 1, szText, nEnable, nullptr, nullptr);
-    }
+    kultest::addComponent(nType, 1, 1, 1);
+    for (const char* szText : {"Ab", "ac", "ba", "Bb", "cc"})
+        kultest::addElement(1, szText, szText[1] != 'c' || szText[0] == 'c');
 }
 
 TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
@@ -218,8 +202,7 @@ TEST_F(Edition2Test, ElementsBeyondTheThirtieth)
         makeDialog(1);
         addElements(nType);
         for (int i = 5; i < 50; ++i)
-            nType == CHECKBOX ? kulcheckbox_addElement(1, 1, "more", 0, 1, nullptr, nullptr)
-                              : kuloptions_addElement(1, 1, "more", 1, nullptr, nullptr);
+            kultest::addElement(1, "more");
         kulgui_select(1, 1, 49);
         run({KS_SPACE});
         if (nType == CHECKBOX) {
