@@ -100,8 +100,10 @@ TEST(Columns, OfRowsAreThoseOfTheTextAndNothingIsLost)
     std::srand(3);
     for (int round = 0; round < 3000; ++round) {
         std::string text;
-        for (int left = std::rand() % 24; left > 0; --left)
-            text += std::string(parts[std::rand() % 12]) + (std::rand() % 2 ? "ö" : ""); // no long words of ASCII
+        for (int left = std::rand() % 24; left > 0; --left) {
+            const char* const end = std::rand() % 2 ? "ö" : ""; // no long words of ASCII
+            text += std::string(parts[std::rand() % 12]) + end;
+        }
         const int nWidth = 2 + std::rand() % 9;
         EXPECT_EQ(kul::columnsOf(text), countColumns(text)) << text;
         const char* at = text.c_str();

@@ -152,7 +152,7 @@ TEST_F(TextboxTest, EditsAndDraws)
     kulgui_show(1);
     EXPECT_EQ(shades(3, 2, 1, 4), (Rows{"dddd"}));
     fill(rows, "abc");
-    for (const auto& [nCursor, nKey, nAfter] : {std::tuple(INT_MAX, 'd', 4), {INT_MIN, +KS_DELETE, 0}}) {
+    for (const auto& [nCursor, nKey, nAfter] : {std::tuple(INT_MAX, +'d', 4), {INT_MIN, +KS_DELETE, 0}}) {
         box().nCursorPos = nCursor;
         press({nKey});
         EXPECT_EQ(box().nCursorPos, nAfter);
