@@ -25,12 +25,12 @@ int main(void)
     kulgui_config(DIALOG, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, " Description field ", BORDER,
                   KUL_CENTER, KUL_CENTER, 38, 9, NULL, NULL, NULL, NULL, NULL);
     kuldescrfield_create(DIALOG, FIELD);
-    kuldescrfield_config(DIALOG, FIELD, WHITE_BLUE, KUL_KEEP, 2, 1, 34, 34, 2);
+    kuldescrfield_config(DIALOG, FIELD, WHITE_BLUE, KUL_KEEP, 2, 1, 22, 22, 4);
     kuldescrfield_addElement(DIALOG, FIELD, "Memory", "62 of 128 MiB are free.");
     kuldescrfield_addElement(DIALOG, FIELD, "Disk", "3 of 8 GiB are free.");
     kuldescrfield_selElement(DIALOG, FIELD, 1);
     kulbutton_create(DIALOG, CLOSE);
-    kulbutton_config(DIALOG, CLOSE, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 14, 5, 10, 1, "Close",
+    kulbutton_config(DIALOG, CLOSE, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 26, 3, 10, 1, "Close",
                      NULL, NULL, NULL, leave);
     if (NCursesEnv(1) != 0)
         return 1;

@@ -25,7 +25,7 @@ int main(void)
     kulgui_config(DIALOG, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, " Description menu ", BORDER,
                   KUL_CENTER, KUL_CENTER, 38, 9, NULL, NULL, NULL, NULL, NULL);
     kuldescrmenu_create(DIALOG, PAGES);
-    kuldescrmenu_config(DIALOG, PAGES, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 34, 24, 5,
+    kuldescrmenu_config(DIALOG, PAGES, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 34, 24, 4,
                         NULL, NULL, NULL, leave);
     kuldescrmenu_addElement(DIALOG, PAGES, 1, "Network", "Host name and addresses.", NULL, NULL);
     kuldescrmenu_addElement(DIALOG, PAGES, 1, "Storage", "Disks and what is on them.", NULL, NULL);

@@ -1,6 +1,6 @@
 /* SPDX-License-Identifier: MIT
  *
- * A status bar: fields on one row, at the foot of the desktop for instance.
+ * A status bar: fields on the last row of a dialog, here of the desktop.
  */
 #include <kulgui.h>
 
@@ -23,16 +23,16 @@ int main(void)
                        NULL);
     kulgui_create(DIALOG);
     kulgui_config(DIALOG, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, " Status bar ", BORDER,
-                  KUL_CENTER, KUL_CENTER, 38, 9, NULL, NULL, NULL, NULL, NULL);
-    kulstatbar_create(DIALOG, STATUS);
-    kulstatbar_config(DIALOG, STATUS, WHITE_BLUE, NULL);
-    kulstatbar_addElement(DIALOG, STATUS, 1, 18, "eth0 up", LEFT, NULL);
-    kulstatbar_addElement(DIALOG, STATUS, 19, 17, "12:30", RIGHT, NULL);
+                  KUL_CENTER, KUL_CENTER, 38, 6, NULL, NULL, NULL, NULL, NULL);
     kulbutton_create(DIALOG, CLOSE);
-    kulbutton_config(DIALOG, CLOSE, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 14, 5, 10, 1, "Close",
+    kulbutton_config(DIALOG, CLOSE, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 14, 2, 10, 1, "Close",
                      NULL, NULL, NULL, leave);
     if (NCursesEnv(1) != 0)
         return 1;
+    kulstatbar_create(DESKTOP, STATUS);
+    kulstatbar_config(DESKTOP, STATUS, KUL_KEEP, NULL);
+    kulstatbar_addElement(DESKTOP, STATUS, 1, 18, "eth0 up", LEFT, NULL);
+    kulstatbar_addElement(DESKTOP, STATUS, kulgui_getColumns() - 8, 7, "12:30", RIGHT, NULL);
     kulgui_show(DESKTOP);
     kulgui_exec(DIALOG);
     kulgui_destroyAll();
