@@ -66,20 +66,18 @@ void Area::showEnd()
 
 bool Area::scroll(int nKey)
 {
-    struct Move {
-        int nKey;
-        int nRows;
-    };
     constexpr int kFar = 1 << 30;
-    const Move moves[] = {{KS_UP, -1},           {KS_DOWN, 1},
-                          {KS_PAGEUP, -height_}, {KS_PAGEDOWN, height_},
-                          {KS_HOME, -kFar},      {KS_END, kFar}};
-    const auto* move = std::find_if(std::begin(moves), std::end(moves),
-                                    [nKey](const Move& each) { return each.nKey == nKey; });
+    const int nRows = nKey == KS_UP         ? -1
+                      : nKey == KS_DOWN     ? 1
+                      : nKey == KS_PAGEUP   ? -height_
+                      : nKey == KS_PAGEDOWN ? height_
+                      : nKey == KS_HOME     ? -kFar
+                      : nKey == KS_END      ? kFar
+                                            : 0;
     const int nLast = rows() - height_;
-    if (move == std::end(moves) || nLast <= 0)
+    if (nRows == 0 || nLast <= 0)
         return false;
-    const int nFirst = std::clamp(first_ + move->nRows, 0, nLast);
+    const int nFirst = std::clamp(first_ + nRows, 0, nLast);
     if (nFirst != first_) {
         first_ = nFirst;
         show();

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "options.hpp"
+#include "text.hpp"
 
 namespace kuldialog {
 
@@ -49,14 +50,6 @@ constexpr char kBehind[] = "\0\0[<init>]\0<rows> <tag item>...\0<rows> <tag item
                            "<rows> <tag item on|off depth>...\0<rows> <field>...\0"
                            "<rows> <field type>...\0<percent>\0[<percent>]\0<seconds>\0"
                            "<percent> <tag state>...\0<least> <most> <value>\0\0";
-
-// The text of that place in a row of texts.
-const char* textAt(const char* szTexts, int nPlace)
-{
-    for (; nPlace > 0; --nPlace)
-        szTexts += std::strlen(szTexts) + 1;
-    return szTexts;
-}
 
 void addUsage(Buffer& text, const Box& box)
 {

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "buffer.hpp"
+#include "options.hpp"
 #include "settings.hpp"
 
 namespace kuldialog {
@@ -18,19 +19,20 @@ unsigned char colors[kRoles] = {WHITE_BLUE, BLACK_WHITE, WHITE_BLUE, BLACK_WHITE
 
 namespace {
 
+template <std::size_t room>
 struct Word {
-    char text[24];
+    char text[room];
     unsigned char role;
 };
 
-constexpr Word kNewtWords[] = {
+constexpr Word<15> kNewtWords[] = {
     {"root", kDesktop},          {"roottext", kDesktop},  {"window", kWindowColor},
     {"textbox", kWindowColor},   {"actlistbox", kFocus},  {"actsellistbox", kFocus},
     {"actbutton", kFocus},       {"actcheckbox", kFocus}, {"button", kButtons},
     {"compactbutton", kButtons}, {"entry", kFieldsColor},
 };
 
-constexpr Word kFileWords[] = {
+constexpr Word<23> kFileWords[] = {
     {"screen_color", kDesktop},          {"dialog_color", kWindowColor},
     {"button_active_color", kFocus},     {"item_selected_color", kFocus},
     {"button_inactive_color", kButtons}, {"inputbox_color", kFieldsColor},
@@ -48,6 +50,16 @@ constexpr Colour kColours[] = {
     {"magenta", COLOR_MAGENTA}, {"cyan", COLOR_CYAN},     {"white", COLOR_WHITE},
     {"gray", COLOR_BLACK},
 };
+
+constexpr int kOthers = 7; // colours of the background beside each foreground
+
+const char* nameOf(int nColour)
+{
+    const Colour* colour = kColours;
+    while (colour->number != nColour)
+        ++colour;
+    return colour->text;
+}
 
 // The colour that a text of that size names; bright and light ones are the same. -1 for none.
 int colourOf(const char* szText, std::size_t size)
@@ -76,15 +88,14 @@ void take(Role role, const char* szText, const char* szStops)
     const int nBackground = colourOf(szSecond, std::strcspn(szSecond, szStops));
     if (nForeground < 0 || nBackground < 0 || nForeground == nBackground)
         return;
-    constexpr int kOthers = 7; // colours of the background beside each foreground
     colors[role] = static_cast<unsigned char>(kOthers * nForeground + nBackground -
                                               (nBackground > nForeground));
 }
 
-template <std::size_t count>
-int roleOf(const Word (&words)[count], const char* szText, std::size_t size)
+template <std::size_t room, std::size_t count>
+int roleOf(const Word<room> (&words)[count], const char* szText, std::size_t size)
 {
-    for (const Word& word : words) {
+    for (const auto& word : words) {
         if (std::strlen(word.text) == size && std::memcmp(word.text, szText, size) == 0)
             return word.role;
     }
@@ -144,6 +155,23 @@ void readColors()
         line += *line == '\n';
         readLine(line);
     }
+}
+
+bool writeColors(const char* szFile)
+{
+    Buffer text;
+    for (const auto& word : kFileWords) {
+        const int nForeground = colors[word.role] / kOthers;
+        const int nBackground = colors[word.role] % kOthers;
+        text.add(word.text).add(" = (").add(nameOf(nForeground)).add(',');
+        text.add(nameOf(nBackground + (nBackground >= nForeground))).add(",OFF)\n");
+    }
+    const int nFd = open(szFile, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (nFd < 0 || !text.writeTo(nFd)) {
+        complain("cannot write to", szFile);
+        return false;
+    }
+    return close(nFd) == 0;
 }
 
 } // namespace kuldialog

@@ -15,6 +15,9 @@ extern unsigned char colors[kRoles];
 // lines of "screen_color = (WHITE,BLUE,ON)". What they say of other things is passed over.
 void readColors();
 
+// Writes a file as DIALOGRC names one, with the colours that are there. False where that fails.
+bool writeColors(const char* szFile);
+
 } // namespace kuldialog
 
 #endif

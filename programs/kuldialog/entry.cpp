@@ -19,17 +19,20 @@ constexpr int kMostCharacters = 2048;
 
 } // namespace
 
-// Arrows up and down leave the line; left and right are its own.
+// Arrows up and down leave the line, as the keys of the program do whose name this one has; left
+// and right are its own.
 int lineKey(Window& window, int nKey)
 {
-    if (!window.has(kBody)) {
-        if (nKey != KS_UP)
-            return nKey;
-        kulgui_setFocus(window.nChain, kBody);
-        return 0;
-    }
+    if (!window.has(kBody))
+        return nKey;
     if (nKey == KS_ENTER) {
         Window::chooseDefault();
+        return 0;
+    }
+    if (nKey == KS_UP && name == kWhiptail)
+        return 0;
+    if (nKey == KS_BACKTAB || (nKey == KS_UP && name == kDialog)) {
+        window.goToButtons(-1);
         return 0;
     }
     return nKey == KS_DOWN || nKey == KS_UP ? KS_TAB : nKey;

@@ -131,7 +131,7 @@ void Fields::fill()
 void Fields::create()
 {
     slotPlaces_ = static_cast<int*>(
-        std::calloc(static_cast<std::size_t>(window_.nBodyHeight) * 4 + 1, sizeof(int)));
+        std::malloc((static_cast<std::size_t>(window_.nBodyHeight) * 4 + 1) * sizeof(int)));
     if (!slotPlaces_)
         return;
     // All that will ever be there come first, before the buttons.

@@ -94,7 +94,7 @@ void Reader::showText()
 
 void Reader::takeLine(const char* szLine)
 {
-    const bool mark = std::strncmp(szLine, "XXX", 3) == 0;
+    const bool mark = begins(szLine, "XXX");
     if (mark && linesOfBlock_ < 0) {
         linesOfBlock_ = 0;
         text_.clear();
@@ -205,16 +205,15 @@ Answer countSeconds(const Call& call, Window& window)
 // What the states of a mixed gauge are called.
 const char* stateName(const char* szState, Buffer& room)
 {
-    constexpr const char* kStates[] = {"Succeeded", "Failed", "Passed",  "Completed",
-                                       "Checked",   "Done",   "Skipped", "In Progress",
-                                       "",          "N/A"};
-    constexpr int kCount = sizeof kStates / sizeof *kStates;
+    constexpr char kStates[] = "Succeeded\0Failed\0Passed\0Completed\0Checked\0Done\0Skipped\0"
+                               "In Progress\0\0N/A";
+    constexpr int kCount = 10;
     char* end;
     const long nState = std::strtol(szState, &end, 10);
     if (end == szState || *end || nState >= kCount)
         return szState;
     if (nState >= 0)
-        return kStates[nState];
+        return textAt(kStates, static_cast<int>(nState));
     room.clear();
     room.addNumber(static_cast<int>(-nState));
     room.add('%');

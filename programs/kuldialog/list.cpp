@@ -25,9 +25,9 @@ constexpr int kBetween = 1; // columns from tag to item
 
 bool isOn(const char* szStatus)
 {
-    const bool more =
-        name == kWhiptail && (strcasecmp(szStatus, "yes") == 0 || std::strcmp(szStatus, "1") == 0);
-    return more || strcasecmp(szStatus, "on") == 0;
+    const bool more = name == kWhiptail &&
+                      (strncasecmp(szStatus, "yes", 4) == 0 || std::strcmp(szStatus, "1") == 0);
+    return more || strncasecmp(szStatus, "on", 3) == 0;
 }
 
 // The items of the command line, as their tokens stand there.
@@ -38,8 +38,10 @@ public:
           size_(itemSize(settings_, call.variant)), variant_(call.variant),
           count_(std::max(call.count - kBefore, 0) / size_)
     {
-        for (int i = 0; showsTags() && i < count_; ++i)
-            tagColumns_ = std::max(tagColumns_, columns(tag(i)));
+        for (int i = 0; i < count_; ++i) {
+            tagColumns_ = showsTags() ? std::max(tagColumns_, columns(tag(i))) : 0;
+            layOut(text(i), nullptr);
+        }
     }
 
     int count() const { return count_; }
@@ -61,8 +63,17 @@ public:
         return -1;
     }
 
+    // Whether a tag begins so.
+    bool begins(int nCharacter) const
+    {
+        bool any = false;
+        for (int i = 0; i < count_; ++i)
+            any = any || *tag(i) == nCharacter;
+        return any;
+    }
+
     // What stands in the row of an item, at most so many columns.
-    void row(int nItem, int nMost, Buffer& text) const
+    void row(int nItem, int nMost, Buffer& text)
     {
         Buffer whole;
         for (int i = 2 * depth(nItem); i > 0; --i)
@@ -73,21 +84,51 @@ public:
                 whole.add(' ');
         }
         if (showsText())
-            whole.add(this->text(nItem));
+            layOut(this->text(nItem), &whole);
         text.clear();
         text.add(whole.text(), bytesWithin(whole.text(), nMost));
     }
 
     int widest() const
     {
-        int nText = 0;
-        for (int i = 0; showsText() && i < count_; ++i)
-            nText = std::max(nText, 2 * depth(i) + columns(text(i)));
+        int nText = -1;
+        for (const int nPart : parts_)
+            nText += nPart;
+        int nDeepest = 0;
+        for (int i = 0; i < count_; ++i)
+            nDeepest = std::max(nDeepest, depth(i));
+        nText = showsText() ? nText + 2 * nDeepest : 0;
         return tagColumns_ + (showsTags() && showsText() ? kBetween : 0) + nText;
     }
 
 private:
     static constexpr int kBefore = 4; // text, height, width and height of the list
+
+    static constexpr int kMostParts = 8;
+
+    // The parts of a text, with separators between, stand below those of the others. Without a text
+    // to add them to they are measured.
+    void layOut(const char* szText, Buffer* whole)
+    {
+        const char* szSeparator = settings_.text(kColumnSeparator, "");
+        for (int& nWidth : parts_) {
+            const char* end = *szSeparator && &nWidth != &parts_[kMostParts - 1]
+                                  ? std::strstr(szText, szSeparator)
+                                  : nullptr;
+            Buffer part;
+            part.add(szText, end ? static_cast<std::size_t>(end - szText) : std::strlen(szText));
+            const int nColumns = columns(part.text()) + 1;
+            if (whole)
+                whole->add(part.text());
+            else
+                nWidth = std::max(nWidth, nColumns);
+            if (!end)
+                return;
+            for (int i = nColumns; whole && i <= nWidth; ++i)
+                whole->add(' ');
+            szText = end + std::strlen(szSeparator);
+        }
+    }
 
     bool hasText() const
     {
@@ -111,6 +152,7 @@ private:
     int variant_;
     int count_;
     int tagColumns_ = 0;
+    int parts_[kMostParts] = {}; // columns of each, with a blank
 };
 
 // A list on the screen, and what is chosen in it.
@@ -122,7 +164,7 @@ public:
     void create();
     Answer answer(Answer answer);
 
-    const Items items;
+    Items items;
 
     int key(int nKey);
     void showHelp();
@@ -198,7 +240,9 @@ void List::create()
         if (oneChosen() && nOn < 0 && items.on(i))
             kuloptions_setClicked(nChain, kBody, nOn = i);
     }
-    const int nDefault = items.find(window_.settings.texts[kDefaultItem]);
+    int nDefault = items.find(window_.settings.texts[kDefaultItem]);
+    for (int i = 0; variant_ == kBuiltList && nDefault < 0 && i < items.count(); ++i)
+        nDefault = items.on(i) ? -1 : i; // where another one begins with those that are off
     if (nDefault >= 0 && (name != kWhiptail || !marked))
         kulgui_select(nChain, kBody, nDefault);
 }
@@ -222,23 +266,35 @@ void List::showHelp()
     UpdateDisplayComponents(GetPrimaryChain()->Pointer);
 }
 
-// Enter takes what is chosen; left and right go to the buttons, up and down come back.
+// Enter takes what is chosen. The keys that lead to the buttons and back are those of the program
+// whose name this one has, and so is whether a list goes round.
 int List::key(int nKey)
 {
-    if (window_.has(kButtonRow)) {
-        if (nKey != KS_UP && nKey != KS_DOWN)
-            return nKey;
+    const bool back = nKey == KS_LEFT || nKey == KS_BACKTAB;
+    const bool row = window_.has(kButtonRow);
+    const int nStep = nKey == KS_UP ? -1 : nKey == KS_DOWN ? 1 : 0;
+    const int nNext = current() + nStep;
+    const bool none = nStep != 0 && (nNext < 0 || nNext >= items.count());
+    if (row && nStep != 0 && name != kWhiptail) {
+        if (!none)
+            kulgui_select(window_.nChain, kBody, nNext);
         kulgui_setFocus(window_.nChain, kBody);
         return 0;
     }
-    if (nKey == KS_LEFT || nKey == KS_RIGHT) {
-        window_.goToButtons(nKey == KS_LEFT ? -1 : 1);
-        return 0;
-    }
+    if (row || (none && name != kOwn))
+        return row ? nKey : 0;
     if (nKey == KS_ENTER) {
         Window::chooseDefault();
         return 0;
     }
+    if (name == kWhiptail && (nKey == KS_LEFT || nKey == KS_RIGHT))
+        return items.isMarked() ? (back ? KS_UP : KS_DOWN) : back ? 0 : KS_TAB;
+    if (back || nKey == KS_RIGHT || (nKey == KS_TAB && name == kDialog)) {
+        window_.goToButtons(back ? -1 : 1);
+        return 0;
+    }
+    if (nKey >= '1' && nKey <= '9' && name != kWhiptail && !items.isMarked() && !items.begins(nKey))
+        kulgui_select(window_.nChain, kBody, nKey - '1');
     return nKey;
 }
 
@@ -276,9 +332,7 @@ void List::addHelpOf(int nItem)
 // Lets the text of an item be changed.
 Answer List::rename(int nItem)
 {
-    Settings settings = window_.settings;
-    settings.flags[kExtraButton] = settings.flags[kHelpButton] = settings.flags[kNoOk] = false;
-    settings.texts[kDefaultButton] = nullptr;
+    const Settings settings = withoutButtons(window_.settings);
     char* size[] = {const_cast<char*>("0"), const_cast<char*>("0")};
     Window window({settings, size, 2, 0}, items.tag(nItem), 0);
     if (!window.open(kOkCancel, 1, 1, 40))

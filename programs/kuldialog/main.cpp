@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include <kulgui.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include "boxes.hpp"
@@ -15,6 +16,7 @@
 #include "output.hpp"
 #include "terminal.hpp"
 #include "text.hpp"
+#include "window.hpp"
 
 namespace {
 
@@ -110,7 +112,7 @@ Answer Program::runBox()
     if (!checkArguments(*line_.box(), call))
         return kFailed;
     if (!isScreenOpen() && !takeTerminal()) {
-        complain("there is no terminal", "");
+        complain("there is no", "terminal");
         return kFailed;
     }
     if (!isScreenOpen() && !openScreen()) {
@@ -125,11 +127,17 @@ Answer Program::runBox()
     printFacts(call.settings);
     showDesktop(call.settings);
     const Answer answer = line_.box()->run(call);
+    if (answer == kAccepted && call.settings.is(kLastKey)) {
+        if (output.size() > 0)
+            output.add(' ');
+        // A newline is what scripts know of Enter.
+        output.addNumber(Window::nLastKey == KS_ENTER ? '\n' : Window::nLastKey).add(' ');
+    }
     stays_ = nullptr;
     if (std::strcmp(line_.box()->name, "infobox") == 0)
         stays_ = prepareText(call.settings, call.argument(0));
     if (call.settings.numbers[kSleep] > 0)
-        sleep(static_cast<unsigned>(call.settings.numbers[kSleep]));
+        poll(nullptr, 0, 1000 * call.settings.numbers[kSleep]);
     return answer;
 }
 
@@ -137,6 +145,8 @@ Answer Program::runBox()
 int Program::noBox(bool any)
 {
     const Settings& settings = line_.settings();
+    if (!any && settings.texts[kNewFile])
+        return statusOf(writeColors(settings.texts[kNewFile]) ? kAccepted : kFailed);
     const bool printed = settings.is(kPrintVersion) || settings.is(kPrintMaxsize);
     const bool clears = settings.is(kClear) && name != kWhiptail;
     if (!any && (clears || settings.is(kPrintMaxsize)) && takeTerminal())
@@ -194,10 +204,10 @@ int main(int argc, char** argv)
     std::setlocale(LC_CTYPE, ""); // what texts need; the rest costs time
     takeName(argc > 0 ? argv[0] : "");
     // One of the programs answers a single word that is no box by itself with its help.
-    constexpr const char* kAlone[] = {"--clear", "--print-maxsize", "--print-version", "--version"};
+    constexpr char kAlone[] = "--clear\0--print-maxsize\0--print-version\0--version";
     bool helps = name == kDialog && argc <= 2;
-    for (const char* szWord : kAlone)
-        helps = helps && (argc < 2 || std::strcmp(argv[1], szWord) != 0);
+    for (int i = 0; i < 4; ++i)
+        helps = helps && (argc < 2 || std::strcmp(argv[1], textAt(kAlone, i)) != 0);
     if (helps) {
         printHelp();
         return 0;

@@ -12,6 +12,7 @@
 
 #include "output.hpp"
 #include "terminal.hpp"
+#include "text.hpp"
 
 namespace kuldialog {
 
@@ -49,15 +50,15 @@ constexpr Option kOptions[] = {
     {"cancel-label", kOthers, Take::Text, kCancelLabel},
     {"clear", kAll, Take::Flag, kClear},
     {"colors", kOthers, Take::Flag, kColors},
-    {"column-separator", kOthers, Take::Text, kIgnoredText},
+    {"column-separator", kOthers, Take::Text, kColumnSeparator},
     {"cr-wrap", kOthers, Take::Flag, kCrWrap},
-    {"create-rc", kOthers, Take::Text, kIgnoredText},
+    {"create-rc", kOthers, Take::Text, kNewFile},
     {"cursor-off-label", kOthers, Take::Flag, kIgnoredFlag},
     {"date-format", kOthers, Take::Text, kIgnoredText},
     {"default-button", kOthers, Take::Text, kDefaultButton},
     {"default-item", kAll, Take::Text, kDefaultItem},
     {"defaultno", kAll, Take::Flag, kDefaultNo},
-    {"erase-on-exit", kOthers, Take::Flag, kIgnoredFlag},
+    {"erase-on-exit", kOthers, Take::Flag, kClear},
     {"exit-label", kOthers, Take::Text, kExitLabel},
     {"extra-button", kOthers, Take::Flag, kExtraButton},
     {"extra-label", kOthers, Take::Text, kExtraLabel},
@@ -71,7 +72,7 @@ constexpr Option kOptions[] = {
     {"help-label", kOthers, Take::Text, kHelpLabel},
     {"help-status", kOthers, Take::Flag, kHelpStatus},
     {"help-tags", kOthers, Take::Flag, kHelpTags},
-    {"hfile", kOthers, Take::Text, kIgnoredText},
+    {"hfile", kOthers, Take::Text, kHelpFile},
     {"hline", kOthers, Take::Text, kHline},
     {"icon", kOthers, Take::Flag, kIgnoredFlag},
     {"ignore", kOthers, Take::Flag, kIgnoredFlag},
@@ -82,7 +83,7 @@ constexpr Option kOptions[] = {
     {"keep-colors", kOthers, Take::Flag, kIgnoredFlag},
     {"keep-tite", kOthers, Take::Flag, kIgnoredFlag},
     {"keep-window", kOthers, Take::Flag, kIgnoredFlag},
-    {"last-key", kOthers, Take::Flag, kIgnoredFlag},
+    {"last-key", kOthers, Take::Flag, kLastKey},
     {"max-input", kOthers, Take::Number, kMaxInput},
     {"no-button", kAll, Take::Text, kNoLabel},
     {"no-cancel", kOthers, Take::Flag, kNoCancel},
@@ -198,7 +199,7 @@ bool findOption(Option& option, const char* szName, std::size_t size)
 bool findTurnedOff(Option& option, const char* szName)
 {
     Buffer longer;
-    if (std::strncmp(szName, "no-", 3) == 0)
+    if (begins(szName, "no-"))
         szName += 3;
     else
         szName = longer.add("no-").add(szName).text();
@@ -316,12 +317,12 @@ bool CommandLine::takeValue(const Option& option, const char* szValue)
 bool CommandLine::insert(const char* szText, int nRemoved)
 {
     const std::size_t size = std::strlen(szText);
-    char* text = strdup(szText);
+    char* text = copyOf(szText, size);
     // A word takes two characters at least.
     const std::size_t most = static_cast<std::size_t>(count_) + size / 2 + 2;
     auto** all = static_cast<char**>(std::malloc(most * sizeof(char*)));
     if (!text || !all)
-        return fail("out of memory", "");
+        return fail("out of", "memory");
     int n = place_;
     std::memcpy(all, tokens_, static_cast<std::size_t>(n) * sizeof(char*));
     for (char* at = text; char* word = nextWord(at);)

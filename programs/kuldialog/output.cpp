@@ -2,10 +2,12 @@
 #include "output.hpp"
 
 #include <cstring>
+#include <new>
 
 namespace kuldialog {
 
-Buffer output;
+alignas(Buffer) static char outputRoom[sizeof(Buffer)];
+Buffer& output = *new (outputRoom) Buffer;
 
 namespace {
 

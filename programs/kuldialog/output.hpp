@@ -10,7 +10,7 @@
 
 namespace kuldialog {
 
-extern Buffer output;
+extern Buffer& output; // to the end of the program
 
 // Parts the answer of a box from that of the box before.
 void beginAnswer(const Settings& settings);

@@ -33,6 +33,11 @@ int wanted(const dirent* entry)
     return !hidden && (maybeDirectory || !directoriesOnly);
 }
 
+int inOrder(const dirent** one, const dirent** other)
+{
+    return std::strcmp((*one)->d_name, (*other)->d_name);
+}
+
 class Picker {
 public:
     Picker(Window& window, const char* szPath) : window_(window) { path_.add(szPath); }
@@ -90,7 +95,7 @@ void Picker::fill()
     listed_.add(path_.text(), directorySize());
     dropEntries();
     count_ =
-        std::max(scandir(listed_.size() ? listed_.text() : ".", &entries_, wanted, alphasort), 0);
+        std::max(scandir(listed_.size() ? listed_.text() : ".", &entries_, wanted, inOrder), 0);
     kuldynmenu_config(window_.nChain, kEntries, colors[kFocus], colors[kWindowColor], KUL_KEEP, 1,
                       window_.nBodyY, window_.nWidth - 4, window_.nBodyHeight - 3, nullptr, nullptr,
                       nullptr, nullptr);
@@ -156,7 +161,7 @@ void Picker::complete()
     std::size_t common = 0;
     for (int i = 0; i < count_; ++i) {
         const char* entry = entries_[i]->d_name;
-        if (std::strncmp(entry, szName, size) != 0)
+        if (!begins(entry, szName))
             continue;
         std::size_t same = 0;
         while (first && first[same] && first[same] == entry[same])
@@ -186,7 +191,7 @@ int Picker::key(int nKey)
             kulgui_setFocus(window_.nChain, kEntries);
             return 0;
         }
-        return lineKey(window_, nKey);
+        return nKey == KS_BACKTAB ? nKey : lineKey(window_, nKey);
     }
     if (!window_.has(kEntries))
         return nKey;

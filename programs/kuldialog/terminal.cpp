@@ -35,7 +35,7 @@ int openTerminal(int nFirst, int nSecond)
 {
     if (isatty(nFirst)) {
         const int nOpened = openAgain(nFirst);
-        return nOpened >= 0 ? nOpened : dup(nFirst);
+        return nOpened >= 0 ? nOpened : fcntl(nFirst, F_DUPFD_CLOEXEC, 0);
     }
     const int nControlling = open(kTerminal, O_RDWR | O_CLOEXEC);
     if (nControlling >= 0)

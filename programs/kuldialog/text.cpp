@@ -56,6 +56,22 @@ char* prepareText(const Settings& settings, const char* szText)
     return text;
 }
 
+const char* textAt(const char* szTexts, int nPlace)
+{
+    for (; nPlace > 0; --nPlace)
+        szTexts += std::strlen(szTexts) + 1;
+    return szTexts;
+}
+
+bool begins(const char* szText, const char* szStart)
+{
+    while (*szStart && *szStart == *szText) {
+        ++szStart;
+        ++szText;
+    }
+    return !*szStart;
+}
+
 int letters(const char* szText, std::size_t size)
 {
     int nLetters = 0;

@@ -19,6 +19,12 @@ using kulready::columns;
 using kulready::Rows;
 using kulready::widestLine;
 
+// The text of that place, from 0, in a row of texts with their ends.
+const char* textAt(const char* szTexts, int nPlace);
+
+// Whether a text begins with another one.
+bool begins(const char* szText, const char* szStart);
+
 // Letters in the first bytes of a text, marks with theirs.
 int letters(const char* szText, std::size_t size);
 

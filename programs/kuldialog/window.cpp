@@ -8,6 +8,7 @@
 
 #include <kulgui.h>
 
+#include "boxes.hpp"
 #include "terminal.hpp"
 
 namespace kuldialog {
@@ -34,6 +35,14 @@ char lowered(int nKey)
 }
 
 } // namespace
+
+Settings withoutButtons(const Settings& settings)
+{
+    Settings plain = settings;
+    plain.flags[kExtraButton] = plain.flags[kHelpButton] = plain.flags[kNoOk] = false;
+    plain.texts[kDefaultButton] = plain.texts[kHelpFile] = nullptr;
+    return plain;
+}
 
 Window* Window::running = nullptr;
 
@@ -272,19 +281,15 @@ void Window::setText(const char* szText)
     area_.showStart();
 }
 
-// The key that the row of buttons gets for this one: Tab goes through them, Space clicks. A first
-// letter clicks at once.
+// The key that the row of buttons gets for this one: Tab and the arrows go through them, and on
+// from the last one to what else there is, or round. One of the programs has its arrows stay there.
 int Window::movedInRow(int nKey)
 {
     KULMENU* row = buttonRow(nChain);
+    if (area_.scroll(nKey))
+        return 0;
     if (!row || buttonCount_ == 0)
-        return area_.scroll(nKey) ? 0 : nKey;
-    if (nKey == KS_TAB && row->nSelect + 1 < buttonCount_)
-        return KS_RIGHT;
-    if (nKey == KS_BACKTAB && row->nSelect > 0)
-        return KS_LEFT;
-    if (nKey == KS_TAB)
-        row->nSelect = 0; // for when the focus comes round
+        return nKey;
     if (nKey == KS_SPACE)
         return KS_ENTER;
     for (int i = 0; i < buttonCount_ && name != kWhiptail && nKey > KS_SPACE && nKey < 127; ++i) {
@@ -293,12 +298,32 @@ int Window::movedInRow(int nKey)
             return 0;
         }
     }
-    return area_.scroll(nKey) ? 0 : nKey;
+    const bool forward = nKey == KS_TAB || nKey == KS_RIGHT || nKey == KS_DOWN;
+    if (!forward && nKey != KS_BACKTAB && nKey != KS_LEFT && nKey != KS_UP)
+        return nKey;
+    const int nNext = row->nSelect + (forward ? 1 : -1);
+    if (nNext >= 0 && nNext < buttonCount_)
+        return forward ? KS_RIGHT : KS_LEFT;
+    if (name == kWhiptail && nKey != KS_TAB && nKey != KS_BACKTAB && (forward || isAlone()))
+        return 0;
+    // For when the focus comes round.
+    kulgui_select(nChain, kButtonRow, forward || !isAlone() ? 0 : buttonCount_ - 1);
+    return isAlone() ? 0 : forward ? KS_TAB : KS_BACKTAB;
+}
+
+// The file that F1 tells is in a window above this one.
+void Window::showHelpFile() const
+{
+    const Settings plain = withoutButtons(settings);
+    char zero[] = "0";
+    char* arguments[] = {const_cast<char*>(settings.texts[kHelpFile]), zero, zero};
+    runView({plain, arguments, 3, kWhole});
+    kulgui_destroy(nLastChain);
 }
 
 void Window::handleKey()
 {
-    const int nPressed = kulgui_getKey();
+    const int nPressed = nLastKey = kulgui_getKey();
     if (timer_ > 0) {
         kulgui_stopTimer(timer_);
         timer_ = kulgui_setTimer(1000 * settings.numbers[kTimeLimit], timeIsUp);
@@ -307,6 +332,11 @@ void Window::handleKey()
         kulgui_destroyAll();
         std::signal(SIGINT, SIG_DFL);
         std::raise(SIGINT);
+    }
+    if (nPressed == KS_F1 && settings.texts[kHelpFile]) {
+        showHelpFile();
+        kulgui_setKey(0);
+        return;
     }
     int nKey = onKey ? onKey(*this, nPressed) : nPressed;
     if (nKey != 0 && has(kButtonRow))

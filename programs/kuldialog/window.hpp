@@ -55,6 +55,8 @@ public:
     void setText(const char* szText); // kept by the caller
     void goToButtons(int nStep);      // from the body, to the next or previous one
 
+    static inline int nLastKey = 0;
+
     // The keys come to the body first, which returns the one that is to go on, 0 for none. Then
     // they come to buttons and text.
     int (*onKey)(Window& window, int nKey) = nullptr;
@@ -68,6 +70,7 @@ public:
     int nBodyHeight = 0;
     int nFocus = kButtonRow; // where it begins
 
+    bool isAlone() const { return nFocus == kButtonRow; } // whether there is nothing but buttons
     int innerWidth() const { return nWidth - 4; }
     bool has(int nRef) const; // whether that component has the focus
 
@@ -86,6 +89,7 @@ private:
     int movedInRow(int nKey);
     int button() const; // index of the selected one
     void handleKey();
+    void showHelpFile() const;
     int defaultButton() const;
     int buttonColumns() const;
 
@@ -106,6 +110,9 @@ private:
     int timer_ = -1;
     Answer answer_ = kFailed;
 };
+
+// The settings without what belongs to one box: for one that a box shows itself.
+Settings withoutButtons(const Settings& settings);
 
 } // namespace kuldialog
 

@@ -47,6 +47,8 @@ std::string bytesOf(const std::string& key)
 {
     if (key == "home" || key == "end")
         return key == "home" ? "\033[1~" : "\033[4~";
+    if (key == "f1")
+        return "\033[[A";
     if (const auto bytes = keyBytes(key))
         return std::string(*bytes);
     return key;
@@ -83,6 +85,8 @@ const std::vector<Row> kRows = {
     {kAll, ENTRY(""), "home X enter", 0, "Xinit"},
     {kAll, ENTRY(""), "tab tab enter", 1, ""},
     {kAll, ENTRY(""), "esc", 255, ""},
+    {kWhiptail | kDialog, ENTRY(""), "down down enter", 1, ""},
+    {kOthers, "$D --last-key --hfile file1 --inputbox x 8 40 i", "f1 enter enter", 0, "i 10 "},
     {kWhiptail, ENTRY("--nocancel"), "esc", 1, ""},
     {kAll, "$D --inputbox x 8 40 'a b\"c'", "enter", 0, "a b\"c"},
     {kAll, "$D --passwordbox x 8 40", "a b enter", 0, "ab"},
@@ -97,6 +101,9 @@ const std::vector<Row> kRows = {
     {kAll, "$D --menu x 0 0 0 a one b two", "enter", 0, "a"},
     {kWhiptail, MENU("--noitem"), "down enter", 0, "b"},
     {kWhiptail, MENU(""), "tab tab enter", 1, ""},
+    {kWhiptail, MENU(""), "up right enter", 0, "a"},
+    {kDialog, MENU(""), "tab enter", 1, ""},
+    {kOthers, MENU(""), "3 enter", 0, "c d"},
     {kOthers, MENU(""), "right enter", 1, ""},
     {kOthers, MENU("--no-cancel"), "right enter", 0, "a"},
     {kOthers, MENU("--quoted"), "end enter", 0, "\"c d\""},
@@ -165,6 +172,7 @@ const std::vector<Row> kRows = {
     {kOthers, "DIALOG_ERROR=13 $D --menu x", "", 13, "?"},
     {kOthers, "DIALOGOPTS='--no-cancel' " MENU(""), "right enter", 0, "a"},
     {kOthers, "$D --file options", "enter", 0, "i\"j"},
+    {kOthers, "$D --create-rc new && DIALOGRC=new " MENU(""), "enter", 0, "a"},
     {kWhiptail, "DIALOG_OK=10 " MENU(""), "enter", 0, "a"},
     // What is wrong.
     {kWhiptail, "$D --nosuch --msgbox x 8 40", "", 1, "?"},
