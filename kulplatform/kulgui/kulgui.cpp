@@ -245,7 +245,7 @@ int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnf
     CHAIN* chain = GetChain(nChain);
     if (!chain)
         return KUL_NO_CHAIN;
-    const kul::Pass pass;
+    const kul::Pass pass(kul::Pass::End::Later);
     const int nCreated = CreateGUI(chain);
     if (!chain->Pointer)
         return nCreated;
