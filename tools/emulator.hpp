@@ -28,6 +28,14 @@ struct Cell {
     bool operator==(const Cell&) const = default;
 };
 
+// As the eye sees it: of a blank without attributes the background alone.
+inline Cell seen(Cell cell)
+{
+    if (cell == Cell{.foreground = cell.foreground, .background = cell.background})
+        cell.foreground = kDefaultColour;
+    return cell;
+}
+
 struct Cursor {
     int row;
     int column;

@@ -18,7 +18,8 @@
     }
 NEVER(Offset)
 NEVER(GetChain)
-NEVER(CreateChain) NEVER(SetVar) NEVER(AddUIComponent) NEVER(Inkeys)
+NEVER(CreateChain)
+NEVER(SetVar) NEVER(AddUIComponent) NEVER(Inkeys)
 
     int Fill(void);
 double Poll(double seconds);

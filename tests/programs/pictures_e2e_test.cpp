@@ -18,7 +18,8 @@ using namespace kultools;
 
 std::string look(const Cell& cell)
 {
-    std::string text = std::to_string(cell.foreground) + " on " + std::to_string(cell.background);
+    std::string text = cell.foreground == kDefaultColour ? "" : std::to_string(cell.foreground) + ' ';
+    text += "on " + std::to_string(cell.background);
     text += cell.bold ? ", bold" : "";
     text += cell.underline ? ", underlined" : "";
     text += cell.reverse ? ", reversed" : "";
@@ -35,7 +36,7 @@ std::string pictureOf(const Terminal& terminal, int columns, int rows)
     for (int row = 0; row < rows; ++row) {
         text += terminal.row(row) + '\n';
         for (int column = 0; column < columns; ++column) {
-            const std::string now = look(terminal.cell(row, column));
+            const std::string now = look(seen(terminal.cell(row, column)));
             const auto [entry, added] = letters.try_emplace(now, static_cast<char>('a' + letters.size() - 1));
             if (added)
                 legend += std::string(1, entry->second) + ": " + now + '\n';

@@ -168,11 +168,6 @@ bool isTail(const ScreenCell& cell)
     return (cell.attr & A_CHARTEXT) > 1;
 }
 
-wchar_t letterOf(const ScreenCell& cell)
-{
-    return cell.chars[0];
-}
-
 int bytesOf(const ScreenCell& cell, char (&bytes)[kMostBytes])
 {
     int nBytes = 0;
@@ -213,11 +208,6 @@ bool isSameLetter(const ScreenCell& one, const ScreenCell& other)
 bool isTail(const ScreenCell&)
 {
     return false;
-}
-
-wchar_t letterOf(const ScreenCell& cell)
-{
-    return static_cast<wchar_t>(cell & A_CHARTEXT);
 }
 
 int bytesOf(const ScreenCell& cell, char (&bytes)[kMostBytes])

@@ -37,6 +37,26 @@ private:
 // As curses has it for a screen with nothing on it.
 ScreenCell blankCell();
 
+// The letter's code; 0 for one that curses does not know.
+inline wchar_t letterOf(const ScreenCell& cell)
+{
+#if NCURSES_WIDECHAR
+    return cell.chars[0];
+#else
+    return static_cast<wchar_t>(cell & A_CHARTEXT);
+#endif
+}
+
+// The same, 0 with marks on it as well.
+inline wchar_t bareLetterOf(const ScreenCell& cell)
+{
+#if NCURSES_WIDECHAR
+    if (cell.chars[1] != 0)
+        return 0;
+#endif
+    return letterOf(cell);
+}
+
 // The same letter, whatever it looks like.
 bool isSameLetter(const ScreenCell& one, const ScreenCell& other);
 
@@ -52,11 +72,18 @@ inline bool isSame(const ScreenCell& one, const ScreenCell& other)
 #endif
 }
 
+// The same attributes and colours, whatever the letter.
+inline bool isSameLook(const ScreenCell& one, const ScreenCell& other)
+{
+#if NCURSES_WIDECHAR
+    return one.attr == other.attr && one.ext_color == other.ext_color;
+#else
+    return ((one ^ other) & ~A_CHARTEXT) == 0;
+#endif
+}
+
 // The second half of a wide letter.
 bool isTail(const ScreenCell& cell);
-
-// The letter's code; 0 for one that curses does not know.
-wchar_t letterOf(const ScreenCell& cell);
 
 // Whether its letter is one of the second alphabet.
 bool isLine(const ScreenCell& cell);

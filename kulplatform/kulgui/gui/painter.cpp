@@ -14,32 +14,62 @@ namespace {
 
 constexpr int kLongestGap = 8; // of cells that may be written once more on the way to the next one
 
-int digits(int n)
+// Of a blank without attributes only the background is seen.
+bool isBare(const ScreenCell& cell, const Style& style)
 {
-    return n < 10 ? 1 : n < 100 ? 2 : 3;
+    return bareLetterOf(cell) == ' ' && style.attributes == 0;
+}
+
+// A letter of one byte, in the first alphabet.
+bool isLetter(const ScreenCell& cell)
+{
+    return bareLetterOf(cell) > ' ' && bareLetterOf(cell) <= '~' && !isLine(cell);
+}
+
+bool looksSame(const ScreenCell& one, const ScreenCell& other)
+{
+    Style style;
+    Style styleOther;
+    if (isSame(one, other))
+        return true;
+    if (letterOf(one) != letterOf(other) || !isSameLetter(one, other) || !lookOf(one, style) ||
+        !lookOf(other, styleOther))
+        return false;
+    return style.background == styleOther.background && style.attributes == styleOther.attributes &&
+           (style.foreground == styleOther.foreground || isBare(one, style));
 }
 
 } // namespace
 
 bool isErasable(const ScreenCell& cell, const Style& style)
 {
-    return letterOf(cell) == ' ' && style.attributes == 0 &&
-           (codes().erasesInColor || style.background == kDefaultColor);
+    return isBare(cell, style) && (codes().erasesInColor || style.background == kDefaultColor);
+}
+
+// Finds the first and the last column that differ, most of the others in pieces.
+void Painter::findChanges()
+{
+    constexpr int kPiece = 8;
+    const auto isSamePiece = [this](int nX) {
+        return std::memcmp(&next_[nX], &seen_[nX], kPiece * sizeof(ScreenCell)) == 0;
+    };
+    nFirst_ = 0;
+    nLast_ = COLS - 1;
+    while (nFirst_ + kPiece <= nLast_ && isSamePiece(nFirst_))
+        nFirst_ += kPiece;
+    while (nFirst_ + kPiece <= nLast_ && isSamePiece(nLast_ - kPiece + 1))
+        nLast_ -= kPiece;
+    while (nLast_ >= nFirst_ && isSame(next_[nLast_], seen_[nLast_]))
+        --nLast_;
+    while (nFirst_ < nLast_ && isSame(next_[nFirst_], seen_[nFirst_]))
+        ++nFirst_;
 }
 
 bool Painter::paint()
 {
-    nLast_ = COLS - 1;
-    while (nLast_ >= 0 && isSame(next_[nLast_], seen_[nLast_]))
-        --nLast_;
-    while (nFirst_ < nLast_ && isSame(next_[nFirst_], seen_[nFirst_]))
-        ++nFirst_;
+    findChanges();
     for (int x = nFirst_; x <= nLast_;) {
-        if (!differs(x)) {
-            ++x;
-            continue;
-        }
-        const int nPainted = paintFrom(x);
+        const int nPainted = differs(x) ? paintFrom(x) : 1;
         if (nPainted == 0)
             return false;
         x += nPainted;
@@ -47,16 +77,32 @@ bool Painter::paint()
     return true;
 }
 
+// The number of the layer that a cell belongs to: of the first with its look, else a new one.
+int Layers::of(const Style& style, bool isBare)
+{
+    int i = 0;
+    while (i < nKnown_ && style != styles_[i] &&
+           !(isBare && styles_[i].attributes == 0 && style.background == styles_[i].background))
+        ++i;
+    if (i == nNow_ && i == nKnown_)
+        styles_[nKnown_++] = style;
+    return std::min(i, kMost - 1);
+}
+
+// How many layers later it is to be painted: 0 for now, below 0 for never or done.
+int Painter::layersTo(int nX) const
+{
+    Style style;
+    if (looksSame(next_[nX], seen_[nX]))
+        return -1;
+    if (!layers_ || !lookOf(next_[nX], style))
+        return 0;
+    return layers_->of(style, isBare(next_[nX], style)) - layers_->now();
+}
+
 bool Painter::differs(int nX) const
 {
-    const ScreenCell& one = next_[nX];
-    const ScreenCell& other = seen_[nX];
-    Style style;
-    Style styleOther;
-    if (isSame(one, other))
-        return false;
-    return !isSameLetter(one, other) || !lookOf(one, style) || !lookOf(other, styleOther) ||
-           style != styleOther;
+    return layersTo(nX) == 0;
 }
 
 // The column behind the last one before nEnd that differs.
@@ -68,11 +114,11 @@ int Painter::lastChange(int nX, int nEnd) const
     return nEnd;
 }
 
-// Cells from nX on that are the same.
+// Cells from nX on that look the same.
 int Painter::runOf(int nX) const
 {
     int nEnd = nX + 1;
-    while (nEnd < COLS && isSame(next_[nEnd], next_[nX]))
+    while (nEnd < COLS && looksSame(next_[nEnd], next_[nX]))
         ++nEnd;
     return nEnd - nX;
 }
@@ -85,14 +131,28 @@ int Painter::runOfLines(int nX) const
     return nEnd - nX;
 }
 
+// How a cell is painted. What is not seen is left as it is worn, or as the next letter needs it
+// where there is something to change; but a cursor in that colour is to be seen.
+bool Painter::styleOf(int nX, Style& style) const
+{
+    const Style& worn = pen_.style();
+    if (!lookOf(next_[nX], style))
+        return false;
+    if (!isBare(next_[nX], style))
+        return true;
+    if (style.foreground == style.background ||
+        ((worn.foreground ^ style.background) & 2)) // one is light, the other one dark
+        style.foreground = worn.foreground;
+    return true;
+}
+
 // Whether a cell can be written as one byte with all as it is.
 bool Painter::isInHand(int nX) const
 {
     const ScreenCell& cell = next_[nX];
-    const wchar_t letter = letterOf(cell);
     Style style;
-    return letter >= ' ' && letter <= '~' && !isLine(cell) && (letter == ' ' || !pen_.inLines()) &&
-           lookOf(cell, style) && style == pen_.style();
+    return (bareLetterOf(cell) == ' ' || (isLetter(cell) && !pen_.inLines())) &&
+           styleOf(nX, style) && style == pen_.style();
 }
 
 // Over cells that stay, by writing them once more where that is shorter, or round them.
@@ -114,20 +174,23 @@ void Painter::approach(int nX)
     }
 }
 
-// Blanks by erasing, where that is shorter than writing them: how many, or 0.
+// Blanks by erasing, where that is shorter than writing them: how many, or 0. What a later layer
+// covers may be erased with them.
 int Painter::erase(int nX, const Style& style)
 {
     if (!isErasable(next_[nX], style))
         return 0;
-    const int nEnd = nX + runOf(nX);
+    int nEnd = nX + 1;
+    while (nEnd < COLS && (looksSame(next_[nEnd], next_[nX]) || layersTo(nEnd) > 0))
+        ++nEnd;
     const int nCount = lastChange(nX, nEnd) - nX;
     if (nEnd == COLS && nCount > 3) {
         pen_.wear(style);
         pen_.eraseRow();
         return nCount;
     }
-    const int nBack = nLast_ >= nEnd ? 3 + digits(nCount) : 0;
-    if (!codes().erasesCells || nCount <= 3 + digits(nCount) + nBack)
+    const int nCost = nLast_ >= nEnd ? 8 : 4; // with the way to the next cell
+    if (!codes().erasesCells || nCount <= nCost)
         return 0;
     pen_.wear(style);
     pen_.eraseCells(nCount);
@@ -143,7 +206,7 @@ int Painter::repeat(int nX, char letter)
         return 0;
     const int nEnd = std::min(nX + runOf(nX), COLS - 1);
     const int nCount = lastChange(nX, nEnd) - nX;
-    if (nCount <= 4 + digits(nCount - 1))
+    if (nCount < kLeast)
         return 0;
     pen_.repeat(letter, nCount);
     return nCount;
@@ -188,7 +251,7 @@ int Painter::paintFrom(int nX)
     Style style;
     if (isTail(next_[nX]))
         return paintFrom(nX - 1) - 1;
-    if (!lookOf(next_[nX], style))
+    if (!styleOf(nX, style))
         return 0;
     const int nColumns = nX + 1 < COLS && isTail(next_[nX + 1]) ? 2 : 1;
     approach(nX);
@@ -205,7 +268,20 @@ int Painter::paintFrom(int nX)
     if (const int nRepeated = nBytes == 1 ? repeat(nX, bytes[0]) : 0)
         return nRepeated;
     pen_.write({bytes, static_cast<std::size_t>(nBytes)}, nColumns);
-    return nColumns;
+    return nColumns + (isLetter(next_[nX]) ? goOn(nX) : 0);
+}
+
+// Paints the letters behind one that look as that does; returns how many.
+int Painter::goOn(int nX)
+{
+    int x = nX + 1;
+    for (; x < nLast_ && isLetter(next_[x]) && isSameLook(next_[x], next_[nX]) &&
+           letterOf(next_[x]) != letterOf(next_[x + 1]) && differs(x);
+         ++x) {
+        const char byte = static_cast<char>(letterOf(next_[x]));
+        pen_.write({&byte, 1}, 1);
+    }
+    return x - nX - 1;
 }
 
 } // namespace kul

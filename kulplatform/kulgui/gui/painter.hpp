@@ -9,11 +9,26 @@
 
 namespace kul {
 
+// What differs in many rows may be painted in layers, all that looks the same first, then what has
+// the next look: the ways are longer, but fewer colours are changed.
+class Layers {
+public:
+    int now() const { return nNow_; }
+    bool next() { return nNow_ < nKnown_ && ++nNow_ < kMost; } // false when all are painted
+    int of(const Style& style, bool isBare);
+
+private:
+    static constexpr int kMost = 8; // the last one takes all that is left
+    Style styles_[kMost];
+    int nKnown_ = 0;
+    int nNow_ = 0;
+};
+
 class Painter {
 public:
-    // The row as it is to be, and as it is now.
-    Painter(Pen& pen, int nY, const ScreenRow& next, const ScreenRow& seen)
-        : pen_(pen), nY_(nY), next_(next), seen_(seen)
+    // The row as it is to be, and as it is now; the cells of the layer that is due, null for all.
+    Painter(Pen& pen, int nY, const ScreenRow& next, const ScreenRow& seen, Layers* layers)
+        : pen_(pen), nY_(nY), layers_(layers), next_(next), seen_(seen)
     {
     }
 
@@ -25,10 +40,13 @@ public:
     int lastChanged() const { return nLast_; }
 
 private:
+    void findChanges();
+    int layersTo(int nX) const;
     bool differs(int nX) const;
     int lastChange(int nX, int nEnd) const;
     int runOf(int nX) const;
     int runOfLines(int nX) const;
+    bool styleOf(int nX, Style& style) const;
     bool isInHand(int nX) const;
 
     void approach(int nX);
@@ -37,9 +55,11 @@ private:
     int lineLetter(int nX, char (&bytes)[kMostBytes]);
     int letter(int nX, char (&bytes)[kMostBytes]);
     int paintFrom(int nX);
+    int goOn(int nX);
 
     Pen& pen_;
     int nY_;
+    Layers* layers_;
     int nFirst_ = 0;
     int nLast_ = -1;
     const ScreenRow& next_;

@@ -66,19 +66,20 @@ const Short& shorter(const Short& one, const Short& other)
     return other.size() < one.size() ? other : one;
 }
 
-Short absolute(Place to)
+// "ESC [ y ; x final", counted from 1, which need not be said.
+Short placed(Place at, char final)
 {
-    Short way;
-    way.add('\033');
-    way.add('[');
-    if (to.nY > 0)
-        way.number(to.nY + 1);
-    if (to.nX > 0) {
-        way.add(';');
-        way.number(to.nX + 1);
+    Short code;
+    code.add('\033');
+    code.add('[');
+    if (at.nY > 0)
+        code.number(at.nY + 1);
+    if (at.nX > 0) {
+        code.add(';');
+        code.number(at.nX + 1);
     }
-    way.add('H');
-    return way;
+    code.add(final);
+    return code;
 }
 
 // Several times the same byte, or one code with their number.
@@ -142,7 +143,7 @@ Short shortestWay(Place from, Place to, bool feeds, bool tabs)
 {
     if (from == to)
         return {};
-    Short best = absolute(to);
+    Short best = placed(to, 'H');
     if (from.nY < 0)
         return best;
     Short fromStart;
@@ -187,17 +188,12 @@ void addAttributes(Short& code, bool& first, unsigned attributes)
     }
 }
 
-// The change of what is worn by what is new; longer than any other way where it cannot be had.
-Short changed(const Style& from, const Style& to)
+// The change of what is worn by what is new, or of nothing after all is switched off: an empty
+// parameter does that.
+Short changed(const Style& from, const Style& to, bool anew)
 {
+    bool first = !anew;
     Short code;
-    const bool toDefault = (to.foreground == kDefaultColor && from.foreground != kDefaultColor) ||
-                           (to.background == kDefaultColor && from.background != kDefaultColor);
-    if (from.attributes & ~to.attributes || (toDefault && !codes().hasDefaultColors)) {
-        code.add(' ', 64);
-        return code;
-    }
-    bool first = true;
     code.add('\033');
     code.add('[');
     addAttributes(code, first, to.attributes & ~from.attributes);
@@ -209,20 +205,12 @@ Short changed(const Style& from, const Style& to)
     return first ? Short() : code;
 }
 
-// The same after all is switched off: an empty parameter does that.
-Short anew(const Style& to)
+// Whether that can be had without switching all off.
+bool isChange(const Style& from, const Style& to)
 {
-    Short code;
-    code.add('\033');
-    code.add('[');
-    bool first = false;
-    addAttributes(code, first, to.attributes);
-    if (to.foreground >= 0)
-        addColor(code, first, '3', to.foreground);
-    if (to.background >= 0)
-        addColor(code, first, '4', to.background);
-    code.add('m');
-    return code;
+    const bool toDefault = (to.foreground == kDefaultColor && from.foreground != kDefaultColor) ||
+                           (to.background == kDefaultColor && from.background != kDefaultColor);
+    return !(from.attributes & ~to.attributes) && (!toDefault || codes().hasDefaultColors);
 }
 
 } // namespace
@@ -235,6 +223,14 @@ void Pen::start(Place place, const Style& worn, bool feeds, bool tabs)
     feeds_ = feeds && codes().feeds;
     tabs_ = tabs && codes().tabs;
     size_ = 0;
+}
+
+void Pen::returnTo(const State& state)
+{
+    place_ = state.place;
+    style_ = state.style;
+    inLines_ = state.inLines;
+    size_ = state.size;
 }
 
 void Pen::add(std::string_view text)
@@ -277,19 +273,17 @@ void Pen::wear(const Style& style)
 {
     if (style == style_)
         return;
-    const Short less = changed(style_, style);
-    const bool added =
-        !(style_.attributes & ~style.attributes) && style.foreground >= 0 && style.background >= 0;
-    if (added) { // and nothing to switch off, which would be longer
-        add(less.text());
-        style_ = style;
-        return;
+    const bool isLess = isChange(style_, style);
+    Short code = changed(style_, style, false);
+    if (!isLess || style.foreground < 0 || style.background < 0) {
+        const Short all = changed({}, style, true);
+        if (!isLess || all.size() < code.size()) {
+            if (codes().fontIsAttribute)
+                useLines(false);
+            code = all;
+        }
     }
-    const Short all = anew(style);
-    const bool offFirst = all.size() < less.size();
-    if (offFirst && codes().fontIsAttribute)
-        useLines(false);
-    add(offFirst ? all.text() : less.text());
+    add(code.text());
     style_ = style;
 }
 
@@ -322,28 +316,21 @@ void Pen::eraseCells(int nCount)
 
 void Pen::eraseRow()
 {
-    add("\033[K");
+    code(1, 'K');
 }
 
 void Pen::scroll(int nTop, int nBottom, int nRows)
 {
     const bool isPart = nTop > 0 || nBottom < LINES - 1;
     if (isPart) {
-        Short region;
-        region.add('\033');
-        region.add('[');
-        region.number(nTop + 1);
-        region.add(';');
-        region.number(nBottom + 1);
-        region.add('r');
-        add(region.text());
+        add(placed({nTop, nBottom}, 'r').text());
         place_ = kNowhere;
     }
     moveTo({nRows > 0 ? nBottom : nTop, 0});
     for (int i = std::abs(nRows); i > 0; --i)
         add(nRows > 0 ? "\n" : "\033M");
     if (isPart) {
-        add("\033[r");
+        code(1, 'r');
         place_ = kNowhere;
     }
 }

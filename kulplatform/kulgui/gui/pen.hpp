@@ -44,6 +44,16 @@ public:
     std::string_view bytes() const { return {text_, size_}; }
     bool failed() const { return failed_; }
 
+    // Where it was in what it writes, and back to that: what came after is not written.
+    struct State {
+        Place place;
+        Style style;
+        bool inLines;
+        std::size_t size; // of the bytes
+    };
+    State state() const { return {place_, style_, inLines_, size_}; }
+    void returnTo(const State& state);
+
     void moveTo(Place to);
     std::size_t distance(Place to) const; // the bytes of that
 

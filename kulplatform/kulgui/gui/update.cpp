@@ -72,17 +72,27 @@ Style normalStyle()
     return style;
 }
 
-// Clears the screen in the colour of its last cell, which most often is that of the largest part.
-// Where erasing does not leave that, nothing is known of what is seen then.
+// Clears the screen in the colour that some rows have most often at their ends. Where erasing does
+// not leave that, nothing is known of what is seen then.
 bool paintClear()
 {
-    if (!next.read(newscr, LINES - 1))
-        return false;
-    Style style;
-    ScreenCell blank = next[COLS - 1];
-    if (!lookOf(blank, style) || !isErasable(blank, style)) {
-        blank = blankCell();
-        style = normalStyle();
+    constexpr int kLooks = 4;
+    ScreenCell blank = blankCell();
+    Style style = normalStyle();
+    int nVotes = 0;
+    for (int i = 0; i < 2 * kLooks; ++i) {
+        Style other;
+        if (i % 2 == 0 && !next.read(newscr, LINES * (i + 1) / (2 * kLooks)))
+            return false;
+        const ScreenCell& cell = next[i % 2 * (COLS - 1)];
+        if (!lookOf(cell, other) || !isErasable(cell, other))
+            continue;
+        nVotes += isSame(cell, blank) ? 1 : -1;
+        if (nVotes < 0) {
+            blank = cell;
+            style = other;
+            nVotes = 1;
+        }
     }
     pen.wear(style);
     pen.clear();
@@ -140,32 +150,57 @@ bool readSeen(int nY)
     return seen.read(curscr, nFrom);
 }
 
-bool paintRows()
+// Paints what differs, or what of it belongs to the layer that is due.
+bool paintCells(Layers* layers)
 {
     const bool cleared = isCleared();
-    nFirstDue = LINES;
-    nLastDue = -1;
-    nFirstChanged = COLS;
-    nLastChanged = -1;
-    paintScroll();
-    if (cleared || scrolled != Scroll{}) {
-        nFirstChanged = 0;
-        nLastChanged = COLS - 1;
-    }
-    if (cleared && !paintClear())
-        return false;
     for (int y = 0; y < LINES; ++y) {
         if (!isDue(y))
             continue;
         nFirstDue = std::min(nFirstDue, y);
-        nLastDue = y;
-        Painter painter(pen, y, next, seen);
+        nLastDue = std::max(nLastDue, y);
+        Painter painter(pen, y, next, seen, layers);
         if (!next.read(newscr, y) || (!cleared && !readSeen(y)) || !painter.paint())
             return false;
         nFirstChanged = std::min(nFirstChanged, painter.firstChanged());
         nLastChanged = std::max(nLastChanged, painter.lastChanged());
     }
     return true;
+}
+
+// Row by row or, where that takes many bytes, in layers if these take fewer.
+bool paintInFewestBytes()
+{
+    constexpr std::size_t kMany = 200;
+    const Pen::State before = pen.state();
+    if (!paintCells(nullptr))
+        return false;
+    const std::size_t size = pen.state().size;
+    if (size < before.size + kMany)
+        return true;
+    pen.returnTo(before);
+    Layers layers;
+    do
+        paintCells(&layers);
+    while (layers.next());
+    if (pen.state().size <= size)
+        return true;
+    pen.returnTo(before);
+    return paintCells(nullptr);
+}
+
+bool paintRows()
+{
+    nFirstDue = LINES;
+    nLastDue = -1;
+    nFirstChanged = COLS;
+    nLastChanged = -1;
+    paintScroll();
+    if (isCleared() || scrolled != Scroll{}) {
+        nFirstChanged = 0;
+        nLastChanged = COLS - 1;
+    }
+    return (!isCleared() || paintClear()) && paintInFewestBytes();
 }
 
 // Tells curses what the terminal shows now.
