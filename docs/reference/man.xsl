@@ -100,14 +100,14 @@
   <xsl:template match="memberdef" mode="prototype">
     <xsl:text>.PP&#10;.in +4&#10;.ti -4&#10;\fB</xsl:text>
     <xsl:value-of select="type"/>
-    <xsl:if test="not(contains(type, '*'))">
+    <xsl:if test="substring(type, string-length(type)) != '*'">
       <xsl:text> </xsl:text>
     </xsl:if>
     <xsl:value-of select="name"/>
     <xsl:text>(\fP</xsl:text>
     <xsl:for-each select="param">
       <xsl:value-of select="type"/>
-      <xsl:if test="declname and not(contains(type, '*'))">
+      <xsl:if test="declname and substring(type, string-length(type)) != '*'">
         <xsl:text> </xsl:text>
       </xsl:if>
       <xsl:if test="declname">
@@ -142,7 +142,7 @@
     <xsl:for-each select="sectiondef/memberdef">
       <xsl:text>    </xsl:text>
       <xsl:value-of select="type"/>
-      <xsl:if test="not(contains(type, '*'))">
+      <xsl:if test="substring(type, string-length(type)) != '*'">
         <xsl:text> </xsl:text>
       </xsl:if>
       <xsl:value-of select="concat(name, argsstring, ';')"/>

@@ -739,9 +739,9 @@ KULGUI_API int kulbutton_execKeys(int nChain, int nRef);
  *
  *     File   Edit   Help        Left, Right: select; Enter: onClick
  *
- * Menus of all kinds go round their elements and one place more, after the last, on which none is
- * selected. GetCurrentSelectedMenuElement says which one is; elements have no callbacks of their
- * own. A menu keeps Tab and Escape (kulgui_setTabbing gives them away).
+ * GetCurrentSelectedMenuElement says which element is selected. In edition 1 menus of all kinds go
+ * round their elements and one place more, after the last, on which none is selected; elements have
+ * no callbacks of their own, and a menu keeps Tab and Escape (kulgui_setTabbing gives them away).
  */
 
 /** One element of a menu or dynamic menu. */
@@ -804,8 +804,8 @@ KULGUI_API int kulmenu_execKeys(int nChain, int nRef);
  *     │Bern          │
  *     └──────────────┴
  *
- * The list scrolls with the selection. The bar, when there are more elements than rows, stands
- * still.
+ * The list scrolls with the selection. The bar is there when there are more elements than rows; in
+ * edition 1 it stands still.
  */
 
 /** Adds a dynamic menu to a dialog. Returns KUL_OK, KUL_TAKEN_DYNMENU when a component has that
