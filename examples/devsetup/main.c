@@ -21,22 +21,31 @@ static struct settings saved;
 static struct settings settings;
 static const char* path = "devsetup.conf";
 
+static int is_changed(void)
+{
+    return !settings_equal(&saved, &settings);
+}
+
+static void show_state(void)
+{
+    if (is_changed())
+        kullabel_show(MAIN, STATE);
+    else
+        kullabel_hide(MAIN, STATE);
+}
+
 static void save(struct settings* now)
 {
     char text[512];
     const int error = settings_save(now, path);
     if (error == 0) {
         saved = *now;
+        show_state();
         kuldialog_tell(say(TEXT_SAVE), say(TEXT_SAVED));
         return;
     }
     snprintf(text, sizeof text, "%s\n%s: %s", say(TEXT_NOT_SAVED), path, strerror(error));
     kuldialog_tell(say(TEXT_SAVE), text);
-}
-
-static int is_changed(void)
-{
-    return !settings_equal(&saved, &settings);
 }
 
 /* Leaves the program, unless there is something to save and the user thinks better of it. */
@@ -69,14 +78,6 @@ static const struct {
 };
 
 enum { PAGE_COUNT = sizeof pages / sizeof *pages };
-
-static void show_state(void)
-{
-    if (is_changed())
-        kullabel_show(MAIN, STATE);
-    else
-        kullabel_hide(MAIN, STATE);
-}
 
 static void open_page(void)
 {
