@@ -41,6 +41,7 @@ static void save(struct settings* now)
     if (error == 0) {
         saved = *now;
         show_state();
+        kulgui_show(MAIN); /* below the message */
         kuldialog_tell(say(TEXT_SAVE), say(TEXT_SAVED));
         return;
     }
