@@ -99,6 +99,42 @@ void buildChecks(int nElements)
         kulcheckbox_addElement(kDialog, 1, elementText(i).c_str(), 0, 1, nullptr, nullptr);
 }
 
+// The same with an onSelect of the program's that changes nothing.
+void buildSelects(int nElements)
+{
+    buildChecks(nElements);
+    auto* list = static_cast<KULCHECKBOX*>(GetUIComponentByRef(kDialog, 1)->Pointer);
+    list->onSelect = [] {};
+}
+
+// Texts side by side, above a box of the description.
+void buildBar(int nElements)
+{
+    kulmenu_create(kDialog, 1);
+    kulmenu_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kulmenu_addElement(kDialog, 1, elementText(i).c_str(), 1, nullptr, nullptr);
+}
+
+void buildDescriptions(int nElements)
+{
+    kuldescrmenu_create(kDialog, 1);
+    kuldescrmenu_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, 36, 24, 8, nullptr, nullptr,
+                        nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kuldescrmenu_addElement(kDialog, 1, 1, elementText(i).c_str(),
+                                (elementText(i) + " is described here").c_str(), nullptr, nullptr);
+}
+
+void buildToolbar(int nElements)
+{
+    kultoolbar_create(kDialog, 1);
+    kultoolbar_config(kDialog, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, LATERAL, nullptr, nullptr,
+                      nullptr, nullptr);
+    for (int i = 0; i < nElements; ++i)
+        kultoolbar_addButton(kDialog, 1, "Button", 0, 1, nullptr, nullptr);
+}
+
 void buildOptions(int nElements)
 {
     kuloptions_create(kDialog, 1);
@@ -232,6 +268,11 @@ const kulbench::Scene kScenes[] = {
     {"menu", buildMenu, runDialog, KS_DOWN},
     {"checks", buildChecks, runDialog, KS_DOWN},
     {"options", buildOptions, runDialog, KS_DOWN},
+    {"space", buildChecks, runDialog, KS_SPACE},
+    {"selects", buildSelects, runDialog, KS_DOWN},
+    {"bar", buildBar, runDialog, KS_RIGHT},
+    {"descriptions", buildDescriptions, runDialog, KS_RIGHT},
+    {"toolbar", buildToolbar, runDialog, KS_RIGHT},
     {"fields", buildFields, runDialog, KS_TAB},
     {"texts", buildTexts, drawTexts, 0},
     {"texts-columns", buildTextsInColumns, drawTexts, 0},
