@@ -169,7 +169,7 @@ int __wrap__ZN3kul8awaitKeyEv()
     const int key = script.front();
     script.pop_front();
     if (key <= -2 && static_cast<std::size_t>(-2 - key) < scriptActions.size()) {
-        scriptActions[static_cast<std::size_t>(-2 - key)]();
+        ExecOnFunction(scriptActions[static_cast<std::size_t>(-2 - key)]); // as timers and polling do
         return 0;
     }
     nUpdates = key > 0 ? 0 : INT_MIN;

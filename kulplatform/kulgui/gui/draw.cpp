@@ -19,16 +19,19 @@ Disabled disabled;
 
 // The window with a clip; null for none.
 const WINDOW* clipped = nullptr;
-kul::Rows clipRows;
-bool clipExact = true;
+kul::Block clip;
+kul::Exact clipExact = kul::Exact::ByCell;
 
-// The rows of a window that are drawn now.
-kul::Rows rowsDrawn(const WINDOW* win)
+kul::Range drawnOf(const WINDOW* win, const kul::Range& range, int nEnd)
 {
-    const int nEnd = getmaxy(win);
     if (win != clipped)
         return {0, nEnd};
-    return {std::max(clipRows.nFirst, 0), std::min(clipRows.nEnd, nEnd)};
+    return {std::max(range.nFirst, 0), std::min(range.nEnd, nEnd)};
+}
+
+kul::Range columnsDrawn(const WINDOW* win)
+{
+    return drawnOf(win, clip.columns, getmaxx(win));
 }
 
 using Run = void (*)(WINDOW*, int, int, long long, chtype);
@@ -42,7 +45,7 @@ void coloredRun(Run run, WINDOW* win, int nY, int nX, long long nCount, int nCol
 
 void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
 {
-    const kul::Rows rows = rowsDrawn(win);
+    const kul::Rows rows = kul::rowsDrawn(win);
     const long long first = std::max(nY, rows.nFirst);
     const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), rows.nEnd);
     for (long long row = first; row < last; ++row)
@@ -108,11 +111,11 @@ bool needsParentheses()
     return !has_colors() && !(termattrs() & A_DIM);
 }
 
-Clip::Clip(WINDOW* win, Rows rows)
+Clip::Clip(WINDOW* win, const Block& block)
 {
     clipped = win;
-    clipRows = rows;
-    clipExact = true;
+    clip = block;
+    clipExact = Exact::ByCell;
 }
 
 Clip::~Clip()
@@ -120,27 +123,53 @@ Clip::~Clip()
     clipped = nullptr;
 }
 
-bool Clip::isExact() const
+Exact Clip::exact() const
 {
     return clipExact;
+}
+
+bool Clip::isExact() const
+{
+    return clipExact == Exact::ByCell ||
+           (clipExact == Exact::ByRow && clip.columns.nFirst == kAll.nFirst);
+}
+
+Rows rowsDrawn(const WINDOW* win)
+{
+    return drawnOf(win, clip.rows, getmaxy(win));
+}
+
+bool isDrawn(const WINDOW* win, const Block& block)
+{
+    const auto meet = [](const Range& one, const Range& other) {
+        return one.nFirst < other.nEnd && other.nFirst < one.nEnd;
+    };
+    return win != clipped || (meet(block.rows, clip.rows) && meet(block.columns, clip.columns));
 }
 
 bool isDrawn(const WINDOW* win, int nY, int nHeight)
 {
     return win != clipped ||
-           (nY < clipRows.nEnd && nY + static_cast<long long>(nHeight) > clipRows.nFirst);
+           (nY < clip.rows.nEnd && nY + static_cast<long long>(nHeight) > clip.rows.nFirst);
 }
 
 void drawAcrossRows(const WINDOW* win)
 {
     if (win == clipped)
-        clipExact = false;
+        clipExact = Exact::Never;
+}
+
+void drawAcrossColumns(const WINDOW* win)
+{
+    if (win == clipped)
+        clipExact = std::min(clipExact, Exact::ByRow);
 }
 
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
 {
-    const long long first = std::max<long long>(nX, 0);
-    const long long last = std::min<long long>(nX + nCount, getmaxx(win));
+    const Range columns = columnsDrawn(win);
+    const long long first = std::max(nX, columns.nFirst);
+    const long long last = std::min<long long>(nX + nCount, columns.nEnd);
     if (first < last && isDrawn(win, nY))
         mvwhline(win, nY, static_cast<int>(first), character, static_cast<int>(last - first));
 }
@@ -150,13 +179,24 @@ void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
     const Rows rows = rowsDrawn(win);
     const long long first = std::max(nY, rows.nFirst);
     const long long last = std::min<long long>(nY + nCount, rows.nEnd);
-    if (first < last)
+    const Range columns = columnsDrawn(win);
+    if (first >= last || nX < columns.nFirst || nX >= columns.nEnd)
+        return;
+    if (last - first == 1)
+        mvwhline(win, static_cast<int>(first), nX, character, 1); // costs half
+    else
         mvwvline(win, static_cast<int>(first), nX, character, static_cast<int>(last - first));
 }
 
 void drawCell(WINDOW* win, int nY, int nX, chtype cell)
 {
-    if (isDrawn(win, nY))
+    const Range columns = columnsDrawn(win);
+    if (!isDrawn(win, nY) || nX < columns.nFirst || nX >= columns.nEnd)
+        return;
+    // As a run of one it costs a third.
+    if (isPlain(static_cast<char>(cell & A_CHARTEXT)))
+        mvwhline(win, nY, nX, cell, 1);
+    else
         mvwaddch(win, nY, nX, cell);
 }
 
@@ -164,9 +204,10 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
 {
     if (!isDrawn(win, nY))
         return;
-    const long long first = std::max(0LL, -static_cast<long long>(nX));
+    const Range columns = columnsDrawn(win);
+    const long long first = std::max(0LL, columns.nFirst - static_cast<long long>(nX));
     const long long last =
-        std::min(static_cast<long long>(text.size()), getmaxx(win) - static_cast<long long>(nX));
+        std::min(static_cast<long long>(text.size()), columns.nEnd - static_cast<long long>(nX));
     // Finished cells know nothing of a background that the program may have given the window.
     const chtype background = getbkgd(win); // 0: none
     const bool finished = background == 0 || background == ' ';
@@ -189,9 +230,15 @@ void plainRun(WINDOW* win, int nY, int nX, std::string_view text)
 
 void drawLetter(WINDOW* win, int nY, int nX, const Letter& letter)
 {
-    if (!isDrawn(win, nY) || nX < 0 || letter.shown[0] == L'\0' ||
-        shifted(nX, letter.nColumns) > getmaxx(win))
+    const int nEnd = shifted(nX, letter.nColumns);
+    if (!isDrawn(win, nY) || nX < 0 || letter.shown[0] == L'\0' || nEnd > getmaxx(win))
         return;
+    const Range columns = columnsDrawn(win);
+    if (nX < columns.nFirst || nEnd > columns.nEnd) {
+        if (nX < columns.nEnd && nEnd > columns.nFirst)
+            drawAcrossColumns(win);
+        return;
+    }
 #if NCURSES_WIDECHAR
     cchar_t cell{};
     if (letter.shown[0] >= L' ' && letter.shown[0] != 127 &&
@@ -210,6 +257,10 @@ void DrawBorder(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nBackC
     const kul::Attribute color(win, nBackColor);
     const int nBottom = kul::shifted(nY, nHeight - 1LL);
     const int nRight = kul::shifted(nX, nWidth - 1LL);
+    if (nWidth < 2)
+        kul::drawAcrossColumns(win);
+    if (nHeight < 1)
+        kul::drawAcrossRows(win);
     kul::drawCell(win, nY, nX, ACS_ULCORNER);
     kul::drawCell(win, nY, nRight, ACS_URCORNER);
     kul::drawCell(win, nBottom, nX, ACS_LLCORNER);

@@ -65,34 +65,67 @@ public:
 // Whether the terminal can show what is disabled neither in a colour nor dim.
 bool needsParentheses();
 
-// Rows of a window: the first one, and the one behind the last.
-struct Rows {
+// Rows or columns of a window: the first one, and the one behind the last.
+struct Range {
     int nFirst;
     int nEnd;
 };
 
-constexpr Rows joined(Rows one, Rows other)
+using Rows = Range;
+
+constexpr Range kAll = {INT_MIN, INT_MAX};
+
+constexpr Range joined(Range one, Range other)
 {
     return {std::min(one.nFirst, other.nFirst), std::max(one.nEnd, other.nEnd)};
 }
 
-// While it lives, what is drawn into a window changes these rows alone.
+// A rectangle of cells.
+struct Block {
+    Rows rows;
+    Range columns;
+};
+
+constexpr Block joined(const Block& one, const Block& other)
+{
+    return {joined(one.rows, other.rows), joined(one.columns, other.columns)};
+}
+
+// How far drawing can be held to a part of a window and give the same picture.
+enum class Exact {
+    Never, // something goes on in the next row: all has to be drawn
+    ByRow, // something may leave the columns of what it belongs to
+    ByCell,
+};
+
+// While it lives, what is drawn into a window changes these cells alone.
 class Clip {
 public:
-    Clip(WINDOW* win, Rows rows);
+    Clip(WINDOW* win, const Block& block);
     ~Clip();
     Clip(const Clip&) = delete;
     Clip& operator=(const Clip&) = delete;
 
-    // False when something could not be told row by row, and all has to be drawn.
+    // What was drawn could be held to that much.
+    Exact exact() const;
+
+    // Whether the clip asked no more of it.
     bool isExact() const;
 };
+
+// The rows of a window that are drawn now.
+Rows rowsDrawn(const WINDOW* win);
+
+// Whether any cell of a block is drawn now, if nothing of what belongs there leaves it.
+bool isDrawn(const WINDOW* win, const Block& block);
 
 // Whether a row is drawn now, or one of some.
 bool isDrawn(const WINDOW* win, int nY, int nHeight = 1);
 
-// For what goes on in the next row at the right edge of one.
+// For what goes on in the next row at the right edge of one, and for what may leave the columns of
+// its component or takes columns that are not known here.
 void drawAcrossRows(const WINDOW* win);
+void drawAcrossColumns(const WINDOW* win);
 
 // Draws nCount cells to the right or down; those outside of the window are skipped.
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);

@@ -44,10 +44,12 @@ int spell(WINDOW* win, int nY, int nX, int nEnd, char character)
         return 1;
     const long long room = static_cast<long long>(nEnd) - nX;
     if (character == '\t') {
+        kul::drawAcrossColumns(win);
         const int nBlanks = TABSIZE - std::max(nX, 0) % TABSIZE;
         kul::hRun(win, nY, nX, std::min<long long>(nBlanks, room), ' ');
         return nBlanks;
     }
+    kul::drawAcrossColumns(win);
     const std::string_view shown(inCLocale(character));
     const std::size_t nShown = std::min(shown.size(), static_cast<std::size_t>(room));
     kul::plainRun(win, nY, nX, {shown.data(), nShown});
@@ -105,6 +107,7 @@ void drawBytes(WINDOW* win, int nY, int nX, std::string_view text)
             first += static_cast<long long>(nRun);
             continue;
         }
+        kul::drawAcrossColumns(win);
         if (characterBytes(rest) == 1 && kul::isDrawn(win, nY))
             mvwaddnstr(win, nY, nAt, rest.data(), 1);
         ++first;
@@ -153,6 +156,7 @@ void printOther(WINDOW* win, int nY, int nX, std::string_view text, bool onRow)
         kul::printLetters(win, nY, nX, INT_MAX, text, kul::ShownControls::Whole);
         return;
     }
+    kul::drawAcrossColumns(win);
     if (!onRow)
         kul::drawAcrossRows(win);
     else if (!kul::isDrawn(win, nY))

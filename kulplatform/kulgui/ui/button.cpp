@@ -169,7 +169,10 @@ void DrawButton(WINDOW* win, int nY, int nX, int, int nWidth, int nColorSet, con
     DrawBorder(win, nY, nX, kul::kButtonHeight, nWidth, nColorSet);
     const kul::Attribute color(win, nColorSet);
     kul::hRun(win, kul::shifted(nY, 1), kul::shifted(nX, 1), nWidth - 2LL, ' ');
-    kul::print(win, kul::shifted(nY, 1), kul::textColumn(nX, nWidth, szText), szText);
+    const int nText = kul::textColumn(nX, nWidth, szText);
+    if (nText < nX) // longer than the button
+        kul::drawAcrossColumns(win);
+    kul::print(win, kul::shifted(nY, 1), nText, szText);
 }
 
 int kulbutton_execKeys(int nChain, int nRef)

@@ -25,27 +25,31 @@ constexpr kul::UIKind kUIKinds[TEXTBOX + 1] = {
                kulmenu_execKeys>({.nTaken = KUL_TAKEN_MENU, .keepsTab = true}),
     kul::uiRow<kul::DynMenu, ConfigDynmenuComponent, ShowDynmenuComponent, kul::dropDynmenu,
                WipeDynmenuComponent, kuldynmenu_execKeys>(
-        {.nTaken = KUL_TAKEN_DYNMENU, .keepsTab = true}),
+        {.nTaken = KUL_TAKEN_DYNMENU, .keepsTab = true, .staysIn = true}),
     kul::uiRow<kul::DescrMenu, ConfigDescrmenuComponent, ShowDescrmenuComponent, kul::dropDescrmenu,
                WipeDescrmenuComponent, kuldescrmenu_execKeys>(
         {.nTaken = KUL_TAKEN_DESCRMENU, .keepsTab = true}),
     kul::uiRow<KULBUTTON, ConfigButtonComponent, ShowButtonComponent, kul::dropButton,
-               WipeButtonComponent, kulbutton_execKeys>(
-        {.nTaken = KUL_TAKEN_BUTTON, .keepsTab = true, .ownsEnter = true, .hasEnable = true}),
+               WipeButtonComponent, kulbutton_execKeys>({.nTaken = KUL_TAKEN_BUTTON,
+                                                         .keepsTab = true,
+                                                         .ownsEnter = true,
+                                                         .hasEnable = true,
+                                                         .staysIn = true}),
     kul::uiRow<kul::Toolbar, ConfigToolbarComponent, ShowToolbarComponent, kul::dropToolbar,
                WipeToolbarComponent, kultoolbar_execKeys>(
-        {.nTaken = KUL_TAKEN_TOOLBAR, .ownsEnter = true}),
+        {.nTaken = KUL_TAKEN_TOOLBAR, .ownsEnter = true, .staysIn = true}),
     kul::uiRow<kul::CheckList, ConfigCheckboxComponent, ShowCheckboxComponent,
                kul::dropList<KULCHECKBOX>, WipeCheckboxComponent, kulcheckbox_execKeys>(
-        {.nTaken = KUL_TAKEN_CHECKBOX, .startsSet = true, .ownsEnter = true}),
+        {.nTaken = KUL_TAKEN_CHECKBOX, .startsSet = true, .ownsEnter = true, .staysIn = true}),
     kul::uiRow<kul::OptionList, ConfigOptionsComponent, ShowOptionsComponent,
                kul::dropList<KULOPTIONS>, WipeOptionsComponent, kuloptions_execKeys>(
-        {.nTaken = KUL_TAKEN_OPTIONS, .startsSet = true, .ownsEnter = true}),
+        {.nTaken = KUL_TAKEN_OPTIONS, .startsSet = true, .ownsEnter = true, .staysIn = true}),
     kul::uiRow<kul::FileView, ConfigFileviewComponent, ShowFileviewComponent, kul::dropFileView,
                WipeFileviewComponent, kulfileview_execKeys>({.nTaken = KUL_TAKEN_FILEVIEW}),
     kul::uiRow<kul::TextBox, ConfigTextboxComponent, ShowTextboxComponent, kul::dropTextbox,
                WipeTextboxComponent, kultextbox_execKeys>(
-        {.nTaken = KUL_TAKEN_TEXTBOX, .startsSet = true, .hasEnable = true}, kul::textboxAccepts),
+        {.nTaken = KUL_TAKEN_TEXTBOX, .startsSet = true, .hasEnable = true, .staysIn = true},
+        kul::textboxAccepts),
 };
 
 // The records that the library keeps more in than the public one shows. A dialog has few of them,
@@ -103,6 +107,10 @@ void show(GUI* gui, UI* ui, bool focused)
         showDisabled(gui, *kind, ui->Pointer);
         return;
     }
+    // What it draws outside of its block has been told when all was drawn, and it would be drawn
+    // so.
+    if (!focused && !kul::isDrawn(gui->winMain, kind->block(ui->Pointer)))
+        return;
     if (focused) {
         const kul::Area area = kind->area(ui->Pointer);
         kul::showComponent(gui->winMain, area.nY, area.nX, area.nHeight, area.nWidth);
@@ -200,9 +208,11 @@ Area areaOf(const KULDYNMENU& menu)
     return {menu.nX, menu.nY, shifted(menu.nWidth, 2), shifted(menu.nHeight, 2), true};
 }
 
+// Its box hangs below, and ends where the border does.
 Area areaOf(const KULDESCRMENU& menu)
 {
-    return {menu.nX, menu.nY, menu.nBarLength, 1, false, INT_MAX};
+    const int nBelow = shifted(std::max(menu.nBoxHeight, 0), 1);
+    return {menu.nX, menu.nY, menu.nBarLength, 1, false, nBelow};
 }
 
 Area areaOf(const KULBUTTON& button)

@@ -81,6 +81,7 @@ struct UITraits {
     bool startsSet = false; // has its defaults before its config call
     bool ownsEnter = false; // does something at Enter, callback or not
     bool hasEnable = false; // nEnable of its record says whether it can be used
+    bool staysIn = false;   // draws into no column outside of its area, or says so
 };
 
 // The colours of a record, which lie next to each other in the records of all kinds and in dialogs.
@@ -142,14 +143,18 @@ struct UIKind {
         return fields.onClick != 0 && at<KULCALLBACK>(record, fields.onClick);
     }
 
-    // The rows that it draws into.
-    Rows rows(void* record) const
+    // The cells that it draws into.
+    Block block(void* record) const
     {
         const Area where = area(record);
-        return {where.nY, shifted(where.nY, where.nHeight + 0LL + where.nBelow)};
+        return {{where.nY, shifted(where.nY, where.nHeight + 0LL + where.nBelow)},
+                traits.staysIn ? Range{where.nX, shifted(where.nX, where.nWidth)} : kAll};
     }
 
-    Spot spot(void* record) const { return ownSpot ? ownSpot(record) : Spot{rows(record), 0}; }
+    Spot spot(void* record) const
+    {
+        return ownSpot ? ownSpot(record) : Spot{block(record).rows, 0};
+    }
 
 private:
     template <typename Field>

@@ -64,6 +64,7 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
         kul::printLetters(win, nY, nX, nEnd, szText, kul::ShownControls::Skipped, nWidth);
         return;
     }
+    kul::drawAcrossColumns(win);
     bool shown = false; // the letter that an accent goes to
     for (int nAt = nX; *szText && nAt < nEnd;) {
         const Print print = nextPrint(szText);

@@ -78,6 +78,24 @@ int colorOf(const List& list, AnyElement* element, bool focused, bool selected)
                : list.box.colors.nUnfocus;
 }
 
+// The view as it is, with rows that all are single.
+SingleRows singleRows(const List& list)
+{
+    return {list.box.FirstShowed, list.box.nFirstShowed, list.box.nLastShowed, textWidth(list),
+            changes()};
+}
+
+bool areSingle(const List& list)
+{
+    return list.ring && list.ring->single == singleRows(list);
+}
+
+// Rows of an element in view that is not the last one.
+int heightOf(const List& list, AnyElement* element, bool single)
+{
+    return single ? 1 : GetWrapTextHeight(textWidth(list), list[element].szText);
+}
+
 // Draws the elements in view.
 void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
 {
@@ -87,6 +105,10 @@ void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
     const int nRows = hasRoom(list) ? viewRows(list) : 0;
     const int nSeen = std::min(nRows, shifted(getmaxy(win), -static_cast<long long>(nY)));
     AnyElement* element = list.box.FirstShowed;
+    const Rows drawn = rowsDrawn(win);
+    // Who draws all of it may have changed the texts.
+    const bool single = (drawn.nFirst > 0 || drawn.nEnd < getmaxy(win)) && areSingle(list);
+    bool allSingle = true;
     int nUsed = 0;
     for (long long i = list.box.nFirstShowed; element && i <= list.box.nLastShowed && nUsed < nSeen;
          ++i) {
@@ -94,8 +116,8 @@ void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
         const int nColor = colorOf(list, element, focused, selected);
         const char* szText = list[element].szText;
         const int nTop = shifted(nY, nUsed);
-        const int nHeight =
-            i < list.box.nLastShowed ? GetWrapTextHeight(textWidth(list), szText) : nRows;
+        const int nHeight = i < list.box.nLastShowed ? heightOf(list, element, single) : nRows;
+        allSingle = allSingle && (nHeight == 1 || i == list.box.nLastShowed);
         const int nCut = std::min(nHeight, nRows - nUsed);
         nUsed += nCut;
         AnyElement* shown = element;
@@ -110,6 +132,8 @@ void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
         }
         NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT, szText);
     }
+    if (list.ring)
+        list.ring->single = allSingle && nUsed >= nRows ? singleRows(list) : SingleRows{};
 }
 
 } // namespace
@@ -139,13 +163,13 @@ Spot spotOf(const List& list)
         nCursor < list.box.nFirstShowed || nCursor > list.box.nLastShowed)
         return {{}, -1};
     int nY = shifted(list.box.nY, list.size.nBorder == BORDER ? 1 : 0);
-    const int nEnd = shifted(nY, viewRows(list));
+    int nEnd = shifted(nY, viewRows(list));
+    const bool single = areSingle(list);
     for (int i = list.box.nFirstShowed; i < nCursor && element; ++i, element = list[element].Next)
-        nY = shifted(nY, GetWrapTextHeight(textWidth(list), list[element].szText));
-    if (nCursor == list.box.nLastShowed || !element)
-        return {{nY, nEnd}, list.box.nFirstShowed};
-    return {{nY, shifted(nY, GetWrapTextHeight(textWidth(list), list[element].szText))},
-            list.box.nFirstShowed};
+        nY = shifted(nY, heightOf(list, element, single));
+    if (nCursor != list.box.nLastShowed && element)
+        nEnd = shifted(nY, heightOf(list, element, single));
+    return {{nY, nEnd}, list.box.nFirstShowed};
 }
 
 // ---- Elements -------------------------------------------------------------------------------

@@ -56,6 +56,15 @@ struct [[gnu::may_alias]] ListText {
     KULCALLBACK onClick;
 };
 
+// A view all of whose elements are one row high: nothing is to be reckoned as long as it is the
+// same and nothing has changed.
+struct SingleRows {
+    const AnyElement* first;
+    int nFirst, nLast, nWidth;
+    unsigned nChanges;
+    bool operator==(const SingleRows&) const = default;
+};
+
 // Where a ring was last looked at.
 struct RingState {
     AnyElement* head;  // the list that the rest of this is about
@@ -63,6 +72,7 @@ struct RingState {
     int nFound;
     unsigned nRemovals; // nElementRemovals at that time
     long long nRows;    // that all elements take together
+    SingleRows single;
 };
 
 // A list as it is allocated.

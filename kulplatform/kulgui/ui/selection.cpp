@@ -114,9 +114,9 @@ struct {
     int nRef;
     const WINDOW* win;
     unsigned nChanges;
-    bool exact; // drawing can be held to some rows
+    kul::Exact exact;
     kul::Spot spot;
-} drawn = {-1, -1, nullptr, 0, false, {}};
+} drawn = {-1, -1, nullptr, 0, kul::Exact::Never, {}};
 
 void drawDialog(CHAIN* chain)
 {
@@ -131,14 +131,6 @@ void drawDialog(CHAIN* chain)
     }
 }
 
-// Draws these rows of it; false when that is not exact.
-bool drawRows(CHAIN* chain, kul::Rows rows)
-{
-    const kul::Clip clip(chain->Pointer->winMain, rows);
-    drawDialog(chain);
-    return clip.isExact();
-}
-
 // A component's record; null when there is none that can tell where it is.
 void* findShown(int nRef, const kul::UIKind*& kind)
 {
@@ -148,32 +140,37 @@ void* findShown(int nRef, const kul::UIKind*& kind)
                 : nullptr;
 }
 
-void noteDrawn(const GUI& gui, bool exact)
+void noteDrawn(const GUI& gui, kul::Exact exact)
 {
     const kul::UIKind* kind = nullptr;
     void* record = findShown(defCurrent.nUserInterface, kind);
-    drawn = {defCurrent.nChain, defCurrent.nUserInterface,
-             gui.winMain,       kul::changes(),
-             exact && record,   record ? kind->spot(record) : kul::Spot{}};
+    drawn = {defCurrent.nChain,
+             defCurrent.nUserInterface,
+             gui.winMain,
+             kul::changes(),
+             record ? exact : kul::Exact::Never,
+             record ? kind->spot(record) : kul::Spot{}};
 }
 
-// The rows that can have changed since the last drawing; false when that may be any.
-bool findChangedRows(kul::Changed changed, kul::Rows& rows)
+// The cells that can have changed since the last drawing; false when that may be any.
+bool findChanged(kul::Changed changed, kul::Block& block)
 {
     const kul::UIKind* kind = nullptr;
     void* record = findShown(defCurrent.nUserInterface, kind);
     if (!record)
         return false;
-    rows = kind->rows(record);
+    block = kind->block(record);
     const kul::Spot spot = kind->spot(record);
     if (defCurrent.nUserInterface != drawn.nRef) {
         if (!(record = findShown(drawn.nRef, kind)))
             return false;
-        rows = kul::joined(rows, kind->rows(record));
+        block = kul::joined(block, kind->block(record));
     } else if (changed == kul::Changed::Selected && spot.nView != -1 &&
                spot.nView == drawn.spot.nView) {
-        rows = kul::joined(spot.rows, drawn.spot.rows);
+        block.rows = kul::joined(spot.rows, drawn.spot.rows);
     }
+    if (drawn.exact == kul::Exact::ByRow)
+        block.columns = kul::kAll;
     return true;
 }
 
@@ -182,19 +179,25 @@ bool findChangedRows(kul::Changed changed, kul::Rows& rows)
 void kul::drawFocused(Changed changed)
 {
     CHAIN* chain = GetChain(defCurrent.nChain);
-    Rows rows{};
+    Block block{};
     if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
         return;
-    if (!drawn.exact || drawn.nChanges != changes() || drawn.nChain != defCurrent.nChain ||
-        drawn.win != chain->Pointer->winMain || !findChangedRows(changed, rows)) {
+    if (drawn.exact == Exact::Never || drawn.nChanges != changes() ||
+        drawn.nChain != defCurrent.nChain || drawn.win != chain->Pointer->winMain ||
+        !findChanged(changed, block)) {
         ShowUIColors();
         return;
     }
     const Pass pass;
-    if (drawRows(chain, rows))
-        noteDrawn(*chain->Pointer, true);
-    else
-        ShowUIColors();
+    {
+        const Clip clip(chain->Pointer->winMain, block);
+        drawDialog(chain);
+        if (clip.isExact()) {
+            noteDrawn(*chain->Pointer, std::min(drawn.exact, clip.exact()));
+            return;
+        }
+    }
+    ShowUIColors();
 }
 
 void ShowUIColors()
@@ -204,6 +207,7 @@ void ShowUIColors()
         return;
     const kul::Pass pass;
     const bool hadWindow = chain->Pointer->winMain;
-    const bool exact = drawRows(chain, {INT_MIN, INT_MAX});
-    noteDrawn(*chain->Pointer, exact && hadWindow);
+    const kul::Clip clip(chain->Pointer->winMain, {kul::kAll, kul::kAll});
+    drawDialog(chain);
+    noteDrawn(*chain->Pointer, hadWindow ? clip.exact() : kul::Exact::Never);
 }
