@@ -12,6 +12,7 @@
 #include "buffer.hpp"
 #include "options.hpp"
 #include "settings.hpp"
+#include "text.hpp"
 
 namespace kuldialog {
 
@@ -106,7 +107,7 @@ void readVariable(const char* at)
 {
     constexpr char kBetween[] = " \t\n:;";
     for (; *at; at += std::strcspn(at, kBetween)) {
-        at += std::strspn(at, kBetween);
+        at = skip(at, kBetween);
         const std::size_t size = std::strcspn(at, "=");
         const int nRole = roleOf(kNewtWords, at, size);
         if (nRole >= 0 && at[size])
@@ -117,7 +118,7 @@ void readVariable(const char* at)
 void readLine(const char* szLine)
 {
     constexpr char kBlanks[] = " \t";
-    szLine += std::strspn(szLine, kBlanks);
+    szLine = skip(szLine, kBlanks);
     const std::size_t size = std::strcspn(szLine, " \t=");
     const int nRole = roleOf(kFileWords, szLine, size);
     const char* szPair = szLine + std::strcspn(szLine, "(\n");

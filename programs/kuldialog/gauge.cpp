@@ -29,10 +29,7 @@ struct Meter {
 
     void create() const
     {
-        const int nLength = std::max(window.innerWidth() - kValueColumns - 1, 1);
         kulprogbar_create(window.nChain, kBar);
-        kulprogbar_config(window.nChain, kBar, colors[kFocus], colors[kWindowColor], 2,
-                          window.nBodyY, nLength, 0, std::max(nRange, 1), LATERAL);
         kullabel_create(window.nChain, kValue);
     }
 
@@ -41,7 +38,9 @@ struct Meter {
         Buffer text;
         text.addNumber(nValue);
         text.add(szUnit);
-        kulprogbar_setPosition(window.nChain, kBar, nPosition);
+        const int nLength = std::max(window.innerWidth() - kValueColumns - 1, 1);
+        kulprogbar_config(window.nChain, kBar, colors[kFocus], colors[kWindowColor], 2,
+                          window.nBodyY, nLength, nPosition, std::max(nRange, 1), LATERAL);
         kullabel_config(window.nChain, kValue, colors[kWindowColor], KUL_KEEP,
                         window.nWidth - 2 - kValueColumns, window.nBodyY, kValueColumns + 1, 1,
                         RIGHT, NOBORDER, text.text());
@@ -52,7 +51,10 @@ struct Meter {
 // of a text.
 class Reader {
 public:
-    Reader(const Meter& meter, const Settings& settings) : meter_(meter), settings_(settings) {}
+    Reader(const Meter& meter, const Settings& settings) : meter_(meter), settings_(settings)
+    {
+        settings_.flags[kCrWrap] = true; // its lines stay
+    }
     ~Reader() { std::free(shown_); }
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
@@ -61,11 +63,11 @@ public:
 
 private:
     void takeLine(const char* szLine);
-    void takePercent(const char* szLine);
+    bool takePercent(const char* szLine);
     void showText();
 
     const Meter& meter_;
-    const Settings& settings_;
+    Settings settings_;
     Buffer line_;
     Buffer text_;
     char* shown_ = nullptr;
@@ -74,12 +76,13 @@ private:
 
 constexpr std::size_t kLongestLine = 16384;
 
-void Reader::takePercent(const char* szLine)
+bool Reader::takePercent(const char* szLine)
 {
     char* end;
     const long nPercent = std::clamp(std::strtol(szLine, &end, 10), 0L, 100L);
     if (end != szLine)
         meter_.set(static_cast<int>(nPercent), static_cast<int>(nPercent));
+    return end != szLine;
 }
 
 void Reader::showText()
@@ -105,8 +108,9 @@ void Reader::takeLine(const char* szLine)
         linesOfBlock_ = -1;
         return;
     }
-    if (linesOfBlock_ <= 0)
-        takePercent(szLine);
+    // For one of the programs a block begins with a percentage in any case.
+    if (linesOfBlock_ <= 0 && !takePercent(szLine) && name != kWhiptail)
+        linesOfBlock_ += linesOfBlock_ == 0;
     if (linesOfBlock_ > 0 && text_.size() < kLongestLine) {
         if (linesOfBlock_ > 1)
             text_.add('\n');
@@ -279,6 +283,7 @@ Answer runGauge(const Call& call)
     }
     text.add(call.argument(0));
     Window window(call, text.text());
+    window.isForTexts = call.variant == kReadGauge;
     if (!window.open(call.variant == kCountedGauge ? kOkCancel : kNoButtons, 1, 1, 40))
         return kFailed;
     if (call.variant == kReadGauge)

@@ -117,7 +117,7 @@ Answer Program::runBox()
     }
     if (!isScreenOpen() && !openScreen()) {
         complain("this terminal cannot be used:", std::getenv("TERM") ? std::getenv("TERM") : "");
-        std::exit(name == kOwn ? 255 : 1);
+        _exit(name == kOwn ? 255 : 1);
     }
     descriptor_ = answerDescriptor(call.settings);
     if (descriptor_ < 0) {

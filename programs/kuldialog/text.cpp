@@ -41,6 +41,7 @@ char* prepareText(const Settings& settings, const char* szText)
         if (how.expanding && character == '\\' && at[1] == 'n') {
             character = '\n';
             ++at;
+            at += name != kWhiptail && at[1] == '\n'; // both together are one
         } else if (settings.is(kColors) && character == '\\' && at[1] == 'Z' && at[2]) {
             at += 2; // no colours inside of a text
             continue;
@@ -61,6 +62,13 @@ const char* textAt(const char* szTexts, int nPlace)
     for (; nPlace > 0; --nPlace)
         szTexts += std::strlen(szTexts) + 1;
     return szTexts;
+}
+
+const char* skip(const char* szText, const char* szCharacters)
+{
+    while (*szText && std::strchr(szCharacters, *szText))
+        ++szText;
+    return szText;
 }
 
 bool begins(const char* szText, const char* szStart)

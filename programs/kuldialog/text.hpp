@@ -22,6 +22,9 @@ using kulready::widestLine;
 // The text of that place, from 0, in a row of texts with their ends.
 const char* textAt(const char* szTexts, int nPlace);
 
+// Behind the characters at the start of a text that are among those.
+const char* skip(const char* szText, const char* szCharacters);
+
 // Whether a text begins with another one.
 bool begins(const char* szText, const char* szStart);
 

@@ -121,7 +121,8 @@ void Window::measure()
     nHeight = std::clamp(nHeight, std::min(nLeast, screenHeight()), std::max(screenHeight(), 1));
 
     const int nRoom = nHeight - kFrame - nRow;
-    textRows_ = std::clamp(nRoom - bodyLeast_, 0, nText);
+    const int nSpare = nRoom - bodyWanted_ - 1;
+    textRows_ = std::clamp(nRoom - bodyLeast_, 0, isForTexts ? std::max(nText, nSpare) : nText);
     nBodyHeight = std::clamp(bodyWanted_, 0, std::max(nRoom - textRows_, 0));
     // A row between text and body, if it is there for both.
     const int nLeft = nRoom - textRows_ - nBodyHeight;

@@ -69,6 +69,7 @@ public:
     int nBodyY = 0;
     int nBodyHeight = 0;
     int nFocus = kButtonRow; // where it begins
+    bool isForTexts = false; // longer ones may come: the text has what room there is
 
     bool isAlone() const { return nFocus == kButtonRow; } // whether there is nothing but buttons
     int innerWidth() const { return nWidth - 4; }
