@@ -19,9 +19,11 @@
 NEVER(Offset)
 NEVER(GetChain)
 NEVER(CreateChain)
-NEVER(SetVar) NEVER(AddUIComponent) NEVER(Inkeys)
+NEVER(SetVar)
+NEVER(AddUIComponent)
+NEVER(Inkeys)
 
-    int Fill(void);
+int Fill(void);
 double Poll(double seconds);
 
 int Fill(void)
