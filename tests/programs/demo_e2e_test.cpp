@@ -32,29 +32,6 @@ void openItems(Terminal& terminal)
     ASSERT_TRUE(terminal.settle());
 }
 
-TEST(Demo, TellsWhatIsSelectedWithoutColours)
-{
-    Terminal terminal(demo("vt100"));
-    ASSERT_NO_FATAL_FAILURE(openItems(terminal));
-    ASSERT_NE(terminal.row(15).find(" MemTotal   MemFree "), std::string::npos) << terminal.text();
-    EXPECT_FALSE(terminal.cell(15, 6).reverse);
-    EXPECT_TRUE(terminal.cell(15, 17).reverse);
-}
-
-// A box that has no room for a text does not write before it.
-TEST(Demo, LivesOnSixColumns)
-{
-    Launch launch = demo("xterm-256color");
-    launch.columns = 6;
-    launch.rows = 12;
-    Terminal terminal(launch);
-    ASSERT_TRUE(terminal.settle());
-    terminal.press(*keyBytes("down"));
-    terminal.press("\r");
-    ASSERT_TRUE(terminal.settle());
-    EXPECT_TRUE(terminal.running()) << terminal.text();
-}
-
 TEST(Demo, FitsItsPagesToASmallScreen)
 {
     Launch launch = demo("linux");

@@ -2,12 +2,14 @@
 //
 // Each kind of component as its example shows it, on three terminals and two sizes, compared with
 // the pictures in one folder: the rows of the screen, then the rows of its colours, a letter for
-// each look. With KULGUI_RENEW in the environment the pictures are written instead.
+// each look. With KULGUI_RENEW in the environment the pictures are written instead. And on a screen
+// whose size changes.
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <random>
 #include <sstream>
 
 #include "terminal.hpp"
@@ -50,19 +52,25 @@ std::string pictureOf(const Terminal& terminal, int columns, int rows)
     return text + '\n' + colors + '\n' + legend;
 }
 
-class Kinds : public testing::TestWithParam<const char*> {};
+class Kinds : public testing::TestWithParam<const char*> {
+protected:
+    static Launch launch(const char* term, int columns, int rows)
+    {
+        Launch launch;
+        launch.argv = {std::string(KULGUI_KINDS "/") + GetParam(), KULGUI_LICENSE};
+        launch.term = term;
+        launch.columns = columns;
+        launch.rows = rows;
+        launch.environment = {"LC_ALL=C.UTF-8"};
+        return launch;
+    }
+};
 
 TEST_P(Kinds, LookLikeTheirPictures)
 {
     for (const char* term : {"linux", "xterm-256color", "vt100"}) {
         for (const auto& [columns, rows] : {std::pair(80, 24), std::pair(40, 9)}) {
-            Launch launch;
-            launch.argv = {std::string(KULGUI_KINDS "/") + GetParam(), KULGUI_LICENSE};
-            launch.term = term;
-            launch.columns = columns;
-            launch.rows = rows;
-            launch.environment = {"LC_ALL=C.UTF-8"};
-            Terminal terminal(launch);
+            Terminal terminal(launch(term, columns, rows));
             ASSERT_TRUE(terminal.waitFor([&] { return terminal.text().find("─ ") != std::string::npos; }));
             ASSERT_TRUE(terminal.settle());
             const std::string shown = pictureOf(terminal, columns, rows);
@@ -76,6 +84,32 @@ TEST_P(Kinds, LookLikeTheirPictures)
             stored << std::ifstream(name).rdbuf();
             EXPECT_EQ(stored.str(), shown) << name;
         }
+    }
+}
+
+// Whatever happened before, a screen is that of a program which began at its size.
+TEST_P(Kinds, AreAsIfTheirScreenHadAlwaysHadItsSize)
+{
+    Terminal terminal(launch("xterm-256color", 60, 18));
+    ASSERT_TRUE(terminal.waitForText("─ ") && terminal.settle());
+    std::minstd_rand random(1);
+    const auto below = [&](int limit) { return 1 + static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    constexpr int kTabs = 12, kBetween = 10; // some times round what takes the focus
+    for (int step = 0; step < kTabs * kBetween; ++step) {
+        terminal.resize(below(300), below(100));
+        if (step % kBetween == 0) {
+            terminal.press("\t");
+            ASSERT_TRUE(terminal.settle());
+        }
+        while (terminal.pump(0))
+            continue;
+    }
+    for (const auto& [columns, rows] : {std::pair(80, 24), {20, 5}, {300, 100}, {1, 1}, {60, 18}}) {
+        Terminal expected(launch("xterm-256color", columns, rows));
+        ASSERT_TRUE(expected.settle());
+        terminal.resize(columns, rows);
+        ASSERT_TRUE(terminal.settle());
+        EXPECT_EQ(pictureOf(terminal, columns, rows), pictureOf(expected, columns, rows));
     }
 }
 

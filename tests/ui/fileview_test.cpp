@@ -301,19 +301,9 @@ TEST_F(FileviewTest, FollowsInADialogWithoutTheFocus)
     EXPECT_EQ(kultest::picture(window(1), 6, 3, 1, 8), (Rows{"new     "}));
 }
 
-TEST_F(FileviewTest, TakesAnyPlaceAndSize)
+TEST_F(FileviewTest, IsCutToItsWindow)
 {
     file_.write(lines(0, 99));
-    for (const int nX : {-3, 70, INT_MIN, INT_MAX}) {
-        for (const int nSize : {-1, 0, 1, 2, 3, 100, INT_MIN, INT_MAX}) {
-            for (const int nBorder : {int{BORDER}, int{NOBORDER}, 7}) {
-                kulfileview_config(1, kRef, KUL_KEEP, INT_MAX, KUL_KEEP, nX, nX, nSize, nSize, nBorder,
-                                   file_.path().c_str(), nullptr, nullptr, nullptr, nullptr);
-                EXPECT_EQ(type({KS_DOWN, KS_PAGEDOWN, KS_END, KS_UP, KS_HOME, KS_TAB}), 10);
-                EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
-            }
-        }
-    }
     // Nothing is drawn beside a box without columns.
     kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 2, 0, 3, NOBORDER, file_.path().c_str(), nullptr,
                        nullptr, nullptr, nullptr);

@@ -157,17 +157,6 @@ TEST_F(MenuTest, ShowsWhatIsSelectedAndDisabled)
     });
 }
 
-TEST_F(MenuTest, LongTextsGoOnInTheNextRow)
-{
-    kulmenu_create(1, kRef);
-    kKinds[0].config(kRef, nullptr);
-    for (const char* szText : {"", static_cast<const char*>(nullptr), "a text up to the edge and on", "no"})
-        kKinds[0].add(kRef, szText, 1);
-    kulgui_show(1);
-    EXPECT_EQ(shown(2, 0, 2, 40),
-              (Rows{"│       a text up to the edge and on   n", "o                                      │"}));
-}
-
 TEST_F(MenuTest, DescribesElementsBeyondTheWindow)
 {
     kuldescrmenu_create(1, kRef);
@@ -188,15 +177,6 @@ TEST_F(MenuTest, DescribesElementsBeyondTheWindow)
     kuldescrmenu_addElement(1, kRef, 1, "new", "here", nullptr, nullptr);
     press({KS_RIGHT});
     EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"here"}));
-    for (const int nSize : {0, 1, 2, 3, -1, INT_MIN, INT_MAX}) {
-        for (const int nPlace : {2, -5, INT_MIN, INT_MAX}) {
-            menu.nBarLength = menu.nBoxWidth = menu.nBoxHeight = nSize;
-            menu.nX = menu.nY = nPlace;
-            menu.nSelect = 0;
-            press({KS_RIGHT});
-            EXPECT_EQ(menu.nSelect, 1);
-        }
-    }
 }
 
 TEST_F(MenuTest, KeysGoRoundTheElementsAndOnePlaceMore)

@@ -396,46 +396,4 @@ TYPED_TEST(RingListTest, StepsOfScrollingWorkOnAnyRecord)
         EXPECT_EQ(TypeParam::removeLast(list.Element), nResult);
 }
 
-TYPED_TEST(RingListTest, ShowsWhatRemovalLeaves)
-{
-    this->make(20, 3, NOBORDER, "111");
-    auto& list = this->list();
-    TypeParam::removeLast(list.Element);
-    --list.nElements;
-    this->addNumbers(1);
-    EXPECT_EQ(list.bScrollbar, F);
-    this->make(20, 2, NOBORDER, "11111");
-    this->run({U}, KS_TAB);
-    for (; list.nElements > 3; --list.nElements)
-        TypeParam::removeLast(list.Element);
-    ShowUIColors();
-    EXPECT_EQ(this->drawn(2, 2, 1, 8), Rows{"[ ] aaaa"});
-}
-
-TYPED_TEST(RingListTest, TenThousandElements)
-{
-    this->make(20, 7, BORDER);
-    this->addNumbers(10000);
-    EXPECT_EQ(TypeParam::rows(&this->list()), 10000);
-    this->run(std::vector<int>(5000, D), U);
-    EXPECT_EQ(this->state(), "4999 4996 5000");
-    EXPECT_EQ(this->drawn(6, 3, 2, 8), (Rows{"[ ] 4999", "[ ] 5000"}));
-    TypeParam::cursor() = 0;
-    this->run({U, U, D, D}, U);
-    EXPECT_EQ(this->state(), "9999 9995 9999");
-    EXPECT_EQ(this->drawn(3, 3, 1, 8), Rows{"[ ] 9995"});
-}
-
-TYPED_TEST(RingListTest, LivesWithoutMemory)
-{
-    this->make(20, 7, BORDER);
-    for (int nGood = 0; nGood < 2; ++nGood) {
-        const FailingMemory failing(nGood);
-        EXPECT_LT(TypeParam::create(1, 7 + nGood), 0);
-        EXPECT_EQ(TypeParam::add(kRef, "x", nullptr), -1);
-        EXPECT_EQ(TypeParam::make(nullptr), nullptr);
-    }
-    EXPECT_EQ(this->state(), "0 -1 -1");
-}
-
 } // namespace
