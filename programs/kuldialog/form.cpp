@@ -14,6 +14,12 @@
 
 namespace kuldialog {
 
+namespace {
+
+constexpr int kLeastShown = 8; // columns of a line, if it is as long
+
+} // namespace
+
 Fields::~Fields()
 {
     for (int i = 0; i < count_; ++i)
@@ -115,9 +121,11 @@ void Fields::fill()
     }
     for (int i = 0; i < bound_; ++i) {
         const Field& field = fields_[slotPlaces_[i]];
-        createLine(window_, kBody + i, 2 + field.x, window_.nBodyY + field.y - top_,
-                   std::min(field.shown, window_.innerWidth() - field.x),
-                   field.secret ? MASK : NOMASK, field.limit, field.text);
+        // On a narrow screen it covers a part of its label.
+        const int nX = std::min(field.x, window_.innerWidth() - std::min(field.shown, kLeastShown));
+        createLine(window_, kBody + i, 2 + nX, window_.nBodyY + field.y - top_,
+                   std::min(field.shown, window_.innerWidth() - nX), field.secret ? MASK : NOMASK,
+                   field.limit, field.text);
         kultextbox_show(window_.nChain, kBody + i);
     }
     for (int i = bound_; i < slots_; ++i)

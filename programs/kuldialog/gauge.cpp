@@ -42,7 +42,7 @@ struct Meter {
         kulprogbar_config(window.nChain, kBar, colors[kFocus], colors[kWindowColor], 2,
                           window.nBodyY, nLength, nPosition, std::max(nRange, 1), LATERAL);
         kullabel_config(window.nChain, kValue, colors[kWindowColor], KUL_KEEP,
-                        window.nWidth - 2 - kValueColumns, window.nBodyY, kValueColumns + 1, 1,
+                        window.nWidth - 3 - kValueColumns, window.nBodyY, kValueColumns + 1, 1,
                         RIGHT, NOBORDER, text.text());
     }
 };

@@ -21,7 +21,7 @@ namespace {
 constexpr unsigned char kOthers = kDialog | kOwn;
 constexpr unsigned char kAll = kWhiptail | kOthers;
 
-enum class Take : unsigned char { Flag, Text, Number, Place, File, Help, Version, Args, Again };
+enum class Take : unsigned char { Flag, Text, Number, Place, File, Help, Version, Again };
 
 } // namespace
 
@@ -38,7 +38,7 @@ namespace {
 constexpr Option kOptions[] = {
     {"allow-close", kOthers, Take::Flag, kIgnoredFlag},
     {"and-widget", kOthers, Take::Again, 0},
-    {"args", kOthers, Take::Args, 0},
+    {"args", kOthers, Take::Flag, kIgnoredFlag},
     {"ascii-lines", kOthers, Take::Flag, kIgnoredFlag},
     {"aspect", kOthers, Take::Number, kIgnoredNumber},
     {"auto-placement", kOthers, Take::Flag, kIgnoredFlag},
@@ -365,13 +365,6 @@ bool CommandLine::takeOption(bool& taken)
     }
     if (found.take == Take::Again) {
         goesOn_ = true;
-        return true;
-    }
-    if (found.take == Take::Args) {
-        Buffer text;
-        for (int i = 0; i < count_; ++i)
-            text.add(" arg").addNumber(i).add(':').add(tokens_[i]).add('\n');
-        text.writeTo(STDERR_FILENO);
         return true;
     }
     if (found.take == Take::Place &&

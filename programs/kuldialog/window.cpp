@@ -118,11 +118,13 @@ void Window::measure()
     const int nBest = kFrame + nRow + bodyWanted_ + nText + (nRow && nText + bodyWanted_ > 0);
     if (nHeight <= 0)
         nHeight = nHeight < 0 ? screenHeight() : nBest;
-    nHeight = std::clamp(nHeight, std::min(nLeast, screenHeight()), std::max(screenHeight(), 1));
+    // What is higher than the screen is shown in part, with what has the focus.
+    nHeight = std::clamp(nHeight, nLeast, std::max(screenHeight(), nLeast));
 
     const int nRoom = nHeight - kFrame - nRow;
     const int nSpare = nRoom - bodyWanted_ - 1;
-    textRows_ = std::clamp(nRoom - bodyLeast_, 0, isForTexts ? std::max(nText, nSpare) : nText);
+    const int nBody = std::max(bodyLeast_, std::min(bodyWanted_, nRoom / 2));
+    textRows_ = std::clamp(nRoom - nBody, 0, isForTexts ? std::max(nText, nSpare) : nText);
     nBodyHeight = std::clamp(bodyWanted_, 0, std::max(nRoom - textRows_, 0));
     // A row between text and body, if it is there for both.
     const int nLeft = nRoom - textRows_ - nBodyHeight;
