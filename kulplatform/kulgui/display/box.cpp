@@ -25,7 +25,7 @@ int UpdateBoxComponent(GUI*, KULBOX*)
 
 int WipeBoxComponent(KULBOX* thisBox)
 {
-    return kul::wipeRecord(thisBox, kul::dropNothing<KULBOX>);
+    return kul::wipeRecord(thisBox);
 }
 
 int kulbox_create(int nChain, int nRef)

@@ -133,7 +133,7 @@ int UpdateScrollbarComponent(GUI*, KULGAUGEBAR*)
 
 int WipeScrollbarComponent(KULGAUGEBAR* thisBar)
 {
-    return kul::wipeRecord(thisBar, kul::dropNothing<KULGAUGEBAR>);
+    return kul::wipeRecord(thisBar);
 }
 
 void ShowScrollbarComponent(GUI* thisGUI, KULGAUGEBAR* thisBar)

@@ -13,22 +13,18 @@ namespace {
 
 // In the order of DI_TYPE.
 constexpr kul::DIKind kDIKinds[LABEL + 1] = {
-    kul::diRow<kul::StatusBar, ConfigStatbarComponent, ShowStatusBarComponent,
-               UpdateStatbarComponent, kul::dropStatbar, WipeStatbarComponent>(KUL_TAKEN_STATBAR),
+    kul::diRow<kul::StatusBar, ConfigStatbarComponent, ShowStatusBarComponent, WipeStatbarComponent,
+               kul::dropStatbar>(KUL_TAKEN_STATBAR),
     kul::diRow<KULGAUGEBAR, ConfigScrollbarComponent, ShowScrollbarComponent,
-               UpdateScrollbarComponent, kul::dropNothing<KULGAUGEBAR>, WipeScrollbarComponent>(
-        KUL_TAKEN_SCROLLBAR),
-    kul::diRow<KULGAUGEBAR, ConfigProgbarComponent, ShowProgBarComponent, UpdateProgbarComponent,
-               kul::dropNothing<KULGAUGEBAR>, WipeProgbarComponent>(KUL_TAKEN_PROGBAR),
+               WipeScrollbarComponent>(KUL_TAKEN_SCROLLBAR),
+    kul::diRow<KULGAUGEBAR, ConfigProgbarComponent, ShowProgBarComponent, WipeProgbarComponent>(
+        KUL_TAKEN_PROGBAR),
     kul::diRow<kul::DescrField, ConfigDescrfieldComponent, ShowDescrfieldComponent,
-               UpdateDescrfieldComponent, kul::dropDescrfield, WipeDescrfieldComponent>(
-        KUL_TAKEN_DESCRFIELD),
-    kul::diRow<KULBOX, ConfigBoxComponent, ShowBoxComponent, UpdateBoxComponent,
-               kul::dropNothing<KULBOX>, WipeBoxComponent>(KUL_TAKEN_BOX),
-    kul::diRow<KULLINE, ConfigLineComponent, ShowLineComponent, UpdateLineComponent,
-               kul::dropNothing<KULLINE>, WipeLineComponent>(KUL_TAKEN_LINE),
-    kul::diRow<KULLABEL, ConfigLabelComponent, ShowLabelComponent, UpdateLabelComponent,
-               kul::dropLabel, WipeLabelComponent>(KUL_TAKEN_LABEL),
+               WipeDescrfieldComponent, kul::dropDescrfield>(KUL_TAKEN_DESCRFIELD),
+    kul::diRow<KULBOX, ConfigBoxComponent, ShowBoxComponent, WipeBoxComponent>(KUL_TAKEN_BOX),
+    kul::diRow<KULLINE, ConfigLineComponent, ShowLineComponent, WipeLineComponent>(KUL_TAKEN_LINE),
+    kul::diRow<KULLABEL, ConfigLabelComponent, ShowLabelComponent, WipeLabelComponent,
+               kul::dropLabel>(KUL_TAKEN_LABEL),
 };
 
 constexpr int kChanged = 0;
@@ -54,6 +50,18 @@ DI* findDINode(int nChain, int nRef, DI_TYPE type)
 {
     DI* di = GetDIComponentByRef(nChain, nRef);
     return di && di->nType == type && di->Pointer ? di : nullptr;
+}
+
+void* findDIRecord(int nChain, int nRef, DI_TYPE type)
+{
+    const DI* di = findDINode(nChain, nRef, type);
+    return di ? di->Pointer : nullptr;
+}
+
+void* resetDIRecord(int nChain, int nRef, DI_TYPE type)
+{
+    void* record = findDIRecord(nChain, nRef, type);
+    return record && ConfigDIComponent(nChain, nRef) >= 0 ? record : nullptr;
 }
 
 int createDI(int nChain, int nRef, DI_TYPE type)
@@ -103,7 +111,7 @@ int AttachComponentToDI(DI* thisDI, int nType)
     if (!thisDI || !kind)
         return -1;
     thisDI->nType = nType;
-    thisDI->Pointer = kind->allocate();
+    thisDI->Pointer = std::calloc(1, kind->size);
     return thisDI->Pointer ? 0 : -1;
 }
 
@@ -116,7 +124,8 @@ int ConfigDIComponent(int nChain, int nRef)
     const kul::DIKind* kind = kul::diKind(di->nType);
     if (!kind || !di->Pointer)
         return -1;
-    kind->drop(di->Pointer);
+    if (kind->drop)
+        kind->drop(di->Pointer);
     return kind->config(kul::findDialog(nChain), di->Pointer);
 }
 
@@ -138,7 +147,7 @@ int UpdateDIComponent(int nChain, int nRef)
         return -1;
     di->nUpdate = 1;
     const kul::DIKind* kind = kul::diKind(di->nType);
-    return kind && di->Pointer ? kind->update(kul::findDialog(nChain), di->Pointer) : -1;
+    return kind && di->Pointer ? 0 : -1; // no kind does anything here
 }
 
 void ShowDisplayComponents(GUI* thisGUI)

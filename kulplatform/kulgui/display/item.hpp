@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstddef>
 
 #include "../gui/memory.hpp"
 #include "../kulgui.h"
@@ -15,27 +16,39 @@ namespace kul {
 
 struct DIKind {
     int nTaken;                 // code for a number that is in use
-    void* (*allocate)();        // a cleared record
+    unsigned char size;         // of a record
+    unsigned char nVisible;     // where it has its nVisible
     int (*config)(GUI*, void*); // sets the defaults
     void (*show)(GUI*, void*);  // draws
-    int (*update)(GUI*, void*); // what an explicit update does
-    void (*drop)(void*);        // frees what the record owns
+    void (*drop)(void*);        // frees what the record owns; null for nothing
     int (*wipe)(void*);         // the same, and the record
-    int& (*visible)(void*);     // nVisible of the record
+
+    int& visible(void* record) const
+    {
+        return *reinterpret_cast<int*>(static_cast<char*>(record) + nVisible);
+    }
 };
 
-// A row of the table from the typed functions of a kind. Record may derive from the public one.
-template <typename Record, auto Config, auto Show, auto Update, auto Drop, auto Wipe>
+// A row of the table from the typed functions of a kind. A record that derives from the public one
+// names that as its Public.
+template <typename Record, auto Config, auto Show, auto Wipe, auto Drop = nullptr>
 constexpr DIKind diRow(int nTaken)
 {
+    unsigned char nVisible = 0;
+    if constexpr (requires { typename Record::Public; })
+        nVisible = offsetof(typename Record::Public, nVisible);
+    else
+        nVisible = offsetof(Record, nVisible);
+    void (*drop)(void*) = nullptr;
+    if constexpr (Drop != nullptr)
+        drop = [](void* record) { Drop(*static_cast<Record*>(record)); };
     return {nTaken,
-            []() -> void* { return allocate<Record>(); },
+            sizeof(Record),
+            nVisible,
             [](GUI* gui, void* record) { return Config(gui, static_cast<Record*>(record)); },
             [](GUI* gui, void* record) { Show(gui, static_cast<Record*>(record)); },
-            [](GUI* gui, void* record) { return Update(gui, static_cast<Record*>(record)); },
-            [](void* record) { Drop(*static_cast<Record*>(record)); },
-            [](void* record) { return Wipe(static_cast<Record*>(record)); },
-            [](void* record) -> int& { return static_cast<Record*>(record)->nVisible; }};
+            drop,
+            [](void* record) { return Wipe(static_cast<Record*>(record)); }};
 }
 
 // The row of a kind; null for a number that is none.
@@ -45,20 +58,22 @@ const DIKind* diKind(int nType);
 DI* findDINode(int nChain, int nRef, DI_TYPE type);
 
 // The record of an item; null when there is none or it is of another kind.
+void* findDIRecord(int nChain, int nRef, DI_TYPE type);
+
 template <typename Record>
 Record* findDI(int nChain, int nRef, DI_TYPE type)
 {
-    const DI* di = findDINode(nChain, nRef, type);
-    return di ? static_cast<Record*>(di->Pointer) : nullptr;
+    return static_cast<Record*>(findDIRecord(nChain, nRef, type));
 }
 
 // What every kul<kind>_config begins with: the record, empty and with its defaults. Null when there
 // is none or it is of another kind.
+void* resetDIRecord(int nChain, int nRef, DI_TYPE type);
+
 template <typename Record>
 Record* resetDI(int nChain, int nRef, DI_TYPE type)
 {
-    auto* record = findDI<Record>(nChain, nRef, type);
-    return record && ConfigDIComponent(nChain, nRef) >= 0 ? record : nullptr;
+    return static_cast<Record*>(resetDIRecord(nChain, nRef, type));
 }
 
 // What the create calls of the kinds do.
@@ -69,29 +84,28 @@ void markChanged(int nChain, int nRef);
 
 // Status bars and description fields as they are allocated.
 struct StatusBar : KULSTATBAR {
+    using Public = KULSTATBAR;
     Tail<KULSTATELEMENT> tail;
 };
 
 struct DescrField : KULDESCRFIELD {
+    using Public = KULDESCRFIELD;
     Tail<KULDESCRFLDELEMENT> tail;
 };
 
 // Free what a record owns and leave it empty.
-template <typename Record>
-void dropNothing(Record&)
-{
-}
 void dropStatbar(KULSTATBAR& bar);
 void dropDescrfield(KULDESCRFIELD& field);
 void dropLabel(KULLABEL& label);
 
 // Frees a record with what it owns. 0, -1 for NULL.
 template <typename Record>
-int wipeRecord(Record* record, void (*drop)(Record&))
+int wipeRecord(Record* record, void (*drop)(Record&) = nullptr)
 {
     if (!record)
         return -1;
-    drop(*record);
+    if (drop)
+        drop(*record);
     std::free(record);
     return 0;
 }

@@ -51,10 +51,10 @@ void drawWords(WINDOW* win, int nY, int nX, std::string_view row, int nWidth)
     const char* end = row.data() + row.size();
     const bool bytes = kul::isAscii(row);
     for (const char* word = row.data(); word < end;) {
-        const char* gap = std::find_if(word, end, isGap);
+        const char* gap = kul::findFirst(word, end, isGap);
         const std::string_view text(word, static_cast<std::size_t>(gap - word));
         kul::drawText(win, nY, nX, text, nWidth);
-        word = std::find_if_not(gap, end, isGap);
+        word = kul::findFirst(gap, end, [](char character) { return !isGap(character); });
         nX = kul::shifted(nX, (bytes ? gap - text.data() : kul::widthOf(text)) + (word - gap));
     }
 }

@@ -28,7 +28,7 @@ int UpdateLineComponent(GUI*, KULLINE*)
 
 int WipeLineComponent(KULLINE* thisLine)
 {
-    return kul::wipeRecord(thisLine, kul::dropNothing<KULLINE>);
+    return kul::wipeRecord(thisLine);
 }
 
 int kulline_create(int nChain, int nRef)

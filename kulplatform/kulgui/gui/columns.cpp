@@ -14,6 +14,8 @@
 // they are.
 #include <curses.h>
 
+#include "find.hpp"
+
 namespace kul {
 
 namespace {
@@ -28,9 +30,9 @@ constexpr struct {
 template <typename Ranges>
 bool isIn(const Ranges& ranges, wchar_t character)
 {
-    return std::any_of(std::begin(ranges), std::end(ranges), [=](const auto& range) {
-        return character >= range.first && character <= range.last;
-    });
+    return findFirst(std::begin(ranges), std::end(ranges), [=](const auto& range) {
+               return character >= range.first && character <= range.last;
+           }) != std::end(ranges);
 }
 
 bool isControl(wchar_t character)
@@ -99,7 +101,7 @@ bool isAscii(std::string_view text)
         if (word & 0x8080808080808080)
             return false;
     }
-    return std::all_of(at, end, [](char character) { return isAscii(character); });
+    return findFirst(at, end, [](char character) { return !isAscii(character); }) == end;
 }
 
 std::size_t marksAt(std::string_view text)

@@ -12,6 +12,7 @@
 
 #include "../kulgui.h"
 #include "columns.hpp"
+#include "find.hpp"
 
 namespace kul {
 
@@ -133,12 +134,6 @@ void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
 
 // Draws one cell, where the window has it.
 void drawCell(WINDOW* win, int nY, int nX, chtype cell);
-
-// Whether curses shows a character as it is, in one cell, in every locale.
-constexpr bool isPlain(char character)
-{
-    return character >= ' ' && character <= '~';
-}
 
 // Draws plain characters as finished cells, which is far cheaper than to have curses decode them;
 // those outside of the window's row are skipped.

@@ -12,18 +12,12 @@
 
 namespace {
 
-bool allPlain(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(), [](char each) { return kul::isPlain(each); });
-}
-
 // Number of plain characters at the front; without the last one if a mark may stand on it.
 std::size_t plainCount(std::string_view text)
 {
     const char* first = text.data();
     const char* end = first + text.size();
-    const char* behind =
-        std::find_if_not(first, end, [](char character) { return kul::isPlain(character); });
+    const char* behind = kul::plainEnd(first, end);
     if (behind != first && behind != end && !kul::isAscii(*behind))
         --behind;
     return static_cast<std::size_t>(behind - first);
@@ -101,7 +95,7 @@ void drawBytes(WINDOW* win, int nY, int nX, std::string_view text)
         const int nAt = static_cast<int>(nX + first);
         const std::string_view run(cells + first, static_cast<std::size_t>(last - first));
         if (kul::isPlain(run.front())) {
-            const char* behind = std::find_if_not(run.begin(), run.end(), kul::isPlain);
+            const char* behind = kul::plainEnd(run.data(), run.data() + run.size());
             const auto nRun = static_cast<std::size_t>(behind - run.data());
             kul::plainRun(win, nY, nAt, {run.data(), nRun});
             first += static_cast<long long>(nRun);

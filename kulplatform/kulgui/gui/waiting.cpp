@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "edition.hpp"
+#include "find.hpp"
 #include "keys.hpp"
 #include "polling.hpp"
 #include "screen.hpp"
@@ -45,8 +46,8 @@ long long clockOf(clockid_t clock)
 
 Timer* findTimer(int nNumber)
 {
-    Timer* found = std::find_if(std::begin(timers), std::end(timers),
-                                [=](const Timer& timer) { return timer.nNumber == nNumber; });
+    Timer* found = kul::findFirst(std::begin(timers), std::end(timers),
+                                  [=](const Timer& timer) { return timer.nNumber == nNumber; });
     return found == std::end(timers) ? nullptr : found;
 }
 
@@ -63,7 +64,7 @@ Timer* nextTimer()
 
 Watch* findWatch(int nFd)
 {
-    Watch* found = std::find_if(std::begin(watches), std::end(watches), [=](const Watch& watch) {
+    Watch* found = kul::findFirst(std::begin(watches), std::end(watches), [=](const Watch& watch) {
         return watch.onReady && watch.nFd == nFd;
     });
     return found == std::end(watches) ? nullptr : found;
@@ -184,8 +185,8 @@ int kulgui_watch(int nFd, KULCALLBACK onReady)
 {
     Watch* watch = findWatch(nFd);
     if (!watch && onReady && nFd > STDIN_FILENO)
-        watch = std::find_if(std::begin(watches), std::end(watches),
-                             [](const Watch& one) { return !one.onReady; });
+        watch = kul::findFirst(std::begin(watches), std::end(watches),
+                               [](const Watch& one) { return !one.onReady; });
     if (!watch || watch == std::end(watches))
         return -1;
     *watch = {nFd, onReady};

@@ -54,7 +54,7 @@ void drawCut(WINDOW* win, int nY, int nX, int nWidth, const char* szText)
     if (!kul::isDrawn(win, nY))
         return;
     const std::string_view text(szText);
-    if (nX >= 0 && std::all_of(text.begin(), text.end(), kul::isPlain)) {
+    if (nX >= 0 && kul::allPlain(text)) {
         kul::plainRun(
             win, nY, nX,
             {szText, std::min(text.size(), static_cast<std::size_t>(std::max(nEnd - nX, 0)))});

@@ -40,7 +40,7 @@ int TextRows::before(int nPlace, int nFrom) const
 std::string_view TextRows::plain(int nFrom, int nTo) const
 {
     const char* first = text_.data() + nFrom;
-    const char* end = std::find_if_not(first, text_.data() + nTo, isPlain);
+    const char* end = plainEnd(first, text_.data() + nTo);
     // A mark behind the last one is on it.
     if (end > first && end < text_.data() + length() && !isAscii(*end))
         --end;
