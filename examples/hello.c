@@ -1,6 +1,6 @@
 /* SPDX-License-Identifier: MIT
  *
- * The smallest useful program: one dialog that asks, and an answer.
+ * A small program with a dialog of its own: it asks, and has an answer.
  */
 #include <kulgui.h>
 
