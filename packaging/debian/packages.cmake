@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/kulplatfor
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/depends.cmake)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/complete.cmake)
 
-set(about "Kulgui draws dialogs on a character terminal: menus, buttons, check lists,
+set(about "Kulgui draws dialogs on a character terminal: menus, buttons, check box lists,
 text boxes, a file viewer, bars and labels. A key costs one update of the
 terminal, of the cells that changed, which is quick on a serial line as well.
 ")

@@ -1,5 +1,5 @@
 SUMMARY = "Dialogs on a character terminal, for small Linux devices"
-DESCRIPTION = "Menus, buttons, check lists, text boxes, a file viewer, bars and \
+DESCRIPTION = "Menus, buttons, check box lists, text boxes, a file viewer, bars and \
 labels on a character terminal, for devices that are set up over a serial \
 console or ssh. A C interface in one header; no C++ library at run time."
 SECTION = "libs"
