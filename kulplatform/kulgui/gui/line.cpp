@@ -41,9 +41,10 @@ struct Modes {
 int nOutput = STDOUT_FILENO;
 volatile sig_atomic_t nBlocking = 0;
 bool ownScreen = false;
-Modes outside; // as found
-Modes inside;  // as the open terminal has them
-Bytes leaving; // gives the screen back
+Modes outside;         // as found
+Modes inside;          // as the open terminal has them
+Bytes leaving;         // gives the screen back
+std::size_t nClearing; // of these, in the colours that were there before
 Bytes entering;
 Bytes* capture = nullptr;
 
@@ -78,7 +79,6 @@ void captureString(const char* szString)
 
 void captureAll(Bytes& bytes, std::initializer_list<const char*> names)
 {
-    bytes.size = 0;
     capture = &bytes;
     for (const char* name : names)
         captureString(tigetstr(name));
@@ -166,7 +166,11 @@ void noteInside()
 void prepareBytes()
 {
     ownScreen = isString(tigetstr("rmcup"));
-    captureAll(leaving, {"sgr0", "op", ownScreen ? "rmcup" : "clear", "cnorm"});
+    leaving.size = entering.size = 0;
+    // Where the codes are known, all attributes are switched off with the colours.
+    captureAll(leaving, {"sgr0", codes().known ? "" : "op", ownScreen ? "rmcup" : "clear"});
+    nClearing = leaving.size;
+    captureAll(leaving, {"cnorm"});
     // Without a second screen to leave, what was drawn is cleared away.
     if (!ownScreen)
         captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
@@ -181,7 +185,7 @@ bool hasOwnScreen()
 void clearScreen()
 {
     if (!ownScreen)
-        writeAll(leaving.text, leaving.size);
+        writeAll(leaving.text, nClearing);
 }
 
 void enterScreen()

@@ -48,8 +48,8 @@ Controls passingControls();
 // Whether leaving brings back what was there before, on a screen of its own.
 bool hasOwnScreen();
 
-// Clears the screen and leaves the cursor in its last row, unless leaving it brings back what was
-// there before.
+// Clears the screen in the terminal's own colours, unless leaving it brings back what was there
+// before. The cursor is left to curses.
 void clearScreen();
 
 // The bytes that enter it again.

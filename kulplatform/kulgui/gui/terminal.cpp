@@ -31,6 +31,8 @@ void leaveScreen(State next)
     const kul::Blocking blocking;
     state = next;
     echo();
+    if (kul::resumed()) // without curses, which shows no cursor that it has not hidden
+        curs_set(0);
     if (!keepsScreen)
         kul::clearScreen();
     endwin();
