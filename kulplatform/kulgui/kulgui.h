@@ -5,7 +5,7 @@
  * A program describes its dialogs with the calls below, hands over control with kulgui_exec and
  * gets its callbacks run. This header is the manual:
  *
- *     Rules           1 to 18, below: what holds for every call stands here once
+ *     Rules           1 to 19, below: what holds for every call stands here once
  *     Names           Version, Constants, Keys, Results
  *     Dialogs         Dialogs, Edition 2, What the user is at
  *     Ready dialogs   a message, a question, a list, a form and more with one call each
@@ -94,6 +94,12 @@
  *     is written shows when the component is drawn next. One that is marked ro is read-only: the
  *     library keeps it in step with others. Use the call that changes it. Records may grow at their
  *     end: do not make, copy or measure one that the library hands out.
+ * 19. Compatibility. What is built with version 1.0.0 or a later one runs with every later one
+ * below 2.0.0 without being built anew, and its dialogs look and answer as they did: no call,
+ * record field, number or name goes or gets another meaning, in both editions and both halves of
+ * this header. New calls, names and fields at the end of records may come. CURRENT, CONTROL, DLG
+ * and KULFIELD, which programs make, keep their size. The shared library is libkulgui.so.0: that
+ *     number counts interfaces that older programs cannot run with, and is not the version's.
  */
 #ifndef KULGUI_H
 #define KULGUI_H
@@ -116,8 +122,8 @@ extern "C" {
 /* ---- Version -------------------------------------------------------------------------------- */
 
 /** The version of this header, and as a number: major * 10000 + minor * 100 + patch. */
-#define KULGUI_VERSION "0.2.0"
-#define KULGUI_VERSION_NUMBER 200
+#define KULGUI_VERSION "1.0.0"
+#define KULGUI_VERSION_NUMBER 10000
 
 /** The KULGUI_VERSION of the library that runs. */
 KULGUI_API const char* kulgui_version(void);
@@ -1503,7 +1509,7 @@ typedef struct gui {
     WINDOW* winShadow; /* ro */
     PANEL* pnlMain;    /* ro */
     PANEL* pnlShadow;  /* ro */
-    int nX;            /* ro */
+    int nX;            /* ro: where it lies; kulgui_place moves it */
     int nY;            /* ro */
     int nWidth;        /* ro */
     int nHeight;       /* ro */

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Compares the interface of a shared library with the stored description of the last version: what
+# Compares the interface of a shared library with the stored description of version 1.0: what
 # programs were built with must be as it was, new calls are welcome.
 # usage: compare.sh HEADERS LIBRARY DESCRIPTION
 #        compare.sh HEADERS LIBRARY > DESCRIPTION      stores one
