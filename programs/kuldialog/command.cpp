@@ -26,7 +26,7 @@ struct Stream {
     bool leavesAtEnd;
     bool ended = false;
     kulready::Output output{};
-    Area area{kSecondArea};
+    kulready::Area area{kSecondArea, kSecondBar};
 };
 
 Stream* stream = nullptr;
@@ -44,9 +44,10 @@ void outputReady()
             Window::end(kAccepted);
         return;
     }
+    const bool follows = stream->area.isAtEnd();
     stream->output.feed(part, static_cast<std::size_t>(size));
     stream->area.wrap(stream->output.text(), stream->window.nWidth);
-    stream->area.showEnd();
+    stream->area.show(follows);
 }
 
 // Nothing is answered before the output is over; the text can be moved meanwhile.

@@ -281,7 +281,7 @@ bool Window::has(int nRef) const
 void Window::setText(const char* szText)
 {
     area_.wrap(szText, nWidth);
-    area_.showStart();
+    area_.show(false);
 }
 
 // The key that the row of buttons gets for this one: Tab and the arrows go through them, and on

@@ -13,9 +13,10 @@
 #ifndef KULDIALOG_WINDOW_HPP
 #define KULDIALOG_WINDOW_HPP
 
-#include "area.hpp"
 #include "colors.hpp"
 #include "output.hpp"
+#include "ready/area.hpp"
+#include "text.hpp"
 
 namespace kuldialog {
 
@@ -26,7 +27,9 @@ enum Reference {
     kLineBelow = 20000,
     kItem,
     kTextArea = 21000,
-    kSecondArea = 23000
+    kSecondArea = 24000,
+    kTextBar = 27000,
+    kSecondBar
 };
 
 // The usual rows of buttons.
@@ -103,7 +106,7 @@ private:
     int buttonCount_ = 0;
     char* text_;
     Buffer title_;
-    Area area_{kTextArea};
+    kulready::Area area_{kTextArea, kTextBar};
     int textRows_ = 0;
     int bodyWanted_ = 0;
     int bodyLeast_ = 0;

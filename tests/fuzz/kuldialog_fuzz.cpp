@@ -96,11 +96,6 @@ int __wrap_NCursesEnv(int)
     return 0;
 }
 
-unsigned __wrap_sleep(unsigned)
-{
-    return 0;
-}
-
 int __wrap_raise(int)
 {
     return 0;

@@ -123,9 +123,9 @@ void Frame::measure()
     const int nWidest =
         std::max(std::min(nScreenWidth, std::max(kWidest, nColumns_ + kMargins)), kMargins + 1);
     nWidth_ = std::min(nNeeded, nWidest - kMargins) + kMargins;
-    rows_.wrap(szText_, bodyWidth());
+    area_.wrap(szText_, nWidth_);
 
-    const int nRows = std::max(rows_.count(), nWantedText_);
+    const int nRows = std::max(area_.rows(), nWantedText_);
     const int nRow = nButtons_ > 0 ? 1 : 0;
     const int nBoth = nRows > 0 && nWanted_ > 0 ? 1 : 0; // a row between them
     const long long best = kFrame + 2LL * nRow + nRows + nBoth + nWanted_;
@@ -139,48 +139,11 @@ void Frame::measure()
     nBodyY_ = 1 + nTextRows_ + (nBoth && nLeft > 0 ? 1 : 0);
 }
 
-int Frame::lastFirst() const
-{
-    return std::max(rows_.count() - nTextRows_, 0);
-}
-
-void Frame::showRows()
-{
-    for (int i = 0; i < nTextRows_; ++i) {
-        std::size_t size = 0;
-        const char* start = rows_.row(nFirst_ + i, size);
-        // A label takes a row whole when a blank follows, and begins it behind its blanks.
-        std::size_t blanks = 0;
-        while (blanks < size && start[blanks] == ' ')
-            ++blanks;
-        Text row;
-        row.add(start + blanks, size - blanks);
-        row.add(" ");
-        kullabel_config(nChain_, TEXT_ROW + i, KUL_KEEP, KUL_KEEP, 2 + static_cast<int>(blanks),
-                        1 + i, std::max(nWidth_ - 3 - static_cast<int>(blanks), 1), 1, LEFT,
-                        NOBORDER, row.text());
-    }
-    kulscrollbar_setPosition(nChain_, SCROLL_BAR, nFirst_);
-}
-
-void Frame::createText()
-{
-    for (int i = 0; i < nTextRows_; ++i)
-        kullabel_create(nChain_, TEXT_ROW + i);
-    setText(szText_, false);
-}
-
 void Frame::setText(const char* szText, bool toEnd)
 {
     szText_ = szText;
-    rows_.wrap(szText_, bodyWidth());
-    if (rows_.count() > nTextRows_ && nTextRows_ > 1) {
-        kulscrollbar_create(nChain_, SCROLL_BAR);
-        kulscrollbar_config(nChain_, SCROLL_BAR, KUL_KEEP, KUL_KEEP, nWidth_ - 1, 1, nTextRows_, 0,
-                            rows_.count(), VERTICAL);
-    }
-    nFirst_ = toEnd ? lastFirst() : std::min(nFirst_, lastFirst());
-    showRows();
+    area_.wrap(szText_, nWidth_);
+    area_.show(toEnd);
 }
 
 // The buttons are a menu, which takes one row.
@@ -212,7 +175,7 @@ bool Frame::open()
                       KUL_CENTER, KUL_CENTER, nWidth_, nHeight_, nullptr, nullptr, nullptr, nullptr,
                       nullptr) != 0)
         return false;
-    createText();
+    area_.create(nChain_, 1, nTextRows_);
     return buttons_.isWhole();
 }
 
@@ -248,28 +211,6 @@ void Frame::click(int nButton)
         end(nButton);
 }
 
-// Moves the text; false where the key is none for that or all of it is in view.
-bool Frame::scroll(int nKey)
-{
-    const struct {
-        int nKey;
-        long long to;
-    } moves[] = {{KS_UP, nFirst_ - 1LL},
-                 {KS_DOWN, nFirst_ + 1LL},
-                 {KS_PAGEUP, nFirst_ - 1LL * nTextRows_},
-                 {KS_PAGEDOWN, nFirst_ + 1LL * nTextRows_},
-                 {KS_HOME, 0},
-                 {KS_END, INT_MAX}};
-    for (const auto& move : moves) {
-        if (move.nKey != nKey || lastFirst() == 0)
-            continue;
-        nFirst_ = static_cast<int>(std::clamp<long long>(move.to, 0, lastFirst()));
-        showRows();
-        return true;
-    }
-    return false;
-}
-
 // The key that the row of buttons gets for this one: Tab goes through them before it leaves them.
 int Frame::moveInButtons(int nKey)
 {
@@ -284,7 +225,7 @@ int Frame::moveInButtons(int nKey)
     if (nKey == KS_BACKTAB && nSelect > 0)
         return KS_LEFT;
     enterButtons(nKey); // for when there is nothing else to go to
-    if (scroll(nKey))
+    if (area_.scroll(nKey))
         return 0;
     if (nKey != KS_UP)
         return nKey;

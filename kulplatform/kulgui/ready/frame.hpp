@@ -12,7 +12,7 @@
 #ifndef KUL_READY_FRAME_HPP
 #define KUL_READY_FRAME_HPP
 
-#include "rows.hpp"
+#include "area.hpp"
 
 namespace kulready {
 
@@ -78,7 +78,7 @@ public:
     void focusButtons() { nFocus_ = BUTTONS; }
     void end(int nResult); // as if that button was clicked, or kCancelled
     void setText(const char* szText, bool toEnd);
-    bool isFollowing() const { return nFirst_ >= lastFirst(); }
+    bool isFollowing() const { return area_.isAtEnd(); }
 
     // Keys come here before they go to the text and the buttons: the key that is left, 0 for none.
     int (*onKey)(Frame& frame, int nKey) = nullptr;
@@ -93,11 +93,7 @@ private:
     static inline Frame* running = nullptr; // whose dialog runs now, the innermost one
 
     void measure();
-    void createText();
     void createButtons();
-    void showRows();
-    int lastFirst() const;
-    bool scroll(int nKey);
     void enterButtons(int nKey) const;
     int moveInButtons(int nKey);
     void handleKey();
@@ -105,7 +101,7 @@ private:
 
     Text title_;
     const char* szText_;
-    Rows rows_;
+    Area area_{TEXT_ROW, SCROLL_BAR};
     Text buttons_; // their texts, one after the other
     int nButtons_ = 0;
     int nButtonColumns_ = 0;
@@ -113,7 +109,6 @@ private:
     int nWidth_ = 0;
     int nHeight_ = 0;
     int nTextRows_ = 0; // that are shown
-    int nFirst_ = 0;    // row of the text at the top
     int nBodyY_ = 0;
     int nBodyHeight_ = 0;
     int nWantedText_ = 0;
