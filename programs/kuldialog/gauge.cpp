@@ -174,6 +174,7 @@ Answer readGauge(const Call& call, Window& window)
 struct Countdown {
     Meter meter;
     int nLeft;
+    int nTimer;
 
     void show() const { meter.set(nLeft, nLeft); }
 };
@@ -187,21 +188,21 @@ void secondPassed()
         return;
     }
     countdown->show();
-    kulgui_setTimer(1000, secondPassed);
+    countdown->nTimer = kulgui_setTimer(1000, secondPassed);
 }
 
 Answer countSeconds(const Call& call, Window& window)
 {
     const int nSeconds = std::max(call.number(3), 0);
-    Countdown counting{{window, nSeconds, " s"}, nSeconds};
+    Countdown counting{{window, nSeconds, " s"}, nSeconds, 0};
     counting.meter.create();
     counting.show();
     if (nSeconds == 0)
         return kAccepted;
     countdown = &counting;
-    const int nTimer = kulgui_setTimer(1000, secondPassed);
+    counting.nTimer = kulgui_setTimer(1000, secondPassed);
     const Answer answer = window.run();
-    kulgui_stopTimer(nTimer);
+    kulgui_stopTimer(counting.nTimer);
     countdown = nullptr;
     return answer;
 }

@@ -192,12 +192,15 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     const int nAskedY = settings.numbers[kBeginY];
     const int nX = cornered ? 0 : nAskedX != kNone ? nAskedX : nMiddleX;
     const int nY = cornered ? 0 : nAskedY != kNone ? nAskedY : nMiddleY;
+    Buffer title;
     if (const char* szTitle = settings.texts[kTitle]) {
-        title_.add(' ').add(szTitle, bytesWithin(szTitle, nWidth - kMargins)).add(' ');
+        title.add(' ').add(szTitle, bytesWithin(szTitle, nWidth - kMargins)).add(' ');
     }
     kulgui_create(nChain);
+    // Below the next box it is still there, with its title.
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      title_.text(), BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      copyOf(title.text(), title.size()), BORDER,
+                      std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
                       std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
                       nullptr, nullptr, nullptr, nullptr, nullptr) != 0)
         return false;

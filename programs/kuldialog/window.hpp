@@ -105,7 +105,6 @@ private:
     Button buttons_[kMostButtons];
     int buttonCount_ = 0;
     char* text_;
-    Buffer title_;
     kulready::Area area_{kTextArea, kTextBar};
     int textRows_ = 0;
     int bodyWanted_ = 0;

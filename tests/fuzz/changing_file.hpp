@@ -13,8 +13,8 @@
 
 namespace kulfuzz {
 
-constexpr long kEdges[] = {1 << 14, 1 << 16, 1 << 17, 1 << 18}; // near which much happens
-constexpr long kLargest = 1 << 20;
+constexpr long kEdges[] = {1 << 14, 1 << 15, 1 << 16, 1 << 17}; // near which much happens
+constexpr long kLargest = 1 << 18;
 
 inline int nFile = -1; // what has the name
 
@@ -46,7 +46,7 @@ inline void changeFile()
     const std::string part = takeText(24);
     const unsigned nTwice = take(); // seldom often: that takes its time
     std::string text = part;
-    for (unsigned i = nTwice % 8 + (nTwice < 224 ? 0 : 6); i > 0; --i)
+    for (unsigned i = nTwice % 8 + (nTwice < 240 ? 0 : 4); i > 0; --i)
         text += text;
     const long place = what % 4 == 2 ? lseek(nFile, 0, SEEK_END) : takePlace();
     if (place >= 0 && place + static_cast<long>(text.size()) < kLargest)

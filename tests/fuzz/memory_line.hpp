@@ -100,8 +100,7 @@ int __wrap_poll(pollfd* lines, nfds_t nLines, int nMilliseconds)
         line.revents = isReady ? line.events : short{0};
         return isReady;
     }));
-    if (nReady == 0)
-        kulfuzz::nNow += std::max(nMilliseconds, 0) * 1000000LL;
+    kulfuzz::nNow += std::max(nReady == 0 ? nMilliseconds : 0, 1) * 1000000LL;
     return nReady;
 }
 

@@ -232,7 +232,10 @@ Found character(std::string_view bytes, bool late)
         return eightBits(bytes, late);
     if (!valid)
         return {1, 0};
-    return {nBytes, character >= 0xA0 ? KUL_CHARACTER + static_cast<int>(character) : 0};
+    // The locale may have numbers that are beyond all characters.
+    return {nBytes, character >= 0xA0 && character <= 0x10FFFF
+                        ? KUL_CHARACTER + static_cast<int>(character)
+                        : 0};
 }
 
 Found escape(std::string_view bytes, bool late);
