@@ -24,6 +24,7 @@ enum class State { Closed, Suspended, Open };
 int nEnvSetting = F;
 State state = State::Closed;
 bool keepsScreen = false;
+bool opening = false; // curses may end the process meanwhile, when it has no memory
 
 // Ends curses' hold on the terminal; the descriptor's flags are the caller's.
 void leaveScreen(State next)
@@ -47,7 +48,7 @@ void closeScreen()
 
 void closeAtExit()
 {
-    if (state != State::Open || !kul::isOwner())
+    if (opening ? !stdscr : state != State::Open || !kul::isOwner())
         return;
     closeScreen();
     kul::restoreFlags();
@@ -141,15 +142,18 @@ int SetupGUIEnvironment()
         kul::noteOutside();
     if (!wasOpen)
         kul::findSignals();
-    if (!beginScreen())
+    if (!atExit)
+        atExit = std::atexit(closeAtExit) == 0;
+    opening = true;
+    const bool begun = beginScreen();
+    opening = false;
+    if (!begun)
         return -1;
     fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK);
     kul::noteInside();
     state = State::Open;
     if (!wasOpen)
         kul::takeSignals();
-    if (!atExit)
-        atExit = std::atexit(closeAtExit) == 0;
     return 0;
 }
 
