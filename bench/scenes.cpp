@@ -32,6 +32,7 @@ const kulbench::Scene* played = nullptr;
 long keysLeft = 0;
 int terminal = -1;
 long sent = 0;
+bool showsCursor = true;
 
 void addButton(int nRef, int nX, int nY, const char* szText)
 {
@@ -291,6 +292,14 @@ int __wrap_NCursesEnv(int)
     return 0;
 }
 
+void __real__ZN3kul12showCursorAtEP7_win_stii(WINDOW* win, int nY, int nX);
+
+void __wrap__ZN3kul12showCursorAtEP7_win_stii(WINDOW* win, int nY, int nX)
+{
+    if (showsCursor)
+        __real__ZN3kul12showCursorAtEP7_win_stii(win, nY, nX);
+}
+
 int __wrap__ZN3kul8awaitKeyEv()
 {
     if (keysLeft == 0) {
@@ -308,6 +317,11 @@ const Scene* findScene(std::string_view name)
 {
     const Scene* scene = std::ranges::find(kScenes, name, &Scene::name);
     return scene == std::end(kScenes) ? nullptr : scene;
+}
+
+void hideCursor()
+{
+    showsCursor = false;
 }
 
 bool openTerminal(const char* szTerm)

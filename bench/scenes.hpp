@@ -19,6 +19,9 @@ struct Scene {
 // A scene by its name; null for none.
 const Scene* findScene(std::string_view name);
 
+// Leaves the terminal's cursor hidden in edition 2 as well, to tell what it costs.
+void hideCursor();
+
 // Opens the terminal of that name. False when there is none.
 bool openTerminal(const char* szTerm);
 

@@ -185,6 +185,8 @@ int kulgui_setEdition(int nEdition)
 {
     if (nEdition != 1 && nEdition != 2)
         return -1;
+    if (kul::nEdition != nEdition)
+        kul::forgetDecoded(); // what was typed ahead for the other one
     kul::nEdition = nEdition;
     return 0;
 }

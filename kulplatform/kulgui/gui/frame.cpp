@@ -38,6 +38,8 @@ void printTitle(WINDOW* win, int nX, int nColor, const char* szTitle)
 // In edition 2 the corners of the frame stay, however long the title is.
 void printFrameTitle(const GUI& gui)
 {
+    if (!kul::isDrawn(gui.winMain, 0))
+        return;
     const char* szTitle = gui.szTitle ? gui.szTitle : "";
     const int nX = gui.nWidth / 2 - kul::widthOf(szTitle) / 2 - 1;
     if (!kul::isEdition2()) {

@@ -140,7 +140,8 @@ void learnDescription()
         decoder.learn(kul::isString(key.szBytes) ? key.szBytes : nullptr, key.nKey);
 }
 
-// Edition 2's key. While one has begun, its rest is awaited so long as the decoder says.
+// Edition 2's key; the decoder has bytes in no other one. While one has begun, its rest is awaited
+// so long as the decoder says.
 int nextKey(int nMilliseconds)
 {
     learnDescription();
@@ -243,19 +244,24 @@ void forgetTypedAhead()
         drain();
 }
 
+void forgetDecoded()
+{
+    decoder.clear();
+}
+
 bool keyIsOpen()
 {
-    return isEdition2() && decoder.patience() > 0;
+    return decoder.patience() > 0;
 }
 
 int keyAtHand()
 {
-    return isEdition2() ? decoder.next() : 0;
+    return decoder.next();
 }
 
 bool hasKeysAtHand()
 {
-    return isEdition2() && decoder.hasMore();
+    return decoder.hasMore();
 }
 
 int readKey(int nMilliseconds)

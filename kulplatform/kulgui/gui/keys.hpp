@@ -38,6 +38,9 @@ int keyAtHand();
 bool hasKeysAtHand();
 bool keyIsOpen();
 
+// Forgets what was read, before the other edition reads.
+void forgetDecoded();
+
 // Whether the line has been at its end for so long that nobody will type any more.
 bool lineIsGone();
 

@@ -180,7 +180,7 @@ void print(WINDOW* win, int nY, int nX, const char* szText)
     if (nX >= 0 && static_cast<long long>(text.size()) <= room && allPlain(text))
         plainRun(win, nY, nX, text);
     else
-        printOther(win, nY, nX, text, isEdition2());
+        printOther(win, nY, nX, text, false);
 }
 
 void printOnRow(WINDOW* win, int nY, int nX, const char* szText)

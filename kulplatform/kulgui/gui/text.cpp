@@ -67,9 +67,11 @@ int lineBytes(std::string_view text, int nStart, int nLength)
     return static_cast<int>(line.size()) + (isShorter ? 1 : 0);
 }
 
-// Whether the word at a place has a letter beyond ASCII.
+// Whether the word at a place has a letter beyond ASCII, and is not bytes.
 bool isBroken(std::string_view text, int nPlace)
 {
+    if (!kul::countsColumns())
+        return false;
     const auto isLetter = [=](long long nAt) {
         return at(text, nAt) > ' ' || !kul::isAscii(at(text, nAt));
     };
@@ -79,8 +81,7 @@ bool isBroken(std::string_view text, int nPlace)
         --first;
     while (isLetter(end))
         ++end;
-    return !kul::isAscii({text.data() + first, static_cast<std::size_t>(end - first)}) &&
-           kul::countsColumns();
+    return !kul::isAscii({text.data() + first, static_cast<std::size_t>(end - first)});
 }
 
 } // namespace
@@ -172,7 +173,7 @@ std::optional<std::string_view> RowWalk::next()
             const std::string_view kept(row_, static_cast<std::size_t>(ahead_ - row_));
             surplus_ = ahead_ - row_ - columnsOf(kept);
         }
-    } else if (isEdition2() && isBrokenWord()) {
+    } else if (isBrokenWord()) {
         end = ahead_;
         if (isBlank(*end) || *end == '\n') // the word ends here, too
             ++ahead_;
@@ -251,7 +252,7 @@ int lineEnd(std::string_view text, int nStart, int nLength)
     if (at(text, nLast + 1LL) != ' ') {
         while (nEnd > nStart && isCut(nEnd))
             --nEnd;
-        if (nEnd == nStart && isEdition2() && isBroken(text, nStart))
+        if (nEnd == nStart && isBroken(text, nStart))
             return nLast;
     } else if (isBlank(cells[nEnd])) {
         do {

@@ -75,6 +75,13 @@ Known* findKnown(const void* record)
     return nullptr;
 }
 
+// The kind of a component whose record says whether it can be used and seen; null in edition 1,
+// where it does not.
+const kul::UIKind* askedKind(const UI& ui)
+{
+    return kul::isEdition2() && ui.Pointer ? kul::uiKind(ui.nType) : nullptr;
+}
+
 // Puts a disabled component between parentheses, where the terminal has nothing else to tell it.
 void drawParentheses(WINDOW* win, const kul::Area& area, int nColor)
 {
@@ -186,16 +193,14 @@ bool isDisabled(const Dialog& dialog, const UI& ui)
     const Mark* mark = findMark(dialog, ui.nRef);
     if (mark && mark->disabled)
         return true;
-    const UIKind* kind = uiKind(ui.nType);
-    return isEdition2() && kind && ui.Pointer && kind->traits.hasEnable &&
-           !kind->enabled(ui.Pointer);
+    const UIKind* kind = askedKind(ui);
+    return kind && kind->traits.hasEnable && !kind->enabled(ui.Pointer);
 }
 
 bool takesFocus(const Dialog& dialog, const UI& ui)
 {
-    const UIKind* kind = uiKind(ui.nType);
-    const bool seen = !isEdition2() || !kind || !ui.Pointer || kind->visible(ui.Pointer) == T;
-    return seen && !isDisabled(dialog, ui);
+    const UIKind* kind = askedKind(ui);
+    return (!kind || kind->visible(ui.Pointer) == T) && !isDisabled(dialog, ui);
 }
 
 Area areaOf(const KULMENU& menu)

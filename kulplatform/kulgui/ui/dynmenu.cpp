@@ -98,6 +98,12 @@ void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
     }
 }
 
+// Whether there is a scroll bar that tells where the selection is.
+bool barTells(const KULDYNMENU& menu)
+{
+    return kul::isEdition2() && menu.nHeight < menu.nElements;
+}
+
 void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
 {
     KULGAUGEBAR bar{};
@@ -106,7 +112,7 @@ void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
     bar.nY = menu.nY;
     bar.nLength = kul::shifted(menu.nHeight, 2);
     bar.nRange = menu.nElements;
-    bar.nPosition = kul::isEdition2() ? menu.nSelect : 1;
+    bar.nPosition = barTells(menu) ? menu.nSelect : 1;
     bar.nOrient = VERTICAL;
     BarShow(gui, &bar, kScrollBar);
 }
@@ -130,13 +136,11 @@ void draw(GUI* gui, const KULDYNMENU& menu, kul::MenuView& view, int nFocus)
 
 namespace kul {
 
-// A scroll bar tells of every move in edition 2.
 Spot spotOf(DynMenu& menu)
 {
     follow(menu.view, menu);
     const int nY = shifted(menu.nY, 1LL + menu.nSelect - menu.view.nFirst);
-    const bool told = isEdition2() && menu.nHeight < menu.nElements;
-    return {{nY, shifted(nY, 1)}, told ? -1 : menu.view.nFirst};
+    return {{nY, shifted(nY, 1)}, barTells(menu) ? -1 : menu.view.nFirst};
 }
 
 void dropDynmenu(KULDYNMENU& menu)

@@ -200,8 +200,7 @@ int runMenu(int nChain, int nRef, const MenuKeys& keys)
     auto* start = findUI<Record>(nChain, nRef, keys.type);
     if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
         return KUL_NEXT;
-    if (isEdition2())
-        start->nSelect = settled(start->nSelect, stepsOf(*start));
+    start->nSelect = settled(start->nSelect, stepsOf(*start));
     Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
     handler.call(&Record::onFocus);
     while (const int nKey = handler.key(keys.obeysControls ? nothingPending : nullptr)) {

@@ -258,8 +258,7 @@ int ListHandler::finish()
 int runList(int nChain, int nRef, const List& start, const ListKeys& keys)
 {
     keepView(start);
-    if (isEdition2())
-        start.nCursor = settled(start.nCursor, stepsOf(start));
+    start.nCursor = settled(start.nCursor, stepsOf(start));
     bringIntoView(start);
     ListHandler handler({nChain, nRef, keys.type, start.nCursor, start.box.nSelect, 0});
     handler.call(&ListCalls::onFocus);

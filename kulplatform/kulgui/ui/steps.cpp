@@ -55,6 +55,8 @@ int seekRound(int nFrom, int nDirection, const Steps& steps, wint_t letter = 0)
 
 int settled(int nSelect, const Steps& steps)
 {
+    if (!isEdition2())
+        return nSelect;
     const int nNear = std::clamp(nSelect, 0, std::max(steps.nCount - 1, 0));
     const int nFound = seekRound(nNear, 1, steps);
     return nFound >= 0 ? nFound : nNear;

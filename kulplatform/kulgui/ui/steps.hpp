@@ -44,7 +44,8 @@ inline bool isUsable(const auto& element)
     return !isEdition2() || element.nEnable == 1;
 }
 
-// The element that a selection stands for: itself where it can be selected, else one near it.
+// The element that a selection stands for: itself where it can be selected, else one near it. In
+// edition 1 a selection may be anywhere.
 int settled(int nSelect, const Steps& steps);
 
 // Where a key takes a selection; where it is for other keys, and where nothing else can be

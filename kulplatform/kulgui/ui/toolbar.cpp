@@ -325,8 +325,7 @@ int kultoolbar_execKeys(int nChain, int nRef)
         return -1;
     if (toolbar->nVisible != T)
         return KUL_NEXT;
-    if (kul::isEdition2())
-        toolbar->nSelect = kul::settled(toolbar->nSelect, stepsOf(*toolbar));
+    toolbar->nSelect = kul::settled(toolbar->nSelect, stepsOf(*toolbar));
     kul::Handler<kul::Toolbar> handler({nChain, nRef, TOOLBAR, 0, toolbar->nSelect, 0});
     handler.call(&KULTOOLBAR::onFocus);
     while (const int nKey = handler.key(bothShown))
