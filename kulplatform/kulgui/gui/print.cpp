@@ -12,6 +12,9 @@
 
 namespace {
 
+// Columns of a byte that is spelled out, at most. At the right edge they go on in the next row.
+constexpr long long kMostSpelled = 4;
+
 // Number of plain characters at the front; without the last one if a mark may stand on it.
 std::size_t plainCount(std::string_view text)
 {
@@ -101,7 +104,10 @@ void drawBytes(WINDOW* win, int nY, int nX, std::string_view text)
             first += static_cast<long long>(nRun);
             continue;
         }
-        kul::drawAcrossColumns(win);
+        if (nAt > getmaxx(win) - kMostSpelled)
+            kul::drawAcrossRows(win);
+        else
+            kul::drawAcrossColumns(win);
         if (characterBytes(rest) == 1 && kul::isDrawn(win, nY))
             mvwaddnstr(win, nY, nAt, rest.data(), 1);
         ++first;
@@ -151,7 +157,8 @@ void printOther(WINDOW* win, int nY, int nX, std::string_view text, bool onRow)
         return;
     }
     kul::drawAcrossColumns(win);
-    if (!onRow)
+    if (!onRow ||
+        kul::shifted(nX, kMostSpelled * static_cast<long long>(text.size())) > getmaxx(win))
         kul::drawAcrossRows(win);
     else if (!kul::isDrawn(win, nY))
         return;
@@ -167,7 +174,7 @@ void drawText(WINDOW* win, int nY, int nX, std::string_view text, int nWidth)
 {
     if (allPlain(text))
         plainRun(win, nY, nX, text);
-    else if (countsColumns())
+    else if (isEdition2())
         printLetters(win, nY, nX, INT_MAX, text, ShownControls::InOneColumn, nWidth);
     else
         drawBytes(win, nY, nX, text);
