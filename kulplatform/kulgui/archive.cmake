@@ -44,12 +44,19 @@ target_include_directories(kulgui_outer PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 set_target_properties(kulgui_outer PROPERTIES POSITION_INDEPENDENT_CODE ON)
 target_link_libraries(kulgui_outer PRIVATE kulgui_curses)
 
-# Adds these to a static library and exchanges the names. Objects become plain ones, for whatever links
-# them; those of a compiler that optimises at the link cannot, and stay as they are.
+# Only objects of machine code have names that can be exchanged, also where all is optimised at the link.
+target_compile_options(kulgui_outer PRIVATE -fno-lto)
+if(NOT BUILD_SHARED_LIBS)
+    target_compile_options(kulgui_objects PRIVATE -fno-lto)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+    target_compile_options(kulgui_objects PRIVATE -ffat-lto-objects)
+elseif("${CMAKE_CXX_FLAGS}" MATCHES "-flto")
+    message(FATAL_ERROR "With this compiler, -flto and a shared library there is no libkulgui.a beside it")
+endif()
+
+# Adds these to a static library, takes away what only an optimising linker reads, and exchanges the
+# names.
 function(exchange_names library)
-    if("${CMAKE_C_FLAGS} ${CMAKE_CXX_FLAGS}" MATCHES "-flto" OR NOT CMAKE_OBJCOPY)
-        return()
-    endif()
     target_sources(${library} PRIVATE $<TARGET_OBJECTS:kulgui_outer>)
     add_custom_command(TARGET ${library} POST_BUILD COMMAND ${CMAKE_OBJCOPY}
         --remove-section=.gnu.lto_* --remove-section=.gnu.debuglto_* --redefine-syms=${outer}/names
