@@ -5,12 +5,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "../gui/memory.hpp"
 #include "byte_search.hpp"
 
 namespace kul {
@@ -54,9 +55,10 @@ FileText* FileText::open(const char* szName)
     struct stat status;
     if (!szName || stat(szName, &status) != 0 || !isRegular(status))
         return nullptr;
-    auto* text = allocate<FileText>();
+    auto* text = static_cast<FileText*>(std::malloc(sizeof(FileText)));
     if (!text)
         return nullptr;
+    std::memset(static_cast<void*>(text), 0, offsetof(FileText, marks_));
     // The name may have changed hands since.
     text->nDescriptor_ = ::open(szName, O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     text->forgetLines();
@@ -123,6 +125,7 @@ void FileText::forgetLines()
 {
     stride_ = kChunk;
     nMarks_ = 1;
+    marks_[0] = 0;
 }
 
 FileText::Change FileText::refresh()
@@ -170,7 +173,7 @@ bool FileText::turnTo(FilePlace place)
     if (page->nUsed == 0 || page->number != number) {
         page->number = number;
         page->nBytes = static_cast<int>(
-            std::max<ssize_t>(readAt(nDescriptor_, page->bytes, kPage, number * kPage), 0));
+            std::max<ssize_t>(readAt(nDescriptor_, bytesOf(*page), kPage, number * kPage), 0));
         if (page->nBytes < kPage)
             meetEnd(number * kPage + page->nBytes);
     }
@@ -180,7 +183,7 @@ bool FileText::turnTo(FilePlace place)
         nUses_ = 2;
     }
     page->nUsed = nUses_;
-    last_ = page->bytes;
+    last_ = bytesOf(*page);
     lastPlace_ = number * kPage;
     lastSize_ =
         static_cast<std::uint64_t>(std::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));

@@ -119,10 +119,10 @@ private:
         FilePlace number;
         unsigned nUsed; // 0: empty
         int nBytes;
-        char bytes[kPage];
     };
 
     bool turnTo(FilePlace place);
+    char* bytesOf(const Page& page) { return bytes_[&page - pages_]; }
     char* chunkBytes();
     std::string_view chunk(FilePlace place);
     Counted markAt(std::int64_t nMark) const;
@@ -147,8 +147,11 @@ private:
     unsigned nUses_;
     std::int64_t nMarks_; // marks that are set; mark 0 is the start of the file
     FilePlace stride_;    // distance of two marks
-    std::int64_t marks_[kMarks];
     Page pages_[kPages];
+
+    // Never read before it is written: as much of it takes memory as is used.
+    std::int64_t marks_[kMarks];
+    char bytes_[kPages][kPage];
     char buffer_[kLine + kOverlap + kChunk];
 };
 
