@@ -2,15 +2,20 @@
 # package, the licence and the list of changes, and compresses what Debian has compressed.
 get_filename_component(source ${CMAKE_CURRENT_LIST_DIR}/../.. ABSOLUTE)
 
-# The list of changes in Debian's form: each "## VERSION (DATE)" of ours is an entry.
+# The list of changes in Debian's form: each "## VERSION (DATE)" of ours is an entry. Those of one day are
+# a minute apart, for each has to be later than the one before.
 function(write_changes file)
     file(STRINGS ${source}/CHANGELOG.md heads REGEX "^## ")
     file(WRITE ${file} "")
+    list(LENGTH heads minute)
     foreach(head IN LISTS heads)
+        math(EXPR minute "${minute} - 1")
         string(REGEX MATCH "^## ([0-9.]+) \\((.*)\\)" matched "${head}")
         set(version ${CMAKE_MATCH_1})
         set(when ${CMAKE_MATCH_2})
-        if(NOT when MATCHES "^[0-9-]+$")
+        if(when MATCHES "^[0-9-]+$")
+            set(when "${when} 0:${minute}")
+        else()
             set(when "@$ENV{SOURCE_DATE_EPOCH}")
         endif()
         execute_process(COMMAND date -u -d ${when} "+%a, %d %b %Y %H:%M:%S +0000"
