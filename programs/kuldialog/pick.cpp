@@ -128,7 +128,7 @@ void Picker::create()
 int Picker::selected() const
 {
     const UI* ui = GetUIComponentByRef(window_.nChain, kEntries);
-    const int nSelect = ui ? static_cast<KULDYNMENU*>(ui->Pointer)->nSelect : -1;
+    const int nSelect = ui && ui->Pointer ? static_cast<KULDYNMENU*>(ui->Pointer)->nSelect : -1;
     return nSelect < count_ ? nSelect : -1;
 }
 

@@ -198,12 +198,14 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     }
     kulgui_create(nChain);
     // Below the next box it is still there, with its title.
+    char* kept = copyOf(title.text(), title.size());
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      copyOf(title.text(), title.size()), BORDER,
-                      std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      kept, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
                       std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
-                      nullptr, nullptr, nullptr, nullptr, nullptr) != 0)
+                      nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
+        std::free(kept);
         return false;
+    }
     area_.create(nChain, 1, textRows_);
     createLineBelow();
     if (settings.is(kPrintSize)) {
@@ -225,6 +227,7 @@ Answer Window::run()
     kulgui_setFocus(nChain, otherButton ? kButtonRow : nFocus);
     Window* before = running;
     running = this;
+    answer_ = kFailed; // where the line is hung up
     if (settings.numbers[kTimeLimit] > 0)
         timer_ = kulgui_setTimer(1000 * settings.numbers[kTimeLimit], timeIsUp);
     const int nResult = kulgui_exec(nChain);

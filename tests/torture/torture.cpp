@@ -68,6 +68,12 @@ std::vector<Example> examples()
     };
     for (const auto& box : boxes)
         all.push_back({"programs/kuldialog/kuldialog", down + " |" + "a|" + enter + end, box});
+    const std::vector<std::vector<std::string>> dialogs = {
+        {"tell"},        {"form", "3"}, {"choose", "4"},          {"check", "4"},
+        {"option", "4"}, {"pick", "/"}, {"view", "torture.conf"}, {"run", "echo a"},
+        {"progress"}};
+    for (const auto& dialog : dialogs)
+        all.push_back({"tests/programs/ready", down + " |" + "a|" + enter + "\t|" + enter + end, dialog});
     return all;
 }
 
@@ -90,6 +96,7 @@ Seen run(const std::string& folder, const std::string& shim, const Example& exam
                           "TORTURE_SAYS=" + says,
                           on ? "TORTURE_ON=1" : "TORTURE_ON",
                           "LC_ALL=C.UTF-8",
+                          "UBSAN_OPTIONS=exitcode=" + std::to_string(kReported),
                           "ASAN_OPTIONS=verify_asan_link_order=0:exitcode=" + std::to_string(kReported)};
     Terminal terminal(launch);
     const auto status = terminal.wait(kPatience);

@@ -46,7 +46,7 @@ void arrange(const Frame& frame)
     for (int i = 0; i < form.nFields; ++i) {
         const UI* ui = GetUIComponentByRef(frame.chain(), BODY + i);
         const DI* di = GetDIComponentByRef(frame.chain(), ITEM + i);
-        if (!ui || !di)
+        if (!ui || !di || !ui->Pointer || !di->Pointer)
             continue;
         const int nRow = i - form.nTop;
         auto& line = *static_cast<KULTEXTBOX*>(ui->Pointer);

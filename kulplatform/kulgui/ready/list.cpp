@@ -54,7 +54,7 @@ void createOptions(const Frame& frame)
 int cursorOf(int nChain)
 {
     const UI* ui = GetUIComponentByRef(nChain, BODY);
-    if (!ui)
+    if (!ui || !ui->Pointer)
         return -1;
     return ui->nType == OPTIONS ? static_cast<KULOPTIONS*>(ui->Pointer)->nPosition
                                 : static_cast<KULDYNMENU*>(ui->Pointer)->nSelect;

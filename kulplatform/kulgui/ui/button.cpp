@@ -41,9 +41,10 @@ void goToNearest(const CURRENT& at, int nKey)
     const UI* nearest = nullptr;
     int nNearest = -1;
     for (const UI* ui = from ? dialog.UserInterface : nullptr; ui; ui = ui->Next) {
-        if (ui->nType != BUTTON || ui->Pointer == from || !kul::takesFocus(dialog, *ui))
+        const auto* to = ui->nType == BUTTON ? static_cast<KULBUTTON*>(ui->Pointer) : nullptr;
+        if (!to || to == from || !kul::takesFocus(dialog, *ui))
             continue;
-        const int nDistance = distance(*from, *static_cast<KULBUTTON*>(ui->Pointer), nKey);
+        const int nDistance = distance(*from, *to, nKey);
         if (nDistance >= 0 && (nNearest < 0 || nDistance < nNearest)) {
             nearest = ui;
             nNearest = nDistance;
