@@ -11,28 +11,13 @@
 #include <string.h>
 #include <unistd.h>
 
+// clang-format off
 static const char* const kSequences[] = {
-    "\x1b]0;Z\x07",
-    "\x1b]2;Z\x1b\\",
-    "\x1bP$q\"pZ",
-    "\x1b[6nZ",
-    "\x1b[2;2HZ",
-    "\x1b"
-    "cZ",
-    "\xc2\x9b"
-    "6nZ",
-    "\x9b"
-    "6nZ",
-    "\xc2\x9d"
-    "0;Z\xc2\x9c",
-    "\xc2\x90Z\xe4",
-    "\u202eZ",
-    "\u202aZ\u202c",
-    "\u2066Z\u2069",
-    "\u200eZ\u200f\u061c",
-    "\u200bZ\ufeff\u200d",
-    "\xe4Z\xc2",
+    "\x1b]0;Z\x07", "\x1b]2;Z\x1b\\", "\x1bP$q\"pZ", "\x1b[6nZ", "\x1b[2;2HZ", "\x1b" "cZ",
+    "\xc2\x9b" "6nZ", "\x9b" "6nZ", "\xc2\x9d" "0;Z\xc2\x9c", "\xc2\x90Z\xe4",
+    "\u202eZ", "\u202aZ\u202c", "\u2066Z\u2069", "\u200eZ\u200f\u061c", "\u200bZ\ufeff\u200d", "\xe4Z\xc2",
 };
+// clang-format on
 
 static char szFile[] = "/tmp/kulgui-texts-XXXXXX";
 
@@ -56,35 +41,26 @@ static void showItems(const char* szText)
 
 static void showMenus(const char* szText)
 {
-    kulmenu_create(1, 1);
     kulmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, NULL, NULL, NULL, NULL);
     kulmenu_addElement(1, 1, szText, 1, NULL, NULL);
-    kuldynmenu_create(1, 2);
     kuldynmenu_config(1, 2, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 7, 14, 1, NULL, NULL, NULL, NULL);
     kuldynmenu_addElement(1, 2, szText, NULL, NULL, 1);
-    kuldescrmenu_create(1, 3);
     kuldescrmenu_config(1, 3, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, 10, 10, 5, NULL, NULL, NULL, NULL);
     kuldescrmenu_addElement(1, 3, 1, szText, szText, NULL, NULL);
-    kulbutton_create(1, 4);
     kulbutton_config(1, 4, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 7, 16, 1, szText, NULL, NULL, NULL, NULL);
-    kultoolbar_create(1, 5);
     kultoolbar_config(1, 5, KUL_KEEP, KUL_KEEP, KUL_KEEP, 40, 7, LATERAL, NULL, NULL, NULL, NULL);
     kultoolbar_addButton(1, 5, szText, 0, 1, NULL, NULL);
 }
 
 static void showBoxes(const char* szText)
 {
-    kulcheckbox_create(1, 6);
     kulcheckbox_config(1, 6, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 10, 16, 4, BORDER, NULL, NULL, NULL, NULL);
     kulcheckbox_addElement(1, 6, szText, 0, 1, NULL, NULL);
-    kuloptions_create(1, 7);
     kuloptions_config(1, 7, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 10, 16, 4, BORDER, 0, 0, NULL, NULL, NULL, NULL);
     kuloptions_addElement(1, 7, szText, 1, NULL, NULL);
-    kultextbox_create(1, 8);
-    kultextbox_config(1, 8, KUL_KEEP, KUL_KEEP, KUL_KEEP, 40, 10, 16, 3, BORDER, NOMASK, NULL, NULL, NULL, NULL);
-    kultextbox_setText(1, 8, szText);
-    kulfileview_create(1, 9);
-    kulfileview_config(1, 9, KUL_KEEP, KUL_KEEP, KUL_KEEP, 58, 10, 16, 4, BORDER, szFile, NULL, NULL, NULL, NULL);
+    kultextbox_config(1, 9, KUL_KEEP, KUL_KEEP, KUL_KEEP, 40, 10, 16, 3, BORDER, NOMASK, NULL, NULL, NULL, NULL);
+    kultextbox_setText(1, 9, szText);
+    kulfileview_config(1, 8, KUL_KEEP, KUL_KEEP, KUL_KEEP, 58, 10, 16, 4, BORDER, szFile, NULL, NULL, NULL, NULL);
 }
 
 /* All at once, in a dialog that is gone afterwards. */
@@ -100,6 +76,8 @@ static void show(const char* szText)
     kulgui_create(1);
     kulgui_config(1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, szText, BORDER, 1, 2, 76, 18, NULL, NULL, NULL, NULL,
                   NULL);
+    for (int type = MENU; type <= TEXTBOX; ++type)
+        CreateUIComponent(1, type, type + 1);
     showItems(szText);
     showMenus(szText);
     showBoxes(szText);

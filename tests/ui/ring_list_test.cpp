@@ -233,14 +233,6 @@ TYPED_TEST(RingListTest, StaysInBoxesOfAnySize)
         EXPECT_EQ(this->run({D, D, D, D, U, D}, 0), KUL_LEFT);
         EXPECT_EQ(this->drawn(2, 2, 3, 6), box.rows);
     }
-    for (int nHeight = 1; nHeight < 6; ++nHeight) {
-        for (const int nCursor : {0, 1, 2, 3, 6, -5, INT_MIN, INT_MAX}) {
-            this->make(14, nHeight, NOBORDER, "1111111", nCursor);
-            this->run({}, 0);
-            for (const int nOutside : {1, 2 + nHeight})
-                EXPECT_EQ(this->shades(nOutside, 15, 1, 1), Rows{"."}) << nHeight << ' ' << nCursor;
-        }
-    }
     for (const int nElements : {INT_MIN, INT_MAX}) { // written by a program
         this->make(14, 3, NOBORDER, "111");
         this->list().nElements = nElements;
