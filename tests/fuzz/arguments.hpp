@@ -17,7 +17,7 @@ namespace kulfuzz {
 inline constexpr int kNumbers[] = {0, 1, 2, 3, -1, -2, 5, 8, 10, 13, 20, 40, 79, 80, 81, 100, INT_MAX, INT_MIN,
                                    KUL_KEEP, 24, KUL_CENTER, 55, 56, 30, 31, 512, 1000, 1 << 24, -1000};
 inline constexpr const char* kTexts[] = {"", "OK", "two words", "a\nb\nc", "Gr\xc3\xb6\xc3\x9f z", ".",
-                                         "\xe4\xb8\xad\xe6\x96\x87 wide", "\x1b[2J\x07", "/proc/self/maps",
+                                         "\xe4\xb8\xad\xe6\x96\x87 wide", "\x1b[2J\x07", "/proc/self/comm",
                                          "longerthanarowofwords and more", "e\xcc\x81\xe2\x80\x8d", "\xff\xc2"};
 // clang-format on
 

@@ -114,7 +114,7 @@ void kulfuzz::callAny()
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
-    static const bool isOpen = openMemory("12", "40");
+    static const bool isOpen = openMemory("10", "32");
     check(isOpen && szKeystrokes[0]);
     beginLine(data, size);
     NCursesEnv(1);

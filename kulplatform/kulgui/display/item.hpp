@@ -40,7 +40,7 @@ constexpr DIKind diRow(int nTaken)
     else
         nVisible = offsetof(Record, nVisible);
     void (*drop)(void*) = nullptr;
-    if constexpr (Drop != nullptr)
+    if constexpr (requires(Record & record) { Drop(record); })
         drop = [](void* record) { Drop(*static_cast<Record*>(record)); };
     return {nTaken,
             sizeof(Record),
