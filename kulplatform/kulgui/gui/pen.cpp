@@ -86,7 +86,7 @@ Short placed(Place at, char final)
 Short many(bool known, std::string_view step, int nCount, char final)
 {
     Short way;
-    if (known && nCount * step.size() <= 3) {
+    if (known && static_cast<std::size_t>(nCount) * step.size() <= 3) {
         for (int i = 0; i < nCount; ++i) {
             for (const char character : step)
                 way.add(character);
