@@ -14,25 +14,33 @@ bytes() {
     echo $(((some - none) / 300))
 }
 
-# counted SCENE ELEMENTS KEYS [EDITION]: instructions of the whole run
+# counted SCENE ELEMENTS KEYS TERM [EDITION [still]]: instructions of the whole run
 counted() {
-    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$keys" "$1" "$2" "$3" linux "${4:-1}" 2>&1 |
+    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$keys" "$@" 2>&1 |
         sed -n 's/.*Collected *: *//p'
 }
 
-# instructions SCENE ELEMENTS: of one key
+# instructions SCENE ELEMENTS [TERM]: of one key
 instructions() {
-    echo $((($(counted "$1" "$2" 300) - $(counted "$1" "$2" 0)) / 300))
+    echo $((($(counted "$1" "$2" 300 "${3:-linux}") - $(counted "$1" "$2" 0 "${3:-linux}")) / 300))
 }
 
-# early SCENE ELEMENTS EDITION: of one of the first keys, which do not go round a list
+# on_three TEXT SCENE ELEMENTS: a row with those of three terminals
+on_three() {
+    row "$1" "$(instructions "$2" "$3" linux)" "$(instructions "$2" "$3" vt100)" \
+        "$(instructions "$2" "$3" xterm-256color)"
+}
+
+# early SCENE ELEMENTS EDITION [still]: of one of the first keys, which do not go round a list
 early() {
-    echo $((($(counted "$1" "$2" 8 "$3") - $(counted "$1" "$2" 2 "$3")) / 6))
+    scene=$1 n=$2
+    shift 2
+    echo $((($(counted "$scene" "$n" 8 linux "$@") - $(counted "$scene" "$n" 2 linux "$@")) / 6))
 }
 
 # adding SCENE ELEMENTS: instructions of one element
 adding() {
-    echo $((($(counted "$1" "$2" 0) - $(counted "$1" 0 0)) / $2))
+    echo $((($(counted "$1" "$2" 0 linux) - $(counted "$1" 0 0 linux)) / $2))
 }
 
 row() {
@@ -63,23 +71,34 @@ resizing() {
 row "The screen from 80 by 24 to 60 by 18, a list of 10" "$(resizing linux)" "$(resizing vt100)" "$(resizing xterm-256color)"
 
 echo
+row "Instructions of a key" linux vt100 xterm-256color
+on_three "an arrow key in a check list of 10" checks 10
+on_three "  Space" space 10
+on_three "  with a callback that changes nothing" selects 10
+on_three "  of 100, mean with scrolling" checks 100
+on_three "an arrow key in an option list of 10" options 10
+on_three "an arrow key in a dynamic menu of 10" menu 10
+on_three "an arrow key in a menu of 3" bar 3
+on_three "an arrow key in a description menu of 3" descriptions 3
+on_three "a letter in a text box" text 20
+on_three "a letter in a text box, edition 2" letters 20
+on_three "focus to the next of 3 buttons" focus 3
+on_three "an arrow key in a toolbar of 3" toolbar 3
+
+echo
 row "Instructions of a key, on linux" "" "" ""
-row "focus to the next of 3 buttons" "$(instructions focus 3)" "" ""
-row "  the same cells by curses alone" "$(instructions focus-plain 3)" "" ""
+row "focus, the same cells by curses alone" "$(instructions focus-plain 3)" "" ""
 row "Enter that changes nothing, 3 buttons" "$(instructions button 3)" "" ""
 row "Enter that changes nothing, 20 display items" "$(instructions items 20)" "" ""
 row "  the same cells by curses alone, row by row" "$(instructions items-plain 20)" "" ""
-row "a letter in a text box" "$(instructions text 20)" "" ""
-row "an arrow key in a check list of 10" "$(instructions checks 10)" "" ""
-row "an arrow key in an option list of 10" "$(instructions options 10)" "" ""
-row "an arrow key in a dynamic menu of 10" "$(instructions menu 10)" "" ""
-row "a letter in a text box, edition 2" "$(instructions letters 20)" "" ""
-row "  one of 60,000" "$(instructions letters 60000)" "" ""
+row "a letter in a text box of 60,000, edition 2" "$(instructions letters 60000)" "" ""
 
 echo
-row "Instructions of a key in both editions" "edition 1" "edition 2" ""
-for scene in text menu options checks; do
-    row "$scene" "$(early $scene 10 1)" "$(early $scene 10 2)" ""
+row "Instructions of a key in both editions" "edition 1" "edition 2" "cursor hidden"
+for scene in text menu options checks space focus toolbar; do
+    n=10
+    case $scene in focus | toolbar) n=3 ;; esac
+    row "$scene" "$(early $scene $n 1)" "$(early $scene $n 2)" "$(early $scene $n 2 still)"
 done
 
 echo

@@ -89,6 +89,15 @@ void dropTextbox(KULTEXTBOX& box)
         *state = {};
 }
 
+Spot spotOf(TextBox& box)
+{
+    if (innerSize(box.nWidth, box.nBorder) < 1 || innerSize(box.nHeight, box.nBorder) < 1)
+        return {{}, -1};
+    const Spot spot = textManners().spot(box);
+    const int nY = shifted(box.nY, box.nBorder == BORDER ? 1 : 0);
+    return {{shifted(nY, spot.rows.nFirst), shifted(nY, spot.rows.nEnd)}, spot.nView};
+}
+
 bool textboxAccepts(int nChain, int nRef)
 {
     const auto* box = findUI<TextBox>(nChain, nRef, TEXTBOX);
@@ -277,7 +286,8 @@ int kultextbox_execKeys(int nChain, int nRef)
         if (nLeave == 0)
             edit(handler.record(), nKey);
         handler.call(&KULTEXTBOX::onKey);
-        handler.show();
+        const kul::TextBox* now = handler.record();
+        handler.show(now && !now->onKey ? kul::Changed::Selected : kul::Changed::Component);
         // A wrong text traps nobody: Escape goes without a question.
         if (nLeave != 0 && (nKey == KS_ESC || kul::textboxAccepts(nChain, nRef)))
             handler.end(nLeave);

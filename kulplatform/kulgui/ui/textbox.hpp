@@ -44,6 +44,7 @@ struct TextManners {
     int (*before)(KULTEXTBOX& box); // place of the character before the cursor, which is not 0
     int (*after)(KULTEXTBOX& box);  // place behind the one at the cursor, which is not the end
     int (*moved)(KULTEXTBOX& box, int nRows); // where the cursor is so many rows below
+    Spot (*spot)(KULTEXTBOX& box); // what a key can change, its rows counted from the first inside
     void (*draw)(WINDOW* win, KULTEXTBOX& box, bool focused); // what is inside
     void (*drawAlone)(WINDOW* win, KULTEXTBOX& box);          // the same, for DrawTextBox
     bool (*fits)(KULTEXTBOX& box, std::string_view text);     // as a whole text of the program's
@@ -87,6 +88,9 @@ inline std::string_view textOf(const KULTEXTBOX& box)
 
 // Whether the cursor can move. Brings one that the program moved back into the text.
 bool hasCursor(KULTEXTBOX* box);
+
+// The rows from the cursor's on to that of the text's end.
+Spot spotOf(TextBox& box);
 
 // Null for a record of the program's own.
 inline TextState* stateOf(KULTEXTBOX& box)

@@ -53,6 +53,10 @@ bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
     const char* szText = box.szText ? box.szText : "";
     const int nLength = box.szText ? box.nLength : 0;
     const int nEnd = std::min(kul::shifted(row.nFirst, row.nCount), kul::shifted(nLength, 1));
+    const bool goesOn = row.nFirst + static_cast<long long>(row.nCount) <= nLength;
+    if (!kul::isDrawn(win, nY))
+        return goesOn &&
+               !std::memchr(szText + row.nFirst, '\0', static_cast<std::size_t>(row.nCount));
     for (int nPlace = row.nFirst; nPlace < nEnd;) {
         const int nAt = kul::shifted(nX, nPlace - row.nFirst);
         if (const int nRun = plainRun(szText, nPlace, nEnd, row)) {
@@ -67,7 +71,7 @@ bool drawRow(WINDOW* win, int nY, int nX, const KULTEXTBOX& box, const Row& row)
             return false;
         ++nPlace;
     }
-    return row.nFirst + static_cast<long long>(row.nCount) <= nLength;
+    return goesOn;
 }
 
 // Draws the rows from one on; next says where the row behind a place begins.
@@ -90,6 +94,20 @@ void draw(WINDOW* win, KULTEXTBOX& box, bool focused)
     drawRows(win, box, row, [&row, text = kul::viewOf(box.szText)](int nPlace) {
         return kul::lineStart(text, nPlace, row.nCount - 1);
     });
+}
+
+// The row of the cursor is found as it is drawn; that of the end is no later than where it would be
+// if no blanks were skipped.
+kul::Spot spot(KULTEXTBOX& box)
+{
+    const int nCount = kul::innerSize(box.nWidth, box.nBorder);
+    const int nLast = kul::innerSize(box.nHeight, box.nBorder) - 1;
+    const std::string_view text = kul::textOf(box);
+    int nRow = 0;
+    for (int nNext = nCount; nRow < nLast && nNext <= box.nCursorPos; ++nRow)
+        nNext = kul::shifted(kul::lineStart(text, nNext, nCount - 1), nCount);
+    const int nEnd = std::clamp(box.nLength / nCount, nRow, nLast);
+    return {{nRow, nEnd + 1}, 0};
 }
 
 // Its rows hold one character more than those above where there is a border, no blanks are skipped
@@ -142,6 +160,7 @@ constexpr kul::TextManners kManners = {.keys = kKeys,
                                        .before = [](KULTEXTBOX& box) { return box.nCursorPos - 1; },
                                        .after = [](KULTEXTBOX& box) { return box.nCursorPos + 1; },
                                        .moved = moved,
+                                       .spot = spot,
                                        .draw = draw,
                                        .drawAlone = drawAlone,
                                        .fits = fits,

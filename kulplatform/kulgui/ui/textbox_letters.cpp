@@ -246,6 +246,10 @@ int drawRows(WINDOW* win, const KULTEXTBOX& box, int nFirst, bool cursor)
         const int nEnd = rows.rowEnd(nFrom);
         if (nY >= getmaxy(win))
             break;
+        if (!kul::isDrawn(win, nY)) {
+            nFrom = nEnd;
+            continue;
+        }
         if (kul::isMasked(box))
             kul::hRun(win, nY, nX, rows.columns(nFrom, nEnd, INT_MAX), '*');
         else
@@ -256,6 +260,15 @@ int drawRows(WINDOW* win, const KULTEXTBOX& box, int nFirst, bool cursor)
     if (cursor)
         kul::showCursorAt(win, kul::shifted(nTop, cell.nRow), kul::shifted(nX, cell.nColumn));
     return nFirst;
+}
+
+kul::Spot spot(KULTEXTBOX& box)
+{
+    const kul::TextRows rows(box);
+    const kul::TextState* state = kul::stateOf(box);
+    const int nCursor = std::clamp(box.nCursorPos, 0, rows.length());
+    const int nFirst = rows.follow(state ? state->nFirst : 0, nCursor);
+    return {rows.reachable(nCursor, nFirst), nFirst};
 }
 
 void draw(WINDOW* win, KULTEXTBOX& box, bool focused)
@@ -285,6 +298,7 @@ constexpr kul::TextManners kManners = {.keys = kKeys,
                                        .before = before,
                                        .after = after,
                                        .moved = moved,
+                                       .spot = spot,
                                        .draw = draw,
                                        .drawAlone = drawAlone,
                                        .fits = fits,

@@ -9,7 +9,8 @@ namespace kul {
 
 TextRows::TextRows(const KULTEXTBOX& box)
     : text_(textOf(box)), nWidth_(std::max(innerSize(box.nWidth, box.nBorder), 1)),
-      nHeight_(std::max(innerSize(box.nHeight, box.nBorder), 1)), masked_(isMasked(box))
+      nHeight_(std::max(innerSize(box.nHeight, box.nBorder), 1)), masked_(isMasked(box)),
+      simple_(text_.size() <= kShort && isAscii(text_))
 {
 }
 
@@ -52,7 +53,8 @@ std::string_view TextRows::plain(int nFrom, int nTo) const
 bool TextRows::isSimple(int nFrom, int nTo) const
 {
     const int nSize = std::min(nTo + 1, length()) - nFrom;
-    return nSize <= 0 || isAscii({text_.data() + nFrom, static_cast<std::size_t>(nSize)});
+    return simple_ || nSize <= 0 ||
+           isAscii({text_.data() + nFrom, static_cast<std::size_t>(nSize)});
 }
 
 int TextRows::columns(int nFrom, int nTo, int nMost) const
@@ -148,6 +150,18 @@ int TextRows::followRows(int nFirst, int nCursor) const
     for (; nBelow > 0; --nBelow)
         nFirst = rowEnd(nFirst);
     return nFirst;
+}
+
+Rows TextRows::reachable(int nCursor, int nFirst) const
+{
+    int nFrom = 0;
+    int nRow = 0;
+    for (int nEnd = rowEnd(nFirst); nRow + 1 < nHeight_ && nEnd < length(); nEnd = rowEnd(nEnd)) {
+        ++nRow;
+        if (nEnd <= nCursor)
+            nFrom = isSimple(nEnd - 1, nEnd) ? nRow : nRow - 1;
+    }
+    return {nFrom, nRow + 1};
 }
 
 int TextRows::moved(int nCursor, int nRows, int nFirst) const

@@ -15,6 +15,7 @@
 #define KUL_UI_TEXTBOX_ROWS_HPP
 
 #include "../gui/columns.hpp"
+#include "../gui/draw.hpp"
 #include "../kulgui.h"
 
 namespace kul {
@@ -54,6 +55,10 @@ public:
     // Where the view has to begin so that the cursor is in it; nFirst if it can stay.
     int follow(int nFirst, int nCursor) const;
 
+    // The rows of the box, whose view begins at nFirst, that a change at the cursor or behind it
+    // can reach. A mark, or a letter in the place of a wide one, may go up to the row before.
+    Rows reachable(int nCursor, int nFirst) const;
+
     // The place so many rows below the cursor, or above, in the same column, as far as there are
     // rows. nFirst begins the cursor's row or one above.
     int moved(int nCursor, int nRows, int nFirst) const;
@@ -62,6 +67,8 @@ public:
     int height() const { return nHeight_; }
 
 private:
+    static constexpr std::size_t kShort = 2000;
+
     struct Row {
         int nRow;
         int nFirst;
@@ -78,6 +85,7 @@ private:
     int nWidth_;
     int nHeight_;
     bool masked_;
+    bool simple_; // a short text that is all in ASCII: nothing is to be looked at twice
 };
 
 // How many letters a text has.
