@@ -160,18 +160,23 @@ TEST(Screen, KeepsTheOrderOfDialogsWhoeverIsDrawn)
 // Keys that come together are drawn when they are used up, as if each had been.
 TEST(Screen, ShowsWhatWasTypedAhead)
 {
-    for (const char* kind : {"list", "text", "behind"}) {
+    const std::pair<const char*, std::vector<std::string_view>> rows[] = {
+        {"list", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}}, // which is no key
+        {"text", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}},
+        {"behind", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}},
+        {"list", {"\x1b[B", " ", "\x1b[A"}}, // what has changed is neither where the cursor was nor where it is
+    };
+    for (const auto& [kind, keys] : rows) {
         SCOPED_TRACE(kind);
         Terminal together(program("dialogs", {"second", kind}));
         Terminal single(program("dialogs", {"second", kind}));
         ASSERT_TRUE(together.waitForText("Main") && single.waitForText("Main") && together.settle());
-        const std::string_view keys[] = {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t"};
         std::string all;
         for (const std::string_view key : keys) {
             single.press(key);
             all += key;
         }
-        ASSERT_NO_FATAL_FAILURE(press(together, all + "\x1b[I")); // the last one is no key
+        ASSERT_NO_FATAL_FAILURE(press(together, all));
         ASSERT_TRUE(single.settle());
         EXPECT_EQ(look(together, 0, 0, 20, 60), look(single, 0, 0, 20, 60));
         EXPECT_EQ(together.cursor().row, single.cursor().row);

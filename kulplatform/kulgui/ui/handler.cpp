@@ -113,9 +113,12 @@ void HandlerBase::show(Changed changed)
     if (undrawn && undrawn->nChain != selection.nChain)
         drawLate();
     SetCurrentSelection(&selection);
+    const bool late = undrawn.has_value();
     undrawn.reset();
     if (hasKeysAtHand())
         undrawn = selection;
+    else if (late)
+        ShowUIColors(); // keys before this one may have changed anything
     else
         drawFocused(changed);
 }
