@@ -173,8 +173,9 @@ private:
     {
         constexpr chtype kSome[] = {A_REVERSE, A_BOLD,   A_UNDERLINE,        A_STANDOUT,
                                     A_BLINK,   A_ITALIC, A_REVERSE | A_BOLD, A_DIM};
-        if (below(100) == 0)
-            return A_HORIZONTAL | A_BOLD; // curses alone knows what that is
+        // Curses alone knows what this is; with wide letters in a row it errs by itself, too.
+        if (below(100) == 0 && !wide_)
+            return A_HORIZONTAL | A_BOLD;
         const int nPairs = COLORS >= 256 ? kPairs + kMorePairs : kPairs;
         const chtype pair = static_cast<chtype>(COLOR_PAIR(below(nPairs)));
         return below(3) ? pair : pair | kSome[below(8)];
