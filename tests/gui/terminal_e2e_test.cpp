@@ -16,6 +16,8 @@
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <termios.h>
+#include <thread>
+#include <unistd.h>
 #include <vector>
 
 #include "terminal.hpp"
@@ -68,6 +70,18 @@ Act send(int signal)
         ASSERT_TRUE(terminal.settle());
         terminal.kill(signal);
     };
+}
+
+// The line is full, and passes on what it holds at 38400 baud.
+void endOnSlowLine(Terminal& terminal)
+{
+    constexpr char kNothing[256] = {};
+    ASSERT_TRUE(terminal.settle());
+    while (write(terminal.tty(), kNothing, sizeof kNothing) > 0) {
+    }
+    terminal.kill(SIGTERM);
+    while (terminal.pump(kDeadline, 40))
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
 }
 
 // The second act finds the terminal as the first has.
@@ -152,6 +166,7 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         {"children that end", "fork", twice(send(SIGINT)), SIGINT},
         {"a command", "run", command, SIGTERM},
         {"a line that does not block", "count", twice(send(SIGTERM)), SIGTERM, false, O_NONBLOCK},
+        {"a slow line", "count", endOnSlowLine, SIGTERM},
         {"a line without a size", "close", enter, exited(5), true, 0, false},
     };
     if (ownScreen)

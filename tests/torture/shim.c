@@ -25,9 +25,10 @@ static int counts, failsOn, says = -1;
 static const char* keys = "";
 static int arrived; /* a key, or the end */
 
-static void* next(const char* name)
+static void find(void* function, const char* name)
 {
-    return dlsym(RTLD_NEXT, name);
+    void* found = dlsym(RTLD_NEXT, name);
+    memcpy(function, &found, sizeof found);
 }
 
 /* What curses and the C library do as they begin. */
@@ -75,21 +76,24 @@ static int fails(void)
 void* malloc(size_t size)
 {
     static void* (*real)(size_t);
-    real = real ? real : next("malloc");
+    if (!real)
+        find(&real, "malloc");
     return fails() ? NULL : real(size);
 }
 
 void* calloc(size_t count, size_t size)
 {
     static void* (*real)(size_t, size_t);
-    real = real ? real : next("calloc");
+    if (!real)
+        find(&real, "calloc");
     return fails() ? NULL : real(count, size);
 }
 
 void* realloc(void* memory, size_t size)
 {
     static void* (*real)(void*, size_t);
-    real = real ? real : next("realloc");
+    if (!real)
+        find(&real, "realloc");
     return fails() ? NULL : real(memory, size);
 }
 
@@ -103,7 +107,8 @@ char* strdup(const char* text)
 int poll(struct pollfd* lines, nfds_t count, int milliseconds)
 {
     static int (*real)(struct pollfd*, nfds_t, int);
-    real = real ? real : next("poll");
+    if (!real)
+        find(&real, "poll");
     if (count == 0 || lines->fd != STDIN_FILENO)
         return real(lines, count, milliseconds);
     const int others = real(lines + 1, count - 1, 0);
@@ -115,7 +120,8 @@ int poll(struct pollfd* lines, nfds_t count, int milliseconds)
 ssize_t read(int from, void* bytes, size_t most)
 {
     static ssize_t (*real)(int, void*, size_t);
-    real = real ? real : next("read");
+    if (!real)
+        find(&real, "read");
     if (from != STDIN_FILENO)
         return real(from, bytes, most);
     arrived = 0;
