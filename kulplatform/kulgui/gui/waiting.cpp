@@ -110,7 +110,8 @@ bool runWatches(const pollfd* lines, nfds_t nLines)
 bool runDue(const pollfd* lines, nfds_t nLines)
 {
     const Timer* timer = nextTimer();
-    if (std::none_of(lines, lines + nLines, [](const pollfd& line) { return line.revents != 0; }) &&
+    const auto hasCome = [](const pollfd& line) { return line.revents != 0; };
+    if (kul::findFirst(lines, lines + nLines, hasCome) == lines + nLines &&
         !(timer && timer->due <= clockOf(CLOCK_MONOTONIC)))
         return false;
     const kul::Pass pass;

@@ -37,13 +37,13 @@ void click(kul::ListHandler& handler)
             return;
         toggle(*element);
     }
-    handler.call(&kul::ListCalls::onClick);
+    handler.call(&kul::UICalls::onClick);
 }
 
 void moved(kul::ListHandler& handler)
 {
     handler.callElement(&kul::ElementLinks::onSelect);
-    handler.call(&kul::ListCalls::onSelect);
+    handler.call(&kul::UICalls::onSelect);
 }
 
 const char* marker(const kul::List&, kul::AnyElement* element, int)

@@ -101,6 +101,14 @@ auto& colorsOf(Record& record)
     return reinterpret_cast<Colors&>(record.nColorFocus);
 }
 
+// The callbacks of the kinds that have all four.
+struct [[gnu::may_alias]] UICalls {
+    KULCALLBACK onFocus;
+    KULCALLBACK onUnfocus;
+    KULCALLBACK onSelect;
+    KULCALLBACK onClick;
+};
+
 // Fields that the kinds have in common are named by where they are in a record: in a table of the
 // library a number is a byte, and a function is a pointer that each process has to be given anew.
 struct UIFields {

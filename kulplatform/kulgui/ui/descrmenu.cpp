@@ -166,5 +166,5 @@ void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus)
 
 int kuldescrmenu_execKeys(int nChain, int nRef)
 {
-    return kul::runMenu<kul::DescrMenu>(nChain, nRef, kDescrmenuKeys);
+    return kul::runMenu(nChain, nRef, kDescrmenuKeys, kul::anyMenu<kul::DescrMenu>);
 }

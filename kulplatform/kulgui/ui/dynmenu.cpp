@@ -251,5 +251,5 @@ void ShowDynmenuComponent(GUI* thisGUI, KULDYNMENU* thisMenu, int nFocus)
 
 int kuldynmenu_execKeys(int nChain, int nRef)
 {
-    return kul::runMenu<kul::DynMenu>(nChain, nRef, kDynmenuKeys);
+    return kul::runMenu(nChain, nRef, kDynmenuKeys, kul::anyMenu<kul::DynMenu>);
 }

@@ -53,6 +53,8 @@ struct ElementShape {
     }
 
     ElementLinks& linksOf(AnyElement* element) const { return at<ElementLinks>(element, links); }
+    char* textOf(AnyElement* element) const { return at<char*>(element, text); }
+    bool isEnabled(AnyElement* element) const { return at<int>(element, enable) == 1; }
 };
 
 template <typename Element>
@@ -180,8 +182,11 @@ void dropAll(Element*& head)
 // Finds elements near the one that was found before, so that a step along a list of any length is a
 // step. Cleared memory is a new one. It notices by itself what happened to the list.
 class AnyPlace {
-protected:
+public:
+    // The element at a position; null when there is none.
     AnyElement* find(ElementShape shape, AnyElement* head, int nPosition);
+
+    // Number of elements; walks those only that were added since the last time.
     int count(ElementShape shape, AnyElement* head);
 
 private:
@@ -194,16 +199,14 @@ private:
 };
 
 template <typename Element>
-class Place : AnyPlace {
+class Place : public AnyPlace {
 public:
-    // The element at a position; null when there is none.
     Element* find(Element* head, int nPosition)
     {
         return reinterpret_cast<Element*>(
             AnyPlace::find(shapeOf<Element>(), asAny(head), nPosition));
     }
 
-    // Number of elements; walks those only that were added since the last time.
     int count(Element* head) { return AnyPlace::count(shapeOf<Element>(), asAny(head)); }
 };
 

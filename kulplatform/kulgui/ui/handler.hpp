@@ -141,6 +141,25 @@ public:
     }
 };
 
+// The same where the kinds' records have their callbacks at different places.
+class CallsHandler : public HandlerBase {
+public:
+    CallsHandler(const CURRENT& start, std::ptrdiff_t nFirst) : HandlerBase(start), nFirst_(nFirst)
+    {
+        show();
+    }
+
+    void call(KULCALLBACK UICalls::*callback)
+    {
+        callAt(nFirst_ + std::bit_cast<std::ptrdiff_t>(callback));
+    }
+
+    int finish() { return finishAt(nFirst_ + std::bit_cast<std::ptrdiff_t>(&UICalls::onUnfocus)); }
+
+private:
+    std::ptrdiff_t nFirst_; // where the callbacks are in the record
+};
+
 // For HandlerBase::key: goes on while the component is shown.
 template <typename Record>
 bool isShown(const GUI&, const void* record)

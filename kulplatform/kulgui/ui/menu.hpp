@@ -72,6 +72,73 @@ int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
     return nPosition;
 }
 
+// A menu of any kind, for what does not draw it.
+struct AnyMenu {
+    int& nSelect;
+    int& nElements; // added so far, as the record says
+    UICalls& calls;
+    AnyElement* head;
+    AnyPlace& place;
+    ElementShape shape;
+    int nPage; // elements that a page goes over
+
+    AnyElement* find(int nIndex) const { return place.find(shape, head, nIndex); }
+    int count() const { return place.count(shape, head); }
+};
+
+// Elements that a page goes over; a bar is one page.
+template <typename Record>
+int pageOf(const Record&)
+{
+    return INT_MAX / 2;
+}
+
+inline Place<KULMENUELEMENT>& placeOf(Menu& menu)
+{
+    return menu.place;
+}
+
+template <typename Record>
+[[gnu::noinline]] AnyMenu anyMenu(void* record)
+{
+    auto& menu = *static_cast<Record*>(record);
+    using Element = std::remove_pointer_t<decltype(menu.Element)>;
+    static_assert(offsetof(typename Record::Public, onClick) ==
+                  offsetof(typename Record::Public, onFocus) + offsetof(UICalls, onClick));
+    return {menu.nSelect,        menu.nElements, reinterpret_cast<UICalls&>(menu.onFocus),
+            asAny(menu.Element), placeOf(menu),  shapeOf<Element>(),
+            pageOf(menu)};
+}
+
+// What the table of kinds and the count calls ask.
+
+bool selectElement(const AnyMenu& menu, int nElement);
+bool isClickable(const AnyMenu& menu); // whether Enter runs anything
+
+template <typename Record>
+concept MenuRecord = requires(Record& menu)
+{
+    placeOf(menu);
+};
+
+template <MenuRecord Record>
+int countElements(Record& menu)
+{
+    return anyMenu<Record>(&menu).count();
+}
+
+template <MenuRecord Record>
+bool selectElement(Record& menu, int nElement)
+{
+    return selectElement(anyMenu<Record>(&menu), nElement);
+}
+
+template <MenuRecord Record>
+bool isClickable(Record& menu)
+{
+    return isClickable(anyMenu<Record>(&menu));
+}
+
 // What the menus' keys differ in.
 struct MenuKeys {
     UI_TYPE type;
@@ -80,143 +147,8 @@ struct MenuKeys {
     bool obeysControls; // ends, with KUL_NEXT, when a navigation control asks to leave
 };
 
-// The selection goes round the elements and one place after them, on which none is selected.
-constexpr int steppedBack(int nSelect, int nElements)
-{
-    return nSelect == 0 ? nElements : shifted(nSelect, -1);
-}
-
-constexpr int steppedForward(int nSelect, int nElements)
-{
-    return nSelect == nElements ? 0 : shifted(nSelect, 1);
-}
-
-inline bool nothingPending(const GUI&, const void*)
-{
-    return ExitUIorGUIorChains() == -1;
-}
-
-inline auto& placeOf(Menu& menu)
-{
-    return menu.place;
-}
-
-// Elements that a page goes over; a bar is one page.
-inline int pageOf(const Menu&)
-{
-    return INT_MAX / 2;
-}
-
-// The elements of a menu by index. Kinds keep their place in the list where it suits them.
-template <typename Record>
-auto elementsOf(Record& menu)
-{
-    return [&menu](int nIndex) { return placeOf(menu).find(menu.Element, nIndex); };
-}
-
-template <typename Record>
-requires requires(Record& menu)
-{
-    placeOf(menu);
-}
-int countElements(Record& menu)
-{
-    return placeOf(menu).count(menu.Element);
-}
-
-template <typename Record>
-requires requires(Record& menu)
-{
-    placeOf(menu);
-}
-bool selectElement(Record& menu, int nElement)
-{
-    if (nElement < 0 || nElement >= countElements(menu))
-        return false;
-    menu.nSelect = nElement;
-    return true;
-}
-
-template <typename Record>
-Steps stepsOf(Record& menu)
-{
-    return {&menu, countElements(menu), [](void* list, int nIndex) {
-                return stepOf(elementsOf(*static_cast<Record*>(list))(nIndex));
-            }};
-}
-
-// Whether Enter runs anything.
-template <typename Record>
-requires requires(Record& menu)
-{
-    placeOf(menu);
-}
-bool isClickable(Record& menu)
-{
-    const auto* element = elementsOf(menu)(menu.nSelect);
-    return menu.onClick || (element && element->onClick);
-}
-
-// Moves a menu's selection by a key. Whether the key is one that moves.
-template <typename Record>
-bool stepMenu(Record& menu, int nKey, const MenuKeys& keys)
-{
-    if (nKey != keys.nBack && nKey != keys.nForward)
-        return false;
-    const auto step = nKey == keys.nBack ? steppedBack : steppedForward;
-    menu.nSelect = step(menu.nSelect, menu.nElements);
-    return true;
-}
-
-// The menus' keys in edition 2, where all that callbacks are for runs.
-template <typename Record>
-void handleMenuKey(Handler<Record>& handler, int nKey, const MenuKeys& keys)
-{
-    Record* menu = handler.record();
-    if (!menu)
-        return;
-    const int nBefore = menu->nSelect;
-    if (nKey == KS_ENTER) {
-        handler.call(&Record::onClick);
-        menu = handler.record();
-        const auto* element = menu ? elementsOf(*menu)(nBefore) : nullptr;
-        if (element && element->nEnable == 1)
-            handler.run(element->onClick);
-        return;
-    }
-    menu->nSelect =
-        stepped(nBefore, nKey, {keys.nBack, keys.nForward, pageOf(*menu)}, stepsOf(*menu));
-    handler.selection.nSelect = menu->nSelect;
-    if (menu->nSelect == nBefore)
-        return;
-    SetCurrentSelection(&handler.selection);
-    handler.call(&Record::onSelect);
-}
-
-// Gives a menu the keys until it loses the focus.
-template <typename Record>
-int runMenu(int nChain, int nRef, const MenuKeys& keys)
-{
-    auto* start = findUI<Record>(nChain, nRef, keys.type);
-    if (!start || (start->nVisible != T && findDialog(nChain)->tabs))
-        return KUL_NEXT;
-    start->nSelect = settled(start->nSelect, stepsOf(*start));
-    Handler<Record> handler({nChain, nRef, keys.type, 0, start->nSelect, 0});
-    handler.call(&Record::onFocus);
-    while (const int nKey = handler.key(keys.obeysControls ? nothingPending : nullptr)) {
-        Record* menu = handler.record();
-        if (isEdition2())
-            handleMenuKey(handler, nKey, keys);
-        else if (menu && stepMenu(*menu, nKey, keys))
-            handler.selection.nSelect = menu->nSelect;
-        else if (nKey == KS_ENTER)
-            handler.call(&Record::onClick);
-        handler.show(Changed::Selected);
-    }
-    if (keys.obeysControls && ExitUIorGUIorChains() != -1)
-        handler.end(KUL_NEXT);
-    return handler.finish(&Record::onUnfocus);
-}
+// Gives a menu, which menuOf makes of its record, the keys until it loses the focus.
+int runMenu(int nChain, int nRef, const MenuKeys& keys, AnyMenu (*menuOf)(void* record));
 
 } // namespace kul
 

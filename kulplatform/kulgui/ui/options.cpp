@@ -14,13 +14,13 @@ void click(kul::ListHandler& handler)
         list->box.nSelect = list->nCursor;
     }
     handler.noteSelection();
-    handler.call(&kul::ListCalls::onClick);
+    handler.call(&kul::UICalls::onClick);
     handler.callElement(&kul::ElementLinks::onClick);
 }
 
 void moved(kul::ListHandler& handler)
 {
-    handler.call(&kul::ListCalls::onSelect);
+    handler.call(&kul::UICalls::onSelect);
     handler.callElement(&kul::ElementLinks::onSelect);
 }
 

@@ -73,9 +73,8 @@ int colorOf(const List& list, AnyElement* element, bool focused, bool selected)
 {
     if (focused && selected)
         return list.box.colors.nFocus;
-    return focused && ElementShape::at<int>(element, list.shape.enable) != 1
-               ? list.box.colors.nDisable
-               : list.box.colors.nUnfocus;
+    return focused && !list.shape.isEnabled(element) ? list.box.colors.nDisable
+                                                     : list.box.colors.nUnfocus;
 }
 
 // The view as it is, with rows that all are single.
@@ -180,11 +179,7 @@ Steps stepsOf(const List& list)
 {
     return {const_cast<List*>(&list), std::max(list.size.nElements, 0), [](void* any, int nIndex) {
                 const List& ring = *static_cast<const List*>(any);
-                AnyElement* element = elementAt(ring, nIndex);
-                if (!element)
-                    return Step{nullptr, false};
-                const bool enabled = ElementShape::at<int>(element, ring.shape.enable) == 1;
-                return Step{ring[element].szText, enabled};
+                return stepOf(ring.shape, elementAt(ring, nIndex));
             }};
 }
 
@@ -227,12 +222,6 @@ std::optional<List> ListHandler::list()
                                        : listOf(*static_cast<OptionList*>(record));
 }
 
-void ListHandler::call(KULCALLBACK ListCalls::*callback)
-{
-    if (const auto now = list())
-        run(now->calls.*callback);
-}
-
 void ListHandler::callElement(KULCALLBACK ElementLinks::*callback)
 {
     const auto now = list();
@@ -249,19 +238,15 @@ void ListHandler::noteSelection()
     }
 }
 
-int ListHandler::finish()
-{
-    return finishAt(selection.nType == CHECKBOX ? offsetof(KULCHECKBOX, onUnfocus)
-                                                : offsetof(KULOPTIONS, onUnfocus));
-}
-
 int runList(int nChain, int nRef, const List& start, const ListKeys& keys)
 {
     keepView(start);
     start.nCursor = settled(start.nCursor, stepsOf(start));
     bringIntoView(start);
-    ListHandler handler({nChain, nRef, keys.type, start.nCursor, start.box.nSelect, 0});
-    handler.call(&ListCalls::onFocus);
+    ListHandler handler({nChain, nRef, keys.type, start.nCursor, start.box.nSelect, 0},
+                        reinterpret_cast<char*>(&start.calls) -
+                            reinterpret_cast<char*>(&start.box));
+    handler.call(&UICalls::onFocus);
     while (const int nKey = handler.key(keys.endsHidden ? isShown<ListBox> : nullptr)) {
         const bool clicks = nKey == KS_SPACE || nKey == KS_ENTER;
         const auto list = handler.list();

@@ -71,22 +71,18 @@ int countElements(const RingList<Record>& list)
 
 // Keys.
 
-class ListHandler : public HandlerBase {
+class ListHandler : public CallsHandler {
 public:
-    explicit ListHandler(const CURRENT& start) : HandlerBase(start) { show(); }
+    using CallsHandler::CallsHandler;
 
     // The list as it is now; none, and the handler over, when it is gone.
     std::optional<List> list();
 
-    // Runs a callback of the list, or one of the cursor's element, wherever in the list that is.
-    void call(KULCALLBACK ListCalls::*callback);
+    // Runs a callback of the cursor's element, wherever in the list that is.
     void callElement(KULCALLBACK ElementLinks::*callback);
 
     // Has the selection say what the list says now.
     void noteSelection();
-
-    // Runs onUnfocus. What the handler returns.
-    int finish();
 };
 
 // What the lists' keys differ in.

@@ -14,11 +14,11 @@ List seen(Record& list, int& nCursor, RingState* ring)
     static_assert(
         offsetof(Record, nLastShowed) == offsetof(ListBox, nLastShowed) &&
         offsetof(Record, nBorder) - offsetof(Record, nElements) == offsetof(ListSize, nBorder) &&
-        offsetof(Record, onClick) - offsetof(Record, onFocus) == offsetof(ListCalls, onClick) &&
+        offsetof(Record, onClick) - offsetof(Record, onFocus) == offsetof(UICalls, onClick) &&
         offsetof(Element, onSelect) - offsetof(Element, szText) == offsetof(ListText, onSelect));
     return {reinterpret_cast<ListBox&>(list),
             reinterpret_cast<ListSize&>(list.nElements),
-            reinterpret_cast<ListCalls&>(list.onFocus),
+            reinterpret_cast<UICalls&>(list.onFocus),
             nCursor,
             shapeOf<Element>(),
             ring};

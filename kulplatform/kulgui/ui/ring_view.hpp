@@ -42,10 +42,6 @@ struct [[gnu::may_alias]] ListSize { // from its number of elements on
     int nBorder;
 };
 
-struct [[gnu::may_alias]] ListCalls { // from its first callback on
-    KULCALLBACK onFocus, onUnfocus, onSelect, onClick;
-};
-
 // An element from its text on.
 struct [[gnu::may_alias]] ListText {
     char* szText;
@@ -89,7 +85,7 @@ using OptionList = RingList<KULOPTIONS>;
 struct List {
     ListBox& box;
     ListSize& size;
-    ListCalls& calls;
+    UICalls& calls;
     int& nCursor;
     ElementShape shape;
     RingState* ring;

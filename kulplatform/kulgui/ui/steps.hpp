@@ -8,6 +8,7 @@
 
 #include "../gui/edition.hpp"
 #include "../kulgui.h"
+#include "element_list.hpp"
 
 namespace kul {
 
@@ -32,10 +33,9 @@ struct Steps {
     Step at(int nIndex) const { return find(list, nIndex); }
 };
 
-template <typename Element>
-Step stepOf(const Element* element)
+inline Step stepOf(ElementShape shape, AnyElement* element)
 {
-    return element ? Step{element->szText, element->nEnable == 1} : Step{nullptr, false};
+    return element ? Step{shape.textOf(element), shape.isEnabled(element)} : Step{nullptr, false};
 }
 
 // Whether Enter does something to an element: edition 1 asks nothing.

@@ -74,7 +74,8 @@ kul::Steps stepsOf(kul::Toolbar& toolbar)
 {
     return {&toolbar, kul::countElements(toolbar), [](void* list, int nIndex) {
                 auto& buttons = *static_cast<kul::Toolbar*>(list);
-                return kul::stepOf(buttons.place.find(buttons.Button, nIndex));
+                return kul::stepOf(kul::shapeOf<KULTOOLBARBUTTON>(),
+                                   kul::asAny(buttons.place.find(buttons.Button, nIndex)));
             }};
 }
 
