@@ -47,11 +47,13 @@ const char* entered(const Window& window, int nRef)
 void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int nMask, int nLimit,
                 const char* szText)
 {
+    if (const int nMost = window.settings.numbers[kMaxInput]; nMost > 0)
+        nLimit = std::min(nLimit, nMost);
     const int nHas = static_cast<int>(std::min<std::size_t>(std::strlen(szText), 65534));
     kultextbox_create(window.nChain, nRef);
     kultextbox_config(window.nChain, nRef, colors[kFocus], colors[kFieldsColor], KUL_KEEP, nX, nY,
                       std::max(nWidth, 1), 1, NOBORDER, nMask, nullptr, nullptr, nullptr, nullptr);
-    kultextbox_setLimit(window.nChain, nRef, std::clamp(nLimit, nHas + 1, 65535));
+    kultextbox_setLimit(window.nChain, nRef, std::clamp(nLimit, std::max(nHas, 1), 65535));
     kultextbox_setText(window.nChain, nRef, szText);
 }
 
@@ -61,10 +63,8 @@ Answer runEntry(const Call& call)
     Window window(call, call.argument(0));
     if (!window.open(kOkCancel, 1, 1, 24))
         return kFailed;
-    const int nMost = settings.numbers[kMaxInput];
     createLine(window, kBody, 2, window.nBodyY, window.innerWidth(),
-               call.variant == kSecret ? MASK : NOMASK, nMost > 0 ? nMost : kMostCharacters,
-               call.argument(3));
+               call.variant == kSecret ? MASK : NOMASK, kMostCharacters, call.argument(3));
     window.onKey = lineKey;
     window.nFocus = kBody;
     const Answer answer = window.run();

@@ -265,6 +265,11 @@ Answer runForm(const Call& call)
     if (!window.open(kOkCancel, nAsked > 0 ? nAsked : fields.rows(), 1, fields.columns()))
         return kFailed;
     fields.create();
+    const char* szDefault = settings.text(kDefaultItem, "");
+    for (int i = 0; *szDefault && i < fields.count(); ++i) {
+        if (std::strcmp(fields[i].label, szDefault) == 0 && fields[i].limit > 0)
+            fields.go(i);
+    }
     window.body = &fields;
     window.onKey = formKey;
     const Answer answer = window.run();

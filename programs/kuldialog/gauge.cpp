@@ -244,30 +244,16 @@ int rangeKey(Window& window, int nKey)
 {
     auto& range = *static_cast<Range*>(window.body);
     const int nPage = std::max((range.nMost - range.nLeast) / 10, 1);
-    switch (nKey) {
-    case KS_UP:
-    case '-':
-        range.move(range.nValue - 1);
-        return 0;
-    case KS_DOWN:
-    case '+':
-        range.move(range.nValue + 1);
-        return 0;
-    case KS_PAGEUP:
-        range.move(range.nValue + nPage);
-        return 0;
-    case KS_PAGEDOWN:
-        range.move(range.nValue - nPage);
-        return 0;
-    case KS_HOME:
-        range.move(range.nMost);
-        return 0;
-    case KS_END:
-        range.move(range.nLeast);
-        return 0;
-    default:
+    const bool small = nKey == KS_UP || nKey == KS_DOWN || nKey == '-' || nKey == '+';
+    const bool back = nKey == KS_UP || nKey == '-' || nKey == KS_PAGEUP;
+    const int nStep = small ? 1 : nPage;
+    if (nKey == KS_HOME || nKey == KS_END)
+        range.move(nKey == KS_HOME ? range.nLeast : range.nMost);
+    else if (small || nKey == KS_PAGEUP || nKey == KS_PAGEDOWN)
+        range.move(range.nValue + (back ? -nStep : nStep));
+    else
         return nKey;
-    }
+    return 0;
 }
 
 } // namespace

@@ -289,7 +289,8 @@ int List::key(int nKey)
     }
     if (name == kWhiptail && (nKey == KS_LEFT || nKey == KS_RIGHT))
         return items.isMarked() ? (back ? KS_UP : KS_DOWN) : back ? 0 : KS_TAB;
-    if (back || nKey == KS_RIGHT || (nKey == KS_TAB && name == kDialog)) {
+    if (back || nKey == KS_RIGHT ||
+        (nKey == KS_TAB && name == kDialog && !window_.settings.is(kVisitItems))) {
         window_.goToButtons(back ? -1 : 1);
         return 0;
     }

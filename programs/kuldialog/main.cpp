@@ -116,7 +116,7 @@ Answer Program::runBox()
         return kFailed;
     }
     if (!isScreenOpen() && !openScreen()) {
-        complain("this terminal cannot be used:", std::getenv("TERM") ? std::getenv("TERM") : "");
+        complain("unusable terminal:", std::getenv("TERM") ? std::getenv("TERM") : "");
         _exit(name == kOwn ? 255 : 1);
     }
     descriptor_ = answerDescriptor(call.settings);
@@ -154,7 +154,7 @@ int Program::noBox(bool any)
     printFacts(settings);
     if (any || printed || clears || name == kDialog)
         return finish(kAccepted);
-    complain("no box is asked for; see", "--help");
+    complain("no box; see", "--help");
     return 255;
 }
 

@@ -134,7 +134,7 @@ constexpr Option kOptions[] = {
     {"trim", kOthers, Take::Flag, kTrim},
     {"under-mouse", kOthers, Take::Flag, kIgnoredFlag},
     {"version", kAll, Take::Version, 0},
-    {"visit-items", kOthers, Take::Flag, kIgnoredFlag},
+    {"visit-items", kOthers, Take::Flag, kVisitItems},
     {"week-start", kOthers, Take::Text, kIgnoredText},
     {"wmclass", kOthers, Take::Text, kIgnoredText},
     {"yes-button", kAll, Take::Text, kYesLabel},
@@ -288,7 +288,9 @@ CommandLine::CommandLine(int count, char** tokens) : tokens_(tokens), count_(cou
 // Each box begins with the settings of the environment.
 void CommandLine::reset()
 {
+    const char* szSeparator = settings_.texts[kSeparateWidget]; // stays for the next ones
     settings_ = Settings();
+    settings_.texts[kSeparateWidget] = szSeparator;
     for (int& nNumber : settings_.numbers)
         nNumber = kNone;
     goesOn_ = false;
@@ -359,7 +361,7 @@ bool CommandLine::takeOption(bool& taken)
     ++place_;
     if (found.take == Take::Flag) {
         if (equals)
-            return fail("no argument is taken by", szName - 2);
+            return fail("no argument for", szName - 2);
         settings_.flags[found.field] = plain;
         return true;
     }
@@ -369,7 +371,7 @@ bool CommandLine::takeOption(bool& taken)
     }
     if (found.take == Take::Place &&
         !readNumber(token(place_ + 1) ? token(place_ + 1) : "", settings_.numbers[kBeginX]))
-        return fail("two numbers are needed by", token(place_ - 1));
+        return fail("two numbers for", token(place_ - 1));
     const char* szValue = equals ? equals + 1 : token(place_);
     if (!szValue)
         return fail("missing argument of", token(place_ - 1));
@@ -477,25 +479,17 @@ Found CommandLine::next()
 
 void printHelp()
 {
-    constexpr int kMostColumns = 79;
     Buffer text;
     text.add("usage: ").add(program).add(" [option]... box\n\nBoxes:\n");
     addBoxes(text);
     text.add("\nOptions:\n");
-    int nColumn = 0;
     Option each;
     anyOption(each, [&](const Option& option) {
         const bool valued = option.take >= Take::Text && option.take <= Take::File;
-        const int nSize = static_cast<int>(option.size) + (valued ? 8 : 4);
-        if (nColumn + nSize > kMostColumns) {
-            text.add('\n');
-            nColumn = 0;
-        }
-        text.add("  --").add(option.name, option.size).add(valued ? " <x>" : "");
-        nColumn += nSize;
+        text.add("  --").add(option.name).add(valued ? " <x>\n" : "\n");
         return false;
     });
-    text.add('\n').writeTo(STDOUT_FILENO);
+    text.writeTo(STDOUT_FILENO);
 }
 
 } // namespace kuldialog

@@ -49,7 +49,7 @@ private:
     bool fail(const char* szWhat, const char* szAbout);
     const char* token(int nPlace) const { return nPlace < count_ ? tokens_[nPlace] : nullptr; }
 
-    Settings settings_;
+    Settings settings_{};
     const Box* box_ = nullptr;
     char** tokens_;
     int count_;

@@ -67,7 +67,7 @@ void addToList(const Settings& settings, const char* szText, bool first, bool la
 {
     const char* szSeparator = settings.texts[kOutputSeparator];
     if (settings.is(kSeparateOutput)) {
-        output.add(szText);
+        addAnswer(settings, szText);
         output.add(last ? "" : szSeparator ? szSeparator : "\n");
         return;
     }

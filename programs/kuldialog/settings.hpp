@@ -39,6 +39,7 @@ enum Flag : unsigned char {
     kToStdout,
     kTopLeft,
     kTrim,
+    kVisitItems,
     kFlags
 };
 

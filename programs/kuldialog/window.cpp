@@ -164,7 +164,8 @@ void Window::createButtons()
 int Window::defaultButton() const
 {
     constexpr const char* kNames[] = {"ok", "cancel", "help", "extra"};
-    const char* szName = settings.text(kDefaultButton, settings.is(kDefaultNo) ? "no" : "");
+    const char* szName = settings.text(
+        kDefaultButton, settings.is(kDefaultNo) && !settings.is(kVisitItems) ? "no" : "");
     if (std::strcmp(szName, "yes") == 0)
         szName = kNames[kAccepted];
     if (std::strcmp(szName, "no") == 0)
@@ -266,7 +267,8 @@ int Window::button() const
 
 void Window::chooseDefault()
 {
-    end(running->buttonCount_ > 0 ? running->buttons_[running->button()].answer : kAccepted);
+    const bool any = running->buttonCount_ > 0 && !running->settings.is(kNoOk);
+    end(any ? running->buttons_[running->button()].answer : kAccepted);
 }
 
 void Window::buttonClicked()
@@ -299,8 +301,10 @@ int Window::movedInRow(int nKey)
         return 0;
     if (!row || buttonCount_ == 0)
         return nKey;
-    if (nKey == KS_SPACE)
-        return KS_ENTER;
+    if (nKey == KS_SPACE) {
+        end(buttons_[button()].answer);
+        return 0;
+    }
     for (int i = 0; i < buttonCount_ && name != kWhiptail && nKey > KS_SPACE && nKey < 127; ++i) {
         if (lowered(*buttons_[i].label) == lowered(nKey)) {
             end(buttons_[i].answer);

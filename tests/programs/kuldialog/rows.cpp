@@ -91,6 +91,7 @@ const std::vector<Row> kRows = {
     {kWhiptail, ENTRY("--nocancel"), "esc", 1, ""},
     {kAll, "$D --inputbox x 8 40 'a b\"c'", "enter", 0, "a b\"c"},
     {kAll, "$D --passwordbox x 8 40", "a b enter", 0, "ab"},
+    {kOthers, ENTRY("--max-input 2"), "a enter", 0, "init"},
     {kOthers, "$D --max-input 3 --inputbox x 8 40", "a b c d e enter", 0, "abc"},
     {kOthers, ENTRY("--extra-button"), "tab tab enter", 3, "init"},
     // Lists, and what is quoted.
@@ -107,6 +108,7 @@ const std::vector<Row> kRows = {
     {kOthers, MENU(""), "3 enter", 0, "c d"},
     {kOthers, MENU(""), "right enter", 1, ""},
     {kOthers, MENU("--no-cancel"), "right enter", 0, "a"},
+    {kOthers, MENU("--no-ok"), "tab enter", 0, "a"},
     {kOthers, MENU("--quoted"), "end enter", 0, "\"c d\""},
     {kOthers, MENU("--help-button"), "down right right enter", 2, "HELP b"},
     {kOthers, MENU("--extra-button"), "down right enter", 3, "b"},
@@ -117,6 +119,7 @@ const std::vector<Row> kRows = {
     {kOthers, CHECK(""), "enter", 0, "a \"c d\""},
     {kOthers, CHECK(""), "space down space enter", 0, "b \"c d\""},
     {kAll, CHECK("--separate-output"), "enter", 0, "a\nc d\n"},
+    {kOthers, CHECK("--quoted --separate-output"), "enter", 0, "a\n\"c d\"\n"},
     {kOthers, CHECK("--single-quoted"), "enter", 0, "a 'c d'"},
     {kOthers, CHECK("--output-separator ,"), "enter", 0, ",a,\"c d\""},
     {kOthers, CHECK("--help-button --help-status"), "down right right enter", 2, "HELP b a \"c d\""},
@@ -132,6 +135,7 @@ const std::vector<Row> kRows = {
     // Forms, files, bars.
     {kOthers, FORM(""), "end Z down end Y enter", 0, "aaZ\nbbY\n"},
     {kOthers, FORM(""), "tab tab enter", 1, ""},
+    {kOthers, FORM("--default-item L2:"), "home X enter", 0, "aa\nXbb\n"},
     {kOthers, FORM("--help-button --help-status"), "tab right right enter", 2, "HELP L1:\naa\nbb\n"},
     {kOthers, "$D --form x 15 50 4 L1: 1 1 aa 1 10 0 20 L2: 2 1 bbbbb 2 10 3 0 L3: 3 1 cc 3 10 -5 0", "enter", 0,
      "bbb\n"},
@@ -161,6 +165,7 @@ const std::vector<Row> kRows = {
     {kOthers, "$D --inputbox x 8 40 i --yesno y 8 40 --inputbox z 8 40 q", "enter tab enter", 1, "i"},
     {kOthers, "$D --inputbox x 8 40 i --and-widget --yesno y 8 40 --and-widget --inputbox z 8 40 q",
      "enter tab enter enter", 0, "i\tq"},
+    {kOthers, "$D --separate-widget : --inputbox x 8 40 i --inputbox y 8 40 q", "enter enter", 0, "i:q"},
     {kOthers,
      "$D --separate-widget '|' --inputbox x 8 40 i --and-widget --separate-widget ! "
      "--inputbox y 8 40 q",
