@@ -104,15 +104,17 @@ bool barTells(const KULDYNMENU& menu)
     return kul::isEdition2() && menu.nHeight < menu.nElements;
 }
 
+// One that tells stands beside the rows, the other one from corner to corner.
 void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
 {
+    const bool tells = barTells(menu);
     KULGAUGEBAR bar{};
     bar.nColorBar = bar.nColorRail = nColor;
     bar.nX = kul::shifted(menu.nX, menu.nWidth + 1LL);
-    bar.nY = menu.nY;
-    bar.nLength = kul::shifted(menu.nHeight, 2);
+    bar.nY = kul::shifted(menu.nY, tells ? 1 : 0);
+    bar.nLength = kul::shifted(menu.nHeight, tells ? 0 : 2);
     bar.nRange = menu.nElements;
-    bar.nPosition = barTells(menu) ? menu.nSelect : 1;
+    bar.nPosition = tells ? menu.nSelect : 1;
     bar.nOrient = VERTICAL;
     BarShow(gui, &bar, kScrollBar);
 }
