@@ -267,7 +267,7 @@ bool readNumber(const char* szText, int& nNumber)
 {
     constexpr long kMost = 30000;
     char* end;
-    const long read = std::strtol(szText, &end, name == kWhiptail ? 0 : 10);
+    const long read = std::strtol(szText, &end, 10);
     nNumber = static_cast<int>(std::clamp(read, -1L, kMost));
     return end != szText && *end == '\0';
 }

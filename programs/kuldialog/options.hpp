@@ -63,8 +63,8 @@ private:
 // One line on standard error: the program, what is wrong and with what.
 void complain(const char* szWhat, const char* szAbout);
 
-// A whole number in decimal, for a program's name that takes them also in hexadecimal and octal.
-// Limited to what a screen could have any use for. False where it is none.
+// A whole number in decimal, limited to what a screen could have any use for. False where it is
+// none.
 bool readNumber(const char* szText, int& nNumber);
 
 // The number that a text begins with, 0 for none; limited to 65535 on both sides.

@@ -164,8 +164,10 @@ void Window::createButtons()
 int Window::defaultButton() const
 {
     constexpr const char* kNames[] = {"ok", "cancel", "help", "extra"};
-    const char* szName = settings.text(
-        kDefaultButton, settings.is(kDefaultNo) && !settings.is(kVisitItems) ? "no" : "");
+    // For one of the programs this is a matter of questions alone.
+    const bool no = settings.is(kDefaultNo) && !settings.is(kVisitItems) &&
+                    (name != kWhiptail || bodyWanted_ == 0);
+    const char* szName = settings.text(kDefaultButton, no ? "no" : "");
     if (std::strcmp(szName, "yes") == 0)
         szName = kNames[kAccepted];
     if (std::strcmp(szName, "no") == 0)
