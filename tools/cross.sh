@@ -41,8 +41,12 @@ cross() {
 
 cross . "$folder/build" -DKULGUI_BUILD_TESTS=ON -DKULGUI_BUILD_EXAMPLES=ON
 
-# The loader of that machine is told where its libraries are.
-export QEMU_SET_ENV="LD_LIBRARY_PATH=$root/usr/lib:$folder/build/kulplatform/kulgui"
+# The loader of that machine is told where its libraries are, and a library of the other byte order where a locale is:
+# it would find this machine's.
+case $triplet in s390x-*) order=--big-endian ;; *) order=--little-endian ;; esac
+mkdir -p "$root/locale"
+localedef "$order" --no-archive -i C -f UTF-8 "$root/locale/C.utf8"
+export QEMU_SET_ENV="LD_LIBRARY_PATH=$root/usr/lib:$folder/build/kulplatform/kulgui,LOCPATH=$root/locale"
 $qemu "$folder/build/tests/kulgui_unit" --gtest_brief=1
 
 # shows TEXT PROGRAM ARGUMENTS: the text is on the screen while the program waits for a key
