@@ -3,6 +3,7 @@
 // What dialogs cost on the line and look like on the screen of a terminal.
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -181,6 +182,38 @@ TEST(Screen, ShowsWhatWasTypedAhead)
         EXPECT_EQ(look(together, 0, 0, 20, 60), look(single, 0, 0, 20, 60));
         EXPECT_EQ(together.cursor().row, single.cursor().row);
         EXPECT_EQ(together.cursor().column, single.cursor().column);
+    }
+}
+
+// What moves on the screen is not drawn again, whether keys come alone or together.
+TEST(Screen, ScrollsAFile)
+{
+    const std::string name = testing::TempDir() + "kulgui_scrolled";
+    std::ofstream file(name);
+    for (int i = 0; i < 100; ++i)
+        file << "line " << i << '\n';
+    file.close();
+    const std::string up = "\x1b[A";
+    const std::string down = "\x1b[B";
+    const struct {
+        std::string keys;
+        int nTop;
+        std::size_t nMost; // bytes
+    } steps[] = {
+        {down, 1, 80},        {down + down + down, 4, 130},       {up + up, 2, 110},
+        {"\x1b[6~", 21, 400}, {down + up + down + down, 23, 130}, {"\x1b[F" + up, 79, 400},
+    };
+    for (const char* term : {"linux", "vt220"}) {
+        Launch launch = program("dialogs", {"second", name});
+        launch.term = term;
+        Terminal terminal(launch);
+        ASSERT_TRUE(terminal.waitForText("line 19"));
+        for (const auto& step : steps) {
+            ASSERT_NO_FATAL_FAILURE(press(terminal, step.keys));
+            for (int y = 0; y < terminal.rows(); ++y)
+                ASSERT_TRUE(terminal.row(y).starts_with("line " + std::to_string(step.nTop + y))) << terminal.text();
+            EXPECT_LE(terminal.received().size(), step.nMost) << step.nTop;
+        }
     }
 }
 

@@ -270,6 +270,54 @@ TEST(Updates, KnowWhatClearingLeaves)
     }
 }
 
+// Whole rows that move with their pictures: the rows that come in are drawn, and now and then others.
+TEST(Updates, ScrollWhatWasComposed)
+{
+    for (const char* szTerm : {"linux", "xterm-256color", "vt100"}) {
+        SCOPED_TRACE(szTerm);
+        Side side(szTerm, true);
+        for (PANEL* panel : side.panels)
+            hide_panel(panel);
+        std::mt19937 numbers;
+        const auto below = [&](int n) { return static_cast<int>(numbers() % static_cast<unsigned>(n)); };
+        const auto draw = [&](int y) { mvwprintw(stdscr, y, 0, "%d %70d", below(1000000), below(1000000)); };
+        for (int y = 0; y < kRows; ++y)
+            draw(y);
+        int nScrolled = 0;
+        for (int step = 0; step < 300; ++step) {
+            const int nTop = below(6);
+            const int nBottom = kRows - 1 - below(6);
+            const int nRows = below(2) ? 1 + below(3) : -1 - below(3);
+            const bool scrolls = step > 0 && kul::scrollPictures(stdscr, nTop, nBottom, nRows);
+            nScrolled += scrolls ? 1 : 0;
+            for (int y = nTop; scrolls && y <= nBottom; ++y) {
+                if (nRows > 0 ? y > nBottom - nRows : y < nTop - nRows)
+                    draw(y);
+            }
+            for (int n = below(3); n > 0; --n)
+                draw(below(kRows));
+            if (below(20) == 0) // as by a key that comes before the update
+                kul::expectScroll(below(4), kRows - 1, 1);
+            if (below(20) == 0)
+                clearok(curscr, TRUE);
+            update_panels();
+            wnoutrefresh(stdscr);
+            if (below(30) == 0)
+                mvwaddch(stdscr, below(kRows), 75, 'x' | A_HORIZONTAL); // for curses alone
+            wnoutrefresh(stdscr);
+            kul::updateTerminal(kul::kNowhere, below(2) != 0);
+            side.show();
+            for (int y = 0; y < kRows; ++y) {
+                char row[kColumns + 1] = "";
+                mvwinnstr(stdscr, y, 0, row, kColumns - 1);
+                ASSERT_EQ(side.emulator.row(y, kultools::Blanks::Keep).substr(0, kColumns - 1), row)
+                    << step << ' ' << y;
+            }
+        }
+        EXPECT_GT(nScrolled, 200);
+    }
+}
+
 // A blank may have any foreground, but the Linux console gives it to a cursor that comes there.
 TEST(Updates, LeaveBlanksOnWhichACursorIsSeen)
 {

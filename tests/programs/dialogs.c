@@ -8,6 +8,7 @@
  *   text      the dialog holds a text box in place of the buttons
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  *   second    in edition 2
+ *   /...      a file is shown on the whole screen, and nothing else
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
 #include <kulgui.h>
@@ -53,6 +54,18 @@ static void addList(int chain, int ref)
         kulcheckbox_addElement(chain, ref, "Element", 0, 1, NULL, NULL);
 }
 
+static int showFile(const char* name)
+{
+    if (NCursesEnv(1) != 0)
+        return 1;
+    kulgui_create(DESKTOP);
+    kulgui_configPrime(DESKTOP, WHITE_BLACK, WHITE_BLACK, WHITE_BLACK, WHITE_BLACK, "", NULL, NULL, NULL, NULL, NULL);
+    kulfileview_create(DESKTOP, 1);
+    kulfileview_config(DESKTOP, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, kulgui_getColumns(), kulgui_getRows(), NOBORDER,
+                       name, NULL, NULL, NULL, NULL);
+    return kulgui_exec(DESKTOP);
+}
+
 int main(int argc, char** argv)
 {
     int list = 0;
@@ -67,6 +80,8 @@ int main(int argc, char** argv)
         poll |= strcmp(argv[i], "poll") == 0;
         if (strcmp(argv[i], "second") == 0)
             kulgui_setEdition(2);
+        if (argv[i][0] == '/')
+            return showFile(argv[i]);
     }
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL,

@@ -4,6 +4,7 @@
 #include "screen.hpp"
 
 #include <algorithm>
+#include <utility>
 
 #include "chain.hpp"
 #include "edition.hpp"
@@ -29,6 +30,7 @@ bool userTold = false; // by showCursorAt(); else the component alone is known
 int nKeyRead = 0;      // since the last update
 bool cursorSeen = false;
 bool repaintDue = false;
+Moved moved; // since the last drawing
 
 // The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
 // above it, so that it can go out alone; the panel library would compare all that lies below too.
@@ -61,6 +63,13 @@ void raiseFocused()
         raisePanels(gui->pnlShadow, gui->pnlMain);
 }
 
+// Whether nothing lies above a window.
+bool isOnTop(const WINDOW* win)
+{
+    PANEL* top = panel_below(nullptr);
+    return win == (top ? panel_window(top) : stdscr);
+}
+
 // Where the terminal's cursor is to stand; nowhere if the user is not seen.
 Place cursorPlace()
 {
@@ -68,9 +77,8 @@ Place cursorPlace()
         return kNowhere;
     Cell cell = user.cell;
     WINDOW* win = shownAt(user.win, cell);
-    PANEL* top = panel_below(nullptr);
-    if (win != (top ? panel_window(top) : stdscr) || cell.nY < 0 || cell.nY >= getmaxy(win) ||
-        cell.nX < 0 || cell.nX >= getmaxx(win))
+    if (!isOnTop(win) || cell.nY < 0 || cell.nY >= getmaxy(win) || cell.nX < 0 ||
+        cell.nX >= getmaxx(win))
         return kNowhere;
     const Place place{getbegy(win) + cell.nY, getbegx(win) + cell.nX};
     return place.nY < LINES && place.nX < COLS ? place : kNowhere;
@@ -127,8 +135,11 @@ void update()
         forgetTerminal();
         showCursor(false);
     }
-    if (anew || anyTouched())
+    if (anew || anyTouched()) {
         compose();
+        if (moved.nRows != 0) // and perhaps drawn
+            moved.nRows = kFar;
+    }
     const Place place = cursorPlace();
     // What was drawn may be what was there before.
     if (anew || is_wintouched(newscr) || is_cleared(newscr) || cursorSeen != isCursorSeen(place) ||
@@ -165,6 +176,8 @@ Pause::Pause(Turn now) : nHeld_(nPasses), before_(turn)
     turn = now;
     if (!hasKeysAtHand() || movesCursor(kNowhere, true))
         update();
+    else
+        expectScroll(0, 0, 0); // the program may update the terminal by itself
     nCalls_ = nCalls;
 }
 
@@ -186,16 +199,33 @@ OnTop::~OnTop()
     onTop = outer_;
 }
 
-void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows)
+void rowsMoved(WINDOW* win, const Block& block, int nRows)
 {
-    Cell top{nTop, 0};
-    Cell bottom{nBottom, 0};
+    const bool far = moved.nRows == kFar || nRows == kFar;
+    const int nBefore = moved.win == win ? moved.nRows : 0;
+    moved = {win, block, far ? kFar : nBefore + nRows};
+}
+
+Moved scrollMoved(WINDOW* win, bool inParts)
+{
+    Moved now = std::exchange(moved, {});
+    if (now.nRows == 0 || now.win != win)
+        return {};
+    Cell top{now.block.rows.nFirst, 0};
+    Cell bottom{now.block.rows.nEnd, 0};
     WINDOW* shown = shownAt(win, top);
     shownAt(win, bottom);
     const int nFirst = std::max(top.nY, 0);
-    const int nLast = std::min({bottom.nY, getmaxy(shown) - 1, LINES - 1 - getbegy(shown)});
-    if (nFirst < nLast)
-        expectScroll(getbegy(shown) + nFirst, getbegy(shown) + nLast, nRows);
+    const int nLast = std::min({bottom.nY, getmaxy(shown), LINES - getbegy(shown)}) - 1;
+    if (nFirst >= nLast)
+        return {};
+    if (inParts && shown == win && isOnTop(win) && getbegx(win) == 0 && getmaxx(win) == COLS &&
+        scrollPictures(win, nFirst, nLast, now.nRows)) {
+        now.block.rows = {nFirst, nLast + 1};
+        return now;
+    }
+    expectScroll(getbegy(shown) + nFirst, getbegy(shown) + nLast, now.nRows);
+    return {};
 }
 
 bool waitsBelow(int nChain)

@@ -9,6 +9,7 @@
 #define KUL_GUI_SCREEN_HPP
 
 #include "../kulgui.h"
+#include "draw.hpp"
 
 namespace kul {
 
@@ -63,9 +64,19 @@ private:
     const OnTop* outer_;
 };
 
-// Says that rows of a window have moved up by so many, or down for a number below 0: the terminal
-// may scroll them. A hint, which changes nothing of what is shown.
-void rowsMoved(WINDOW* win, int nTop, int nBottom, int nRows);
+// Says that what a block of a window shows has moved up by so many rows, or down for a number below
+// 0, and not changed: the terminal may scroll them. kFar where it has, or shows other rows.
+constexpr int kFar = INT_MAX / 2;
+void rowsMoved(WINDOW* win, const Block& block, int nRows);
+
+// Scrolls that block where the window may be drawn into in parts, and the terminal scrolls. What it
+// was, in the window: the rows that came in and all beside it have to be drawn. Else nRows is 0.
+struct Moved {
+    WINDOW* win;
+    Block block;
+    int nRows;
+};
+Moved scrollMoved(WINDOW* win, bool inParts);
 
 // Whether a loop or handler of this dialog waits below the one that runs now.
 bool waitsBelow(int nChain);

@@ -37,11 +37,11 @@ struct Scroll {
     int nTop;
     int nBottom;
     int nRows; // 0: none
-    bool operator==(const Scroll&) const = default;
 };
 
 Scroll expected;
-Scroll scrolled; // the one that the update under way makes
+bool pictured = false; // what was composed shows it already
+Scroll scrolled;       // the one that the update under way makes
 
 bool isMarked()
 {
@@ -53,15 +53,36 @@ bool isCleared()
     return is_cleared(newscr) || is_cleared(curscr);
 }
 
-bool isScrolled(int nY)
+// Whether scrolling has brought a row in.
+bool isNew(int nY)
 {
-    return scrolled.nRows != 0 && nY >= scrolled.nTop && nY <= scrolled.nBottom;
+    return scrolled.nRows > 0 ? nY <= scrolled.nBottom && nY > scrolled.nBottom - scrolled.nRows
+                              : nY >= scrolled.nTop && nY < scrolled.nTop - scrolled.nRows;
 }
 
 bool isDue(int nY)
 {
-    return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isScrolled(nY) ||
-           isCleared();
+    return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isNew(nY) || isCleared();
+}
+
+void touchRows(WINDOW* win, const Scroll& rows, bool touched)
+{
+    wtouchln(win, rows.nTop, rows.nBottom - rows.nTop + 1, touched ? 1 : 0);
+}
+
+// Moves rows of a window without touching any.
+void moveRows(WINDOW* win, const Scroll& rows)
+{
+    const bool scrolls = is_scrollok(win);
+    int nTop = 0;
+    int nBottom = 0;
+    wgetscrreg(win, &nTop, &nBottom);
+    scrollok(win, TRUE);
+    wsetscrreg(win, rows.nTop, rows.nBottom);
+    wscrl(win, rows.nRows);
+    wsetscrreg(win, nTop, nBottom);
+    scrollok(win, scrolls);
+    touchRows(win, rows, false);
 }
 
 // As curses leaves the terminal after an update.
@@ -126,28 +147,31 @@ bool paysToScroll(const Scroll& scroll)
     return nSaved * (nLast - nFirst + 1) > 32 * kLooks;
 }
 
+// What was composed has moved already, or is compared in all of these rows.
 void paintScroll()
 {
-    if (scrolled == Scroll{})
+    if (scrolled.nRows == 0)
         return;
-    if (isCleared() || !pen.scrolls() || !paysToScroll(scrolled)) {
+    if (isCleared() || !pen.scrolls() || !(pictured || paysToScroll(scrolled))) {
+        touchRows(newscr, scrolled, true);
         scrolled = {};
         return;
     }
     pen.wear(normalStyle());
     pen.scroll(scrolled.nTop, scrolled.nBottom, scrolled.nRows);
+    moveRows(curscr, scrolled);
+    if (!pictured)
+        touchRows(curscr, scrolled, true);
 }
 
 // A row as the terminal shows it, after scrolling. What has come in there is blank.
 bool readSeen(int nY)
 {
-    const int nFrom = nY + (isScrolled(nY) ? scrolled.nRows : 0);
-    if (isScrolled(nY) && !isScrolled(nFrom)) {
-        const ScreenCell blank = blankCell();
-        seen.fill(isErasable(blank, normalStyle()) ? blank : ScreenCell{});
-        return true;
-    }
-    return seen.read(curscr, nFrom);
+    if (!isNew(nY))
+        return seen.read(curscr, nY);
+    const ScreenCell blank = blankCell();
+    seen.fill(isErasable(blank, normalStyle()) ? blank : ScreenCell{});
+    return true;
 }
 
 // Paints what differs, or what of it belongs to the layer that is due.
@@ -196,7 +220,7 @@ bool paintRows()
     nFirstChanged = COLS;
     nLastChanged = -1;
     paintScroll();
-    if (isCleared() || scrolled != Scroll{}) {
+    if (isCleared()) {
         nFirstChanged = 0;
         nLastChanged = COLS - 1;
     }
@@ -231,8 +255,11 @@ bool updateByPen(Place to)
     if (!codes().known || !isMarked() || !next.prepare() || !seen.prepare())
         return false;
     startPen();
-    if (!paintRows())
+    if (!paintRows()) {
+        if (scrolled.nRows != 0) // on paper alone
+            clearok(curscr, TRUE);
         return false;
+    }
     pen.useLines(false);
     if (!pen.bytes().empty())
         pen.wear(normalStyle());
@@ -259,6 +286,8 @@ Place target(Place to, bool forProgram)
 void updateByCurses(Place to)
 {
     const Blocking blocking;
+    if (pictured)
+        touchRows(newscr, scrolled, true);
     if (isMarked() && believed != kNowhere) {
         startPen();
         pen.moveTo(believed);
@@ -296,11 +325,33 @@ void expectScroll(int nTop, int nBottom, int nRows)
 {
     nTop = std::max(nTop, 0);
     nBottom = std::min(nBottom, LINES - 1);
+    if (pictured)
+        touchRows(newscr, expected, true);
+    pictured = false;
     if (expected.nTop == nTop && expected.nBottom == nBottom)
         nRows += expected.nRows;
     expected = {};
     if (nTop < nBottom && std::abs(nRows) <= (nBottom - nTop) / 2)
         expected = {nTop, nBottom, nRows};
+}
+
+bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows)
+{
+    const int nAbove = getbegy(win);
+    const Scroll rows{nTop, nBottom, nRows};
+    if (expected.nRows != 0 || !codes().known || !codes().scrolls || !isMarked() || isCleared() ||
+        std::abs(nRows) > (nBottom - nTop) / 2)
+        return false;
+    for (int y = nTop; y <= nBottom; ++y) {
+        if (is_linetouched(win, y) || is_linetouched(newscr, nAbove + y) ||
+            is_linetouched(curscr, nAbove + y))
+            return false;
+    }
+    expected = {nAbove + nTop, nAbove + nBottom, nRows};
+    moveRows(win, rows);
+    moveRows(newscr, expected);
+    pictured = true;
+    return true;
 }
 
 void updateTerminal(Place to, bool forProgram)
@@ -309,6 +360,7 @@ void updateTerminal(Place to, bool forProgram)
     if (!updateByPen(target(to, forProgram)))
         updateByCurses(to);
     scrolled = {};
+    pictured = false;
 }
 
 bool movesCursor(Place to, bool forProgram)

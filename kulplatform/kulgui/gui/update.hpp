@@ -22,6 +22,11 @@ void forgetTerminal();
 // them scrolled where that is cheaper; right or wrong, it shows what was composed.
 void expectScroll(int nTop, int nBottom, int nRows);
 
+// The same of rows of a window that is as wide as the screen and lies above all others: moves them
+// in the window and in what was composed. The rows that come in have to be drawn; those that come
+// from there were not. False, and nothing done, where the terminal would not scroll.
+bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows);
+
 // Updates the terminal and leaves its cursor at a cell of the screen, or anywhere. For a program
 // that gets a turn now, and may update the terminal by itself, it is left where curses takes it to
 // be instead.

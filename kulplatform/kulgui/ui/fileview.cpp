@@ -19,11 +19,6 @@ using kul::FileRows;
 using kul::FileText;
 using kul::FileView;
 
-int rowsInView(const FileView& view)
-{
-    return std::clamp(kul::fileBox(view).nHeight, 1, kul::kMaxFileRows);
-}
-
 // As the calls give it: files may have more lines than an int can count.
 int lineNumber(std::int64_t nLine)
 {
@@ -37,15 +32,29 @@ FileView* findView(int nChain, int nRef)
 
 // ---- Moving ---------------------------------------------------------------------------------
 
-// Shows the rows from one on, or the last rows where there are not enough below.
-void showFrom(FileView& view, FileRows& rows, FilePlace row)
+// Lays out the rows of the view from one on. Those from a number on are kept, as the first ones.
+void layOut(FileView& view, FileRows& rows, FilePlace row, int nKept)
 {
-    const int nRows = rowsInView(view);
+    const int nRows = kul::fileRows(view);
+    const int nKeptRows = std::max(nRows - nKept, 0);
+    if (nKeptRows > 0)
+        std::copy(view.starts + nKept, view.starts + nRows + 1, view.starts);
+    view.starts[0] = row;
+    for (int i = nKeptRows; i < nRows; ++i)
+        view.starts[i + 1] = rows.row(view.starts[i]).next;
+    view.nRows = nRows;
     view.nColumns = kul::fileColumns(view);
     view.top = row;
-    view.atEnd = rows.down(view.top, nRows) >= view.text->size();
-    if (view.atEnd)
-        view.top = std::min(view.top, rows.up(view.text->size(), nRows));
+    view.atEnd = view.starts[nRows] >= view.text->size();
+}
+
+// Shows the rows from one on, or the last rows where there are not enough below.
+void showFrom(FileView& view, FileRows& rows, FilePlace row, int nKept = INT_MAX)
+{
+    layOut(view, rows, row, nKept);
+    const FilePlace last = view.atEnd ? rows.up(view.text->size(), view.nRows) : row;
+    if (last < row)
+        layOut(view, rows, last, INT_MAX);
 }
 
 void moveTo(FileView& view, FilePlace place)
@@ -54,32 +63,41 @@ void moveTo(FileView& view, FilePlace place)
     showFrom(view, rows, rows.rowOf(place));
 }
 
-void moveRows(FileView& view, int nRows)
+// Returns by how many rows what is shown has moved up.
+int moveRows(FileView& view, int nRows)
 {
     FileRows rows(*view.text, kul::fileColumns(view));
-    view.nMoved = nRows;
-    showFrom(view, rows, nRows < 0 ? rows.up(view.top, -nRows) : rows.down(view.top, nRows));
+    const FilePlace before = view.top;
+    const FilePlace to = nRows < 0 ? rows.up(before, -nRows) : rows.down(before, nRows);
+    const bool keeps =
+        kul::isLaidOut(view) && nRows > 0 && nRows < view.nRows && view.starts[nRows] == to;
+    showFrom(view, rows, to, keeps ? nRows : INT_MAX);
+    if (view.top == before)
+        return 0;
+    if (nRows < 0)
+        return -nRows < view.nRows && view.starts[-nRows] == before ? nRows : kul::kFar;
+    return keeps && view.top == to ? nRows : kul::kFar;
 }
 
 int page(const FileView& view)
 {
-    return std::max(rowsInView(view) - 1, 1);
+    return std::max(kul::fileRows(view) - 1, 1);
 }
 
 struct KeyMove {
     int nKey;
-    void (*move)(FileView&);
+    int (*move)(FileView&); // as moveRows()
 };
 
 constexpr KeyMove kKeyMoves[] = {
-    {KS_UP, [](FileView& view) { moveRows(view, -1); }},
-    {KS_DOWN, [](FileView& view) { moveRows(view, 1); }},
-    {KS_PAGEUP, [](FileView& view) { moveRows(view, -page(view)); }},
-    {KS_BACKSPACE, [](FileView& view) { moveRows(view, -page(view)); }},
-    {KS_PAGEDOWN, [](FileView& view) { moveRows(view, page(view)); }},
-    {KS_SPACE, [](FileView& view) { moveRows(view, page(view)); }},
-    {KS_HOME, [](FileView& view) { moveTo(view, 0); }},
-    {KS_END, [](FileView& view) { moveTo(view, view.text->size()); }},
+    {KS_UP, [](FileView& view) { return moveRows(view, -1); }},
+    {KS_DOWN, [](FileView& view) { return moveRows(view, 1); }},
+    {KS_PAGEUP, [](FileView& view) { return moveRows(view, -page(view)); }},
+    {KS_BACKSPACE, [](FileView& view) { return moveRows(view, -page(view)); }},
+    {KS_PAGEDOWN, [](FileView& view) { return moveRows(view, page(view)); }},
+    {KS_SPACE, [](FileView& view) { return moveRows(view, page(view)); }},
+    {KS_HOME, [](FileView& view) { return moveTo(view, 0), kul::kFar; }},
+    {KS_END, [](FileView& view) { return moveTo(view, view.text->size()), kul::kFar; }},
 };
 
 // How far the view is in the file: 0 at its start, 100 where the end is in view.
@@ -176,6 +194,7 @@ void dropFileView(KULFILEVIEW& view)
         FileText::close(inner->text);
         inner->text = nullptr;
         inner->top = 0;
+        inner->nRows = 0;
         inner->atEnd = true;
     }
 }
@@ -276,7 +295,7 @@ int kulfileview_find(int nChain, int nRef, const char* szText, int nFrom)
         return -1;
     moveTo(*view, match.line);
     FileRows rows(*view->text, kul::fileColumns(*view));
-    if (match.place >= rows.down(view->top, rowsInView(*view)))
+    if (match.place >= rows.down(view->top, kul::fileRows(*view)))
         moveTo(*view, match.place); // far behind in a line that is larger than the view
     return lineNumber(match.nLine);
 }
@@ -334,14 +353,13 @@ int kulfileview_execKeys(int nChain, int nRef)
             SetCurrentSelection(&handler.selection);
             handler.call(&FileView::onClick);
         } else if (view && view->text && move != std::end(kKeyMoves)) {
-            keepUp(*view);
+            const bool changed = keepUp(*view);
             const FilePlace before = view->top;
-            view->nMoved = 0;
-            move->move(*view);
+            const int nMoved = move->move(*view);
             const kul::FileBox box = kul::fileBox(*view);
-            if (view->top != before && view->nMoved != 0)
-                kul::rowsMoved(kul::findDialog(nChain)->winMain, box.nY,
-                               kul::shifted(box.nY, box.nHeight - 1LL), view->nMoved);
+            const kul::Block block = {{box.nY, kul::shifted(box.nY, box.nHeight)},
+                                      {box.nX, kul::shifted(box.nX, box.nWidth)}};
+            kul::rowsMoved(kul::findDialog(nChain)->winMain, block, changed ? kul::kFar : nMoved);
             handler.selection.nPosition = percent(*view);
             SetCurrentSelection(&handler.selection);
             if (view->top != before)

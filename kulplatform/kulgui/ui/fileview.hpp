@@ -7,16 +7,24 @@
 
 namespace kul {
 
-// The view is the start of its first row; rows are laid out when they are drawn.
+// No view is higher than this, whatever its record says.
+constexpr int kMaxFileRows = 1000;
+
+// The view is the start of its first row. Where the rows below it start is known as long as the
+// file and the box are what they were.
 struct FileView : KULFILEVIEW {
     using Public = KULFILEVIEW;
     FileText* text; // null: no file
     FilePlace top;
-    int nColumns; // to which the row at the top was laid out
-    int nMoved;   // rows up by the last key
+    int nColumns; // to which the rows were laid out
+    int nRows;    // that were laid out
     bool atEnd;   // the last row of the file is in view
     bool following;
+    FilePlace starts[kMaxFileRows + 1]; // of these rows, and the place behind them
 };
+
+// Whether the rows of the box are laid out.
+bool isLaidOut(const FileView& view);
 
 void dropFileView(KULFILEVIEW& view);
 
@@ -30,8 +38,8 @@ FileBox fileBox(const KULFILEVIEW& view);
 // The columns to which the text is laid out.
 int fileColumns(const KULFILEVIEW& view);
 
-// No view is higher than this, whatever its record says.
-constexpr int kMaxFileRows = 1000;
+// The rows of the box that are shown, at most, and at least one.
+int fileRows(const KULFILEVIEW& view);
 
 } // namespace kul
 

@@ -24,6 +24,16 @@ int fileColumns(const KULFILEVIEW& view)
     return std::clamp(fileBox(view).nWidth, 1, FileRows::kMaxColumns);
 }
 
+int fileRows(const KULFILEVIEW& view)
+{
+    return std::clamp(fileBox(view).nHeight, 1, kMaxFileRows);
+}
+
+bool isLaidOut(const FileView& view)
+{
+    return view.nColumns == fileColumns(view) && view.nRows == fileRows(view);
+}
+
 } // namespace kul
 
 namespace {
@@ -90,9 +100,16 @@ FilePlace drawText(WINDOW* win, const FileView& view, const FileBox& box)
         return 0;
     }
     FileRows rows(*view.text, fileColumns(view));
+    const bool laidOut = isLaidOut(view);
     FilePlace place = view.nColumns == fileColumns(view) ? view.top : rows.rowOf(view.top);
     // Rows that lie above of the window count, but not without end.
-    for (int nY = std::max(box.nY, -kMaxFileRows); nY < nBottom; ++nY) {
+    const int nTop = std::max(box.nY, -kMaxFileRows);
+    const kul::Range columns = {box.nX, kul::shifted(box.nX, box.nWidth)};
+    for (int nY = nTop; nY < nBottom; ++nY) {
+        if (laidOut && nY - nTop < view.nRows && !kul::isDrawn(win, {{nY, nY + 1}, columns})) {
+            place = view.starts[nY - nTop + 1];
+            continue;
+        }
         const FileRows::Row row = rows.row(place);
         if (nY >= 0)
             drawRow(win, nY, box, rows, row);

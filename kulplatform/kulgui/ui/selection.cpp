@@ -176,28 +176,47 @@ bool findChanged(kul::Changed changed, kul::Block& block)
 
 } // namespace
 
+namespace {
+
+// Draws the dialog as far as a block goes; false where that cannot be.
+bool drawPart(CHAIN* chain, const kul::Block& block)
+{
+    const kul::Clip clip(chain->Pointer->winMain, block);
+    drawDialog(chain);
+    if (!clip.isExact())
+        return false;
+    noteDrawn(*chain->Pointer, std::min(drawn.exact, clip.exact()));
+    return true;
+}
+
+// What lies beside a block that was scrolled, and the rows that came into it.
+bool drawScrolled(CHAIN* chain, const kul::Moved& moved)
+{
+    const auto& [rows, columns] = moved.block;
+    const kul::Rows in = moved.nRows > 0 ? kul::Rows{rows.nEnd - moved.nRows, rows.nEnd}
+                                         : kul::Rows{rows.nFirst, rows.nFirst - moved.nRows};
+    return (columns.nFirst <= 0 || drawPart(chain, {rows, {0, columns.nFirst}})) &&
+           drawPart(chain, {rows, {columns.nEnd, kul::kAll.nEnd}}) &&
+           drawPart(chain, {in, kul::kAll});
+}
+
+} // namespace
+
 void kul::drawFocused(Changed changed)
 {
     CHAIN* chain = GetChain(defCurrent.nChain);
     Block block{};
     if (!chain || !chain->Pointer || chain->Pointer->nVisible != T)
         return;
-    if (drawn.exact == Exact::Never || drawn.nChanges != changes() ||
-        drawn.nChain != defCurrent.nChain || drawn.win != chain->Pointer->winMain ||
-        !findChanged(changed, block)) {
-        ShowUIColors();
-        return;
-    }
     const Pass pass;
-    {
-        const Clip clip(chain->Pointer->winMain, block);
-        drawDialog(chain);
-        if (clip.isExact()) {
-            noteDrawn(*chain->Pointer, std::min(drawn.exact, clip.exact()));
-            return;
-        }
-    }
-    ShowUIColors();
+    const bool inParts = drawn.exact != Exact::Never && drawn.nChanges == changes() &&
+                         drawn.nChain == defCurrent.nChain &&
+                         drawn.win == chain->Pointer->winMain && findChanged(changed, block);
+    const Moved moved =
+        scrollMoved(chain->Pointer->winMain, inParts && drawn.exact == Exact::ByCell &&
+                                                 drawn.nRef == defCurrent.nUserInterface);
+    if (!inParts || !(moved.nRows != 0 ? drawScrolled(chain, moved) : drawPart(chain, block)))
+        ShowUIColors();
 }
 
 void ShowUIColors()
