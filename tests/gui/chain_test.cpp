@@ -149,27 +149,4 @@ TEST_F(ChainTest, NumbersAndNullsOfEveryKind)
     EXPECT_EQ(AddUIComponent(nullptr, nullptr) + ComponentTypeByChain(nullptr, 1), 0);
 }
 
-TEST_F(ChainTest, SurvivesEveryFailedAllocation)
-{
-    const auto build = [] {
-        kulgui_create(0);
-        configurePrime(0);
-        kulgui_create(1);
-        configure(1);
-        kulbutton_create(1, 1);
-        return kulbutton_config(1, 1, 0, 0, 0, 0, 1, 1, 9, 1, "text", nullptr, nullptr, nullptr, nullptr);
-    };
-    int nGood = 0;
-    for (;; ++nGood) {
-        {
-            const kultest::FailingMemory memory(nGood);
-            if (build() == 0)
-                break;
-        }
-        kulgui_show(1);
-        TearDown();
-    }
-    EXPECT_EQ(nGood, 7) << "allocations that were made to fail, one after the other";
-}
-
 } // namespace
