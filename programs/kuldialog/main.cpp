@@ -103,6 +103,7 @@ private:
 
     CommandLine line_;
     int descriptor_ = STDERR_FILENO; // where the answer goes
+    bool clears_ = false;            // the screen, at the end
     char* stays_ = nullptr;          // the text that stays when the program is over
 };
 
@@ -124,6 +125,7 @@ Answer Program::runBox()
         complain("cannot write to", "--output-fd");
         return kFailed;
     }
+    clears_ = call.settings.is(kClear);
     printFacts(call.settings);
     showDesktop(call.settings);
     const Answer answer = line_.box()->run(call);
@@ -148,11 +150,11 @@ int Program::noBox(bool any)
     if (!any && settings.texts[kNewFile])
         return statusOf(writeColors(settings.texts[kNewFile]) ? kAccepted : kFailed);
     const bool printed = settings.is(kPrintVersion) || settings.is(kPrintMaxsize);
-    const bool clears = settings.is(kClear) && name != kWhiptail;
-    if (!any && (clears || settings.is(kPrintMaxsize)) && takeTerminal())
+    clears_ = clears_ || (settings.is(kClear) && name != kWhiptail);
+    if (!any && (clears_ || settings.is(kPrintMaxsize)) && takeTerminal())
         openScreen();
     printFacts(settings);
-    if (any || printed || clears || name == kDialog)
+    if (any || printed || clears_ || name == kDialog)
         return finish(kAccepted);
     complain("no box; see", "--help");
     return 255;
@@ -160,7 +162,7 @@ int Program::noBox(bool any)
 
 int Program::finish(Answer answer)
 {
-    closeScreen(answer == kAccepted ? stays_ : nullptr, line_.settings().is(kClear));
+    closeScreen(answer == kAccepted ? stays_ : nullptr, clears_);
     if (!output.isWhole() || !output.writeTo(descriptor_))
         answer = kFailed;
     return statusOf(answer);
@@ -193,6 +195,8 @@ int Program::run()
         const bool goesOn = answer == kAccepted || (line_.goesOn() && answer < kTimedOut);
         if (!goesOn)
             return finish(answer);
+        if (clears_)
+            Window::removeLast();
     }
 }
 

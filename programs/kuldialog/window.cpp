@@ -244,6 +244,11 @@ Answer Window::run()
     return answer_;
 }
 
+void Window::removeLast()
+{
+    kulgui_destroy(nLastChain);
+}
+
 void Window::end(Answer answer)
 {
     if (!running)
@@ -333,7 +338,7 @@ void Window::showHelpFile() const
     char zero[] = "0";
     char* arguments[] = {const_cast<char*>(settings.texts[kHelpFile]), zero, zero};
     runView({plain, arguments, 3, kWhole});
-    kulgui_destroy(nLastChain);
+    removeLast();
 }
 
 void Window::handleKey()

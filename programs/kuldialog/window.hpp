@@ -52,6 +52,8 @@ public:
     Answer run();
     void show(); // without waiting for anything
 
+    static void removeLast(); // else a box stays below the next one
+
     // While it runs:
     static void end(Answer answer);
     static void chooseDefault();      // what Enter does in the body
