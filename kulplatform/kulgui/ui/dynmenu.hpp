@@ -25,7 +25,7 @@ inline auto& placeOf(DynMenu& menu)
 
 inline int pageOf(const DynMenu& menu)
 {
-    return std::max(menu.nHeight - 1, 1);
+    return std::max(menu.nHeight, 2) - 1;
 }
 
 Spot spotOf(DynMenu& menu);
