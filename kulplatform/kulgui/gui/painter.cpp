@@ -77,27 +77,35 @@ bool Painter::paint()
     return true;
 }
 
-// The number of the layer that a cell belongs to: of the first with its look, else a new one.
-int Layers::of(const Style& style, bool isBare)
+// The number of the layer that a cell belongs to: of the first with its look, else a new one; 0 for
+// cells that only curses can show. Mostly that of the cell that was asked for before.
+int Layers::of(const ScreenCell& cell)
 {
+    if (isAsked_ && isSameLook(cell, last_) && (letterOf(cell) == ' ') == (letterOf(last_) == ' '))
+        return nLast_;
+    Style style;
+    if (!lookOf(cell, style))
+        return nNow_;
+    const bool bare = isBare(cell, style);
     int i = 0;
     while (i < nKnown_ && style != styles_[i] &&
-           !(isBare && styles_[i].attributes == 0 && style.background == styles_[i].background))
+           !(bare && styles_[i].attributes == 0 && style.background == styles_[i].background))
         ++i;
     if (i == nNow_ && i == nKnown_)
         styles_[nKnown_++] = style;
-    return std::min(i, kMost - 1);
+    nLast_ = std::min(i, kMost - 1);
+    more_ |= nLast_ > nNow_;
+    isAsked_ = true;
+    last_ = cell;
+    return nLast_;
 }
 
 // How many layers later it is to be painted: 0 for now, below 0 for never or done.
 int Painter::layersTo(int nX) const
 {
-    Style style;
     if (looksSame(next_[nX], seen_[nX]))
         return -1;
-    if (!layers_ || !lookOf(next_[nX], style))
-        return 0;
-    return layers_->of(style, isBare(next_[nX], style)) - layers_->now();
+    return layers_ ? layers_->of(next_[nX]) - layers_->now() : 0;
 }
 
 bool Painter::differs(int nX) const

@@ -4,6 +4,8 @@
 #ifndef KUL_GUI_PAINTER_HPP
 #define KUL_GUI_PAINTER_HPP
 
+#include <utility>
+
 #include "cells.hpp"
 #include "pen.hpp"
 
@@ -14,14 +16,22 @@ namespace kul {
 class Layers {
 public:
     int now() const { return nNow_; }
-    bool next() { return nNow_ < nKnown_ && ++nNow_ < kMost; } // false when all are painted
-    int of(const Style& style, bool isBare);
+    bool next() // false after the last
+    {
+        isAsked_ = false;
+        return std::exchange(more_, false) && ++nNow_ < kMost;
+    }
+    int of(const ScreenCell& cell);
 
 private:
     static constexpr int kMost = 8; // the last one takes all that is left
     Style styles_[kMost];
     int nKnown_ = 0;
     int nNow_ = 0;
+    bool more_ = false;    // cells for later ones were met
+    bool isAsked_ = false; // for a cell, and in which layer that is
+    ScreenCell last_{};
+    int nLast_ = 0;
 };
 
 class Painter {

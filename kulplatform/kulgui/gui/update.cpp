@@ -178,36 +178,55 @@ bool readSeen(int nY)
 bool paintCells(Layers* layers)
 {
     const bool cleared = isCleared();
+    static int nTop; // rows that differ
+    static int nBottom;
+    if (!layers || layers->now() == 0) {
+        nTop = LINES;
+        nBottom = -1;
+    }
     for (int y = 0; y < LINES; ++y) {
-        if (!isDue(y))
+        if (!isDue(y) || (layers && layers->now() > 0 && (y < nTop || y > nBottom)))
             continue;
         nFirstDue = std::min(nFirstDue, y);
         nLastDue = std::max(nLastDue, y);
         Painter painter(pen, y, next, seen, layers);
         if (!next.read(newscr, y) || (!cleared && !readSeen(y)) || !painter.paint())
             return false;
+        if (painter.lastChanged() < painter.firstChanged())
+            continue;
+        nTop = std::min(nTop, y);
+        nBottom = std::max(nBottom, y);
         nFirstChanged = std::min(nFirstChanged, painter.firstChanged());
         nLastChanged = std::max(nLastChanged, painter.lastChanged());
     }
     return true;
 }
 
-// Row by row or, where that takes many bytes, in layers if these take fewer.
+bool paintLayers()
+{
+    Layers layers;
+    do {
+        if (!paintCells(&layers))
+            return false;
+    } while (layers.next());
+    return true;
+}
+
+// Row by row or, where that takes many bytes, in layers if these take fewer; of a whole screen they
+// do.
 bool paintInFewestBytes()
 {
     constexpr std::size_t kMany = 200;
     const Pen::State before = pen.state();
+    if (isCleared())
+        return paintLayers();
     if (!paintCells(nullptr))
         return false;
     const std::size_t size = pen.state().size;
     if (size < before.size + kMany)
         return true;
     pen.returnTo(before);
-    Layers layers;
-    do
-        paintCells(&layers);
-    while (layers.next());
-    if (pen.state().size <= size)
+    if (paintLayers() && pen.state().size <= size)
         return true;
     pen.returnTo(before);
     return paintCells(nullptr);
