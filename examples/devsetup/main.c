@@ -128,6 +128,7 @@ static void on_resize(void)
     make_main();
     kulgui_select(MAIN, PAGES, before.nSelect);
     kulgui_setFocus(MAIN, PAGES);
+    kulgui_show(MAIN);
     kulgui_setOnResize(MAIN, on_resize);
 }
 
