@@ -426,6 +426,11 @@ KULGUI_API int kulgui_resume(void);
  * windows, and where it is not open. */
 KULGUI_API int kulgui_keepScreen(int bKeep);
 
+/** With T, lines, frames and bars are made of '+', '-', '|' and ':' on a terminal that is opened
+ * after it, as where somebody reads along whose font has no others; F, the start: of what the
+ * terminal draws best. Returns KUL_OK, KUL_ERROR for another bAscii. */
+KULGUI_API int kulgui_setAsciiLines(int bAscii);
+
 /** These four do nothing and return KUL_OK. */
 KULGUI_API int kulgui_exit(void);
 KULGUI_API int kulgui_hasExited(void);

@@ -116,6 +116,8 @@ Answer Program::runBox()
         complain("there is no", "terminal");
         return kFailed;
     }
+    if (call.settings.is(kAsciiLines))
+        kulgui_setAsciiLines(T);
     if (!isScreenOpen() && !openScreen()) {
         complain("unusable terminal:", std::getenv("TERM") ? std::getenv("TERM") : "");
         _exit(name == kOwn ? 255 : 1);

@@ -39,7 +39,7 @@ constexpr Option kOptions[] = {
     {"allow-close", kOthers, Take::Flag, kIgnoredFlag},
     {"and-widget", kOthers, Take::Again, 0},
     {"args", kOthers, Take::Flag, kIgnoredFlag},
-    {"ascii-lines", kOthers, Take::Flag, kIgnoredFlag},
+    {"ascii-lines", kOthers, Take::Flag, kAsciiLines},
     {"aspect", kOthers, Take::Number, kIgnoredNumber},
     {"auto-placement", kOthers, Take::Flag, kIgnoredFlag},
     {"backtitle", kAll, Take::Text, kBacktitle},

@@ -12,6 +12,7 @@ enum Name : unsigned char { kWhiptail = 1, kDialog = 2, kOwn = 4 };
 
 enum Flag : unsigned char {
     kIgnoredFlag,
+    kAsciiLines,
     kClear,
     kColors,
     kCrWrap,

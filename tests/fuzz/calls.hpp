@@ -96,4 +96,5 @@
     K(AttachBoxComponentToDI, ConfigBoxComponent, WipeBoxComponent)
     K(AttachLineComponentToDI, ConfigLineComponent, WipeLineComponent)
     K(AttachLabelComponentToDI, ConfigLabelComponent, WipeLabelComponent)
+    C(kulgui_setAsciiLines)
     // clang-format on

@@ -23,6 +23,7 @@ namespace kul {
 namespace {
 
 Codes now;
+bool asciiLines = false;
 
 unsigned paletteAtStart = 0;
 
@@ -248,21 +249,23 @@ void ask()
     now.known = placesAndErases() && !isOdd() && askAttributes() && askColors();
 }
 
-#if NCURSES_WIDECHAR
-void settleLines() {}
-#else
 // Where a terminal in UTF-8 lacks the second alphabet, a curses without wide characters never goes
 // there, but goes on to draw with its letters.
-void settleLines()
+bool linesAreLost()
 {
     const char* szTerm = std::getenv("TERM");
-    if (std::strcmp(nl_langinfo(CODESET), "UTF-8") != 0 || !alphabetIsLost(szTerm ? szTerm : ""))
+    return !NCURSES_WIDECHAR && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0 &&
+           alphabetIsLost(szTerm ? szTerm : "");
+}
+
+void settleLines()
+{
+    if (!asciiLines && !linesAreLost())
         return;
     for (const char* szLine :
          {"q-", "x|", "a:", "l+", "k+", "m+", "j+", "t+", "u+", "v+", "w+", "n+", "`+"})
         acs_map[static_cast<unsigned char>(szLine[0])] = static_cast<chtype>(szLine[1]);
 }
-#endif
 
 // What curses has kept back since it began must come before what others write.
 void flushCurses()
@@ -310,6 +313,11 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     flushCurses();
     beginUpdates();
     return screen;
+}
+
+void drawAsciiLines(bool ascii)
+{
+    asciiLines = ascii;
 }
 
 void notePalette()

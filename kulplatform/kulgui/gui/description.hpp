@@ -19,6 +19,9 @@ bool isString(const char* szString);
 // that is not known or cannot place its cursor.
 SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input);
 
+// Lines of '+', '-' and '|' on the terminals that are opened from now on, or their own.
+void drawAsciiLines(bool ascii);
+
 // Attributes in the order in which a description numbers them, but for the second alphabet; italics
 // are the last.
 constexpr int kAttributes = 9;

@@ -172,6 +172,14 @@ int kulgui_keepScreen(int bKeep)
     return state == State::Open && !kul::hasOwnScreen() ? 0 : -1;
 }
 
+int kulgui_setAsciiLines(int bAscii)
+{
+    if (bAscii != T && bAscii != F)
+        return KUL_ERROR;
+    kul::drawAsciiLines(bAscii == T);
+    return KUL_OK;
+}
+
 int InitializeColorSets()
 {
     short nPair = 0;
