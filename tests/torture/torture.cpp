@@ -70,7 +70,7 @@ std::vector<Example> examples()
         all.push_back({"programs/kuldialog/kuldialog", down + " |" + "a|" + enter + end, box});
     const std::vector<std::vector<std::string>> dialogs = {
         {"tell"},        {"form", "3"}, {"choose", "4"},          {"check", "4"},
-        {"option", "4"}, {"pick", "/"}, {"view", "torture.conf"}, {"run", "echo a"},
+        {"option", "4"}, {"pick", "."}, {"view", "torture.conf"}, {"run", "echo a"},
         {"progress"}};
     for (const auto& dialog : dialogs)
         all.push_back({"tests/programs/ready", down + " |" + "a|" + enter + "\t|" + enter + end, dialog});
