@@ -10,7 +10,7 @@ namespace {
 
 constexpr kul::MenuKeys kDescrmenuKeys = {DESCRMENU, KS_LEFT, KS_RIGHT, false};
 
-void draw(GUI* gui, const KULDESCRMENU& menu, kul::Place<KULDESCRMENUELEMENT>& place, int nFocus)
+void draw(GUI* gui, const KULDESCRMENU& menu, kul::Finger<KULDESCRMENUELEMENT>& place, int nFocus)
 {
     if (menu.nVisible != T)
         return;
@@ -158,7 +158,7 @@ int kuldescrmenu_count(int nChain, int nRef)
 // The record may be the program's own, that remembers no place.
 void ShowDescrmenuComponent(GUI* thisGUI, KULDESCRMENU* thisMenu, int nFocus)
 {
-    kul::Place<KULDESCRMENUELEMENT> start{};
+    kul::Finger<KULDESCRMENUELEMENT> start{};
     auto* inner = kul::innerOf<kul::DescrMenu>(thisMenu);
     if (thisGUI && thisMenu)
         draw(thisGUI, *thisMenu, inner ? inner->place : start, nFocus);

@@ -9,7 +9,7 @@ namespace kul {
 // A description menu as it is allocated.
 struct DescrMenu : KULDESCRMENU {
     using Public = KULDESCRMENU;
-    Place<KULDESCRMENUELEMENT> place;
+    Finger<KULDESCRMENUELEMENT> place;
 };
 
 inline auto& placeOf(DescrMenu& menu)

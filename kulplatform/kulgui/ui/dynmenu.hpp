@@ -8,7 +8,7 @@ namespace kul {
 
 // The part of the list that a dynamic menu shows.
 struct MenuView {
-    Place<KULMENUELEMENT> place;
+    Finger<KULMENUELEMENT> place;
     int nFirst; // position in its first row
 };
 

@@ -108,7 +108,7 @@ AnyElement* cappedLookup(ElementShape shape, AnyElement* head, int nPosition)
     return head;
 }
 
-AnyElement* AnyPlace::find(ElementShape shape, AnyElement* head, int nPosition)
+AnyElement* AnyFinger::find(ElementShape shape, AnyElement* head, int nPosition)
 {
     if (nPosition < 0 || nPosition >= count(shape, head))
         return nullptr;
@@ -126,7 +126,7 @@ AnyElement* AnyPlace::find(ElementShape shape, AnyElement* head, int nPosition)
     return found_;
 }
 
-int AnyPlace::count(ElementShape shape, AnyElement* head)
+int AnyFinger::count(ElementShape shape, AnyElement* head)
 {
     if (head != head_ || nRemovals_ != nElementRemovals) {
         head_ = found_ = last_ = head;

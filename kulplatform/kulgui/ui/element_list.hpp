@@ -179,9 +179,10 @@ void dropAll(Element*& head)
     head = nullptr;
 }
 
-// Finds elements near the one that was found before, so that a step along a list of any length is a
-// step. Cleared memory is a new one. It notices by itself what happened to the list.
-class AnyPlace {
+// A finger on a list: finds elements near the one that was found before, so that a step along a
+// list of any length is a step. Cleared memory is a new one. It notices by itself what happened to
+// the list.
+class AnyFinger {
 public:
     // The element at a position; null when there is none.
     AnyElement* find(ElementShape shape, AnyElement* head, int nPosition);
@@ -199,15 +200,15 @@ private:
 };
 
 template <typename Element>
-class Place : public AnyPlace {
+class Finger : public AnyFinger {
 public:
     Element* find(Element* head, int nPosition)
     {
         return reinterpret_cast<Element*>(
-            AnyPlace::find(shapeOf<Element>(), asAny(head), nPosition));
+            AnyFinger::find(shapeOf<Element>(), asAny(head), nPosition));
     }
 
-    int count(Element* head) { return AnyPlace::count(shapeOf<Element>(), asAny(head)); }
+    int count(Element* head) { return AnyFinger::count(shapeOf<Element>(), asAny(head)); }
 };
 
 } // namespace kul

@@ -17,7 +17,7 @@ namespace kul {
 // A menu as it is allocated.
 struct Menu : KULMENU {
     using Public = KULMENU;
-    Place<KULMENUELEMENT> place;
+    Finger<KULMENUELEMENT> place;
 };
 
 void dropMenu(KULMENU& menu);
@@ -78,7 +78,7 @@ struct AnyMenu {
     int& nElements; // added so far, as the record says
     UICalls& calls;
     AnyElement* head;
-    AnyPlace& place;
+    AnyFinger& place;
     ElementShape shape;
     int nPage; // elements that a page goes over
 
@@ -93,7 +93,7 @@ int pageOf(const Record&)
     return INT_MAX / 2;
 }
 
-inline Place<KULMENUELEMENT>& placeOf(Menu& menu)
+inline Finger<KULMENUELEMENT>& placeOf(Menu& menu)
 {
     return menu.place;
 }

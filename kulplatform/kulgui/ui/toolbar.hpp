@@ -23,7 +23,7 @@ struct ToolbarLayout {
 // A toolbar as it is allocated.
 struct Toolbar : KULTOOLBAR {
     using Public = KULTOOLBAR;
-    Place<KULTOOLBARBUTTON> place;
+    Finger<KULTOOLBARBUTTON> place;
     ToolbarLayout laidOut; // as the buttons' places are now
 };
 
