@@ -276,7 +276,18 @@ int Painter::paintFrom(int nX)
     if (const int nRepeated = nBytes == 1 ? repeat(nX, bytes[0]) : 0)
         return nRepeated;
     pen_.write({bytes, static_cast<std::size_t>(nBytes)}, nColumns);
+    if (bareLetterOf(next_[nX]) == ' ')
+        return nColumns + goOnBlank(nX);
     return nColumns + (isLetter(next_[nX]) ? goOn(nX) : 0);
+}
+
+// Paints the blanks behind one that could not be had for less: no more can they. Returns how many.
+int Painter::goOnBlank(int nX)
+{
+    int x = nX + 1;
+    for (; x < nLast_ && isSame(next_[x], next_[nX]) && differs(x); ++x)
+        pen_.write(" ", 1);
+    return x - nX - 1;
 }
 
 // Paints the letters behind one that look as that does; returns how many.

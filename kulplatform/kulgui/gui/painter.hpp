@@ -66,6 +66,7 @@ private:
     int letter(int nX, char (&bytes)[kMostBytes]);
     int paintFrom(int nX);
     int goOn(int nX);
+    int goOnBlank(int nX);
 
     Pen& pen_;
     int nY_;
