@@ -83,7 +83,7 @@ bool begins(const char* szText, const char* szStart)
 int letters(const char* szText, std::size_t size)
 {
     int nLetters = 0;
-    for (const char* at = szText; *at && at < szText + size; ++nLetters)
+    for (const char* at = szText; at && *at && at < szText + size; ++nLetters)
         at += kulgui_nextLetter(at, nullptr);
     return nLetters;
 }
