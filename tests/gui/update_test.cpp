@@ -259,8 +259,8 @@ TEST_P(Update, ShowsWhatCursesShows)
 TEST(Updates, KnowWhatClearingLeaves)
 {
     Side side("linux", true);
-    for (const chtype look : {COLOR_PAIR(50), 0}) {
-        wattrset(stdscr, static_cast<int>(look));
+    for (const int look : {COLOR_PAIR(50), 0}) {
+        wattrset(stdscr, look);
         for (int y = 0; y < kRows; ++y)
             mvwhline(stdscr, y, 0, ' ', kColumns);
         update_panels();
@@ -322,8 +322,8 @@ TEST(Updates, ScrollWhatWasComposed)
 TEST(Updates, LeaveBlanksOnWhichACursorIsSeen)
 {
     Side side("linux", true);
-    mvwaddch(stdscr, 20, 0, 'x' | COLOR_PAIR(BLUE_WHITE));
-    mvwaddch(stdscr, 20, 1, ' ' | COLOR_PAIR(WHITE_BLUE));
+    mvwaddch(stdscr, 20, 0, 'x' | static_cast<chtype>(COLOR_PAIR(BLUE_WHITE)));
+    mvwaddch(stdscr, 20, 1, ' ' | static_cast<chtype>(COLOR_PAIR(WHITE_BLUE)));
     update_panels();
     kul::updateTerminal(kul::kNowhere, false);
     side.show();

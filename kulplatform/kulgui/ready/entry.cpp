@@ -7,6 +7,7 @@
 //
 // A form that is higher than its room shows the lines around the one that has the focus.
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 
 #include "frame.hpp"
@@ -137,7 +138,8 @@ int runForm(Frame& frame, Form& form)
     for (int i = 0; nResult == 0 && i < form.nFields; ++i) {
         const KULFIELD& field = form.fields[i];
         if (field.szText && field.nSize > 0)
-            std::strcpy(field.szText, lineText(frame, i));
+            std::snprintf(field.szText, static_cast<std::size_t>(field.nSize), "%s",
+                          lineText(frame, i));
     }
     return nResult == 1 ? kulready::kCancelled : nResult;
 }

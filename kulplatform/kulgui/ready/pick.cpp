@@ -84,7 +84,7 @@ void enter(Frame& frame, const char* szName)
     if (!join(szPath, pick.szDirectory, szName) || !realpath(szPath, szReal) ||
         !list(frame, szReal))
         return;
-    std::strcpy(pick.szDirectory, szReal);
+    std::snprintf(pick.szDirectory, sizeof pick.szDirectory, "%s", szReal);
     frame.setText(pick.szDirectory, false);
 }
 
@@ -116,7 +116,7 @@ bool mayEnd(Frame& frame, int nButton)
     if (!join(szPath, pick.szDirectory, szName) ||
         std::strlen(szPath) >= static_cast<std::size_t>(pick.nSize))
         return false;
-    std::strcpy(pick.szBuffer, szPath);
+    std::snprintf(pick.szBuffer, static_cast<std::size_t>(pick.nSize), "%s", szPath);
     return true;
 }
 
