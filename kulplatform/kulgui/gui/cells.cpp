@@ -24,11 +24,11 @@ static_assert(A_STANDOUT == 1U << 16 && A_BOLD == 1U << 21 && A_INVIS == 1U << 2
 
 // How cells look that were asked for in this update: there are few looks in a row.
 struct Look {
-    bool known;
     attr_t attributes;
     int nPair;
-    bool shown;
     Style style;
+    bool known;
+    bool shown;
 };
 constexpr unsigned kLooks = 16;
 Look looks[kLooks];

@@ -253,9 +253,12 @@ void ask()
 // there, but goes on to draw with its letters.
 bool linesAreLost()
 {
+#if NCURSES_WIDECHAR
+    return false;
+#else
     const char* szTerm = std::getenv("TERM");
-    return !NCURSES_WIDECHAR && std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0 &&
-           alphabetIsLost(szTerm ? szTerm : "");
+    return std::strcmp(nl_langinfo(CODESET), "UTF-8") == 0 && alphabetIsLost(szTerm ? szTerm : "");
+#endif
 }
 
 void settleLines()
@@ -264,7 +267,7 @@ void settleLines()
         return;
     for (const char* szLine :
          {"q-", "x|", "a:", "l+", "k+", "m+", "j+", "t+", "u+", "v+", "w+", "n+", "`+"})
-        acs_map[static_cast<unsigned char>(szLine[0])] = static_cast<chtype>(szLine[1]);
+        acs_map[static_cast<unsigned char>(szLine[0])] = static_cast<unsigned char>(szLine[1]);
 }
 
 // What curses has kept back since it began must come before what others write.

@@ -107,7 +107,7 @@ bool hasMemoryFor(Size size)
     constexpr std::size_t kScreens = 4;
     const auto nCells =
         static_cast<std::size_t>(size.nLines) * static_cast<std::size_t>(size.nColumns);
-    void* volatile memory = std::malloc(256 * 1024 + nCells * kCell * kScreens);
+    void* volatile memory = std::malloc(256UL * 1024 + nCells * kCell * kScreens);
     std::free(memory);
     return memory;
 }

@@ -65,7 +65,8 @@ bool list(const Frame& frame, const char* szDirectory)
             name.add(szName);
             if (directories)
                 name.add("/");
-            kuldynmenu_addElement(frame.chain(), BODY, name.text(), nullptr, nullptr, 1);
+            if (name.isWhole())
+                kuldynmenu_addElement(frame.chain(), BODY, name.text(), nullptr, nullptr, 1);
         }
     }
     for (int i = 0; i < nEntries; ++i)
