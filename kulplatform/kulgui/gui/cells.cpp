@@ -230,7 +230,7 @@ bool lookOf(const ScreenCell& cell, Style& style)
     const int nPair = pairOf(cell);
     Look& look = looks[(static_cast<unsigned>(nPair) ^ attributes >> 17) % kLooks];
     if (!look.known || look.attributes != attributes || look.nPair != nPair) {
-        look = {true, attributes, nPair, false, {}};
+        look = {attributes, nPair, {}, true, false};
         look.style.attributes = numbered(attributes);
         look.shown = !(attributes & ~kCommonAttributes) && colorsOf(nPair, look.style);
     }
