@@ -346,7 +346,7 @@ Answer List::rename(int nItem)
     if (answer == kAccepted) {
         output.add("RENAMED ").add(items.tag(nItem)).add(' ').add(entered(window, kBody));
     }
-    kulgui_destroy(window.nChain);
+    Window::removeLast();
     return answer;
 }
 

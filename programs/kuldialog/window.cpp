@@ -22,6 +22,7 @@ constexpr int kWidest = 72; // columns of text; longer rows are hard to read
 constexpr int kInterrupt = 3;
 
 int nLastChain = 0;
+char* lastTitle = nullptr;
 
 KULMENU* buttonRow(int nChain)
 {
@@ -201,12 +202,12 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     }
     kulgui_create(nChain);
     // Below the next box it is still there, with its title.
-    char* kept = copyOf(title.text(), title.size());
+    lastTitle = copyOf(title.text(), title.size());
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      kept, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      lastTitle, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
                       std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
                       nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
-        std::free(kept);
+        removeLast();
         return false;
     }
     area_.create(nChain, 1, textRows_);
@@ -247,6 +248,8 @@ Answer Window::run()
 void Window::removeLast()
 {
     kulgui_destroy(nLastChain);
+    std::free(lastTitle);
+    lastTitle = nullptr;
 }
 
 void Window::end(Answer answer)

@@ -14,7 +14,7 @@
 namespace kulfuzz {
 
 constexpr long kEdges[] = {1 << 12, 1 << 14, 1 << 15, 1 << 16}; // near which much happens
-constexpr long kLargest = 5 << 14; // all of it may be one line
+constexpr long kLargest = 5 << 14;                              // all of it may be one line
 
 inline int nFile = -1; // what has the name
 
