@@ -247,7 +247,8 @@ Answer Window::run()
 
 void Window::removeLast()
 {
-    kulgui_destroy(nLastChain);
+    if (nLastChain > kDesktopChain)
+        kulgui_destroy(nLastChain--);
     std::free(lastTitle);
     lastTitle = nullptr;
 }
