@@ -66,7 +66,7 @@ void drain()
 std::size_t readBytes(char* bytes, std::size_t nMost, int nMilliseconds)
 {
     pollfd input{STDIN_FILENO, POLLIN, 0};
-    const int nReady = poll(&input, 1, nMilliseconds);
+    const int nReady = nMilliseconds == kul::kTyped ? 1 : poll(&input, 1, nMilliseconds);
     const ssize_t got = nReady == 1 ? read(STDIN_FILENO, bytes, nMost) : nReady;
     const bool ended = (nReady == 1 && got == 0) || (got < 0 && errno != EAGAIN && errno != EINTR);
     nEndedWaits = ended ? nEndedWaits + 1 : 0;

@@ -24,7 +24,9 @@ private:
 // The key code of the bytes that came together; 0 for none.
 int decodeKey(std::string_view bytes);
 
-// Reads a key, waiting for it so long and for its rest a little longer; 0 for none.
+// Reads a key, waiting for it so long and for its rest a little longer; 0 for none. kTyped where it
+// is known to be there.
+constexpr int kTyped = -1;
 int readKey(int nMilliseconds);
 
 // Edition 1: what was typed while something else ran (after a key, or in a callback that is told

@@ -163,7 +163,7 @@ bool Painter::isInHand(int nX) const
            styleOf(nX, style) && style == pen_.style();
 }
 
-// Over cells that stay, by writing them once more where that is shorter, or round them.
+// Over cells that stay, by writing them once more where no way is shorter, or round them.
 void Painter::approach(int nX)
 {
     const Place to{nY_, nX};
@@ -172,7 +172,7 @@ void Painter::approach(int nX)
     bool inHand = from.nY == nY_ && nGap > 0 && nGap <= kLongestGap;
     for (int x = from.nX; inHand && x < nX; ++x)
         inHand = isInHand(x);
-    if (!inHand || static_cast<std::size_t>(nGap) >= pen_.distance(to)) {
+    if (!inHand || (nGap > 1 && pen_.moveTo(to, static_cast<std::size_t>(nGap) - 1))) {
         pen_.moveTo(to);
         return;
     }
@@ -290,13 +290,16 @@ int Painter::goOnBlank(int nX)
     return x - nX - 1;
 }
 
-// Paints the letters behind one that look as that does; returns how many.
+// Paints the letters behind one that look as that does, and the blanks between two of them; returns
+// how many.
 int Painter::goOn(int nX)
 {
+    const auto goesOn = [&](int nAt) {
+        return nAt < nLast_ && isLetter(next_[nAt]) && isSameLook(next_[nAt], next_[nX]) &&
+               letterOf(next_[nAt]) != letterOf(next_[nAt + 1]) && differs(nAt);
+    };
     int x = nX + 1;
-    for (; x < nLast_ && isLetter(next_[x]) && isSameLook(next_[x], next_[nX]) &&
-           letterOf(next_[x]) != letterOf(next_[x + 1]) && differs(x);
-         ++x) {
+    for (; goesOn(x) || (goesOn(x + 1) && isInHand(x)); ++x) {
         const char byte = static_cast<char>(letterOf(next_[x]));
         pen_.write({&byte, 1}, 1);
     }

@@ -141,23 +141,22 @@ Short alongRow(int nFrom, int nTo, bool tabs)
 
 Short shortestWay(Place from, Place to, bool feeds, bool tabs)
 {
-    if (from == to)
-        return {};
     Short best = placed(to, 'H');
     if (from.nY < 0)
         return best;
     Short fromStart;
     fromStart.add('\r');
-    const Short toRow = alongColumn(from.nY, to.nY, feeds);
-    fromStart.add(toRow);
-    fromStart.add(alongRow(0, to.nX, tabs));
+    Short direct = alongColumn(from.nY, to.nY, feeds);
+    fromStart.add(direct);
     if (from.nX < COLS) {
-        Short direct = toRow;
         direct.add(alongRow(from.nX, to.nX, tabs));
         best = shorter(best, direct);
     } else if (!codes().waitsAtEdge) {
         return best;
     }
+    if (from.nX <= to.nX) // no way leads back
+        return best;
+    fromStart.add(alongRow(0, to.nX, tabs));
     return shorter(best, fromStart);
 }
 
@@ -258,15 +257,16 @@ void Pen::code(int nNumber, char final)
     add(text.text());
 }
 
-std::size_t Pen::distance(Place to) const
+bool Pen::moveTo(Place to, std::size_t nMost)
 {
-    return shortestWay(place_, to, feeds_, tabs_).size();
-}
-
-void Pen::moveTo(Place to)
-{
-    add(shortestWay(place_, to, feeds_, tabs_).text());
+    if (to == place_)
+        return true;
+    const Short way = shortestWay(place_, to, feeds_, tabs_);
+    if (way.size() > nMost)
+        return false;
+    add(way.text());
     place_ = to;
+    return true;
 }
 
 void Pen::wear(const Style& style)

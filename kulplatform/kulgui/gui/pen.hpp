@@ -7,6 +7,7 @@
 #define KUL_GUI_PEN_HPP
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "description.hpp"
@@ -54,8 +55,8 @@ public:
     State state() const { return {place_, style_, inLines_, size_}; }
     void returnTo(const State& state);
 
-    void moveTo(Place to);
-    std::size_t distance(Place to) const; // the bytes of that
+    // False, and nothing written, where that takes more bytes.
+    bool moveTo(Place to, std::size_t nMost = SIZE_MAX);
 
     void wear(const Style& style);
     void useLines(bool inLines); // the second alphabet, or the first one

@@ -26,8 +26,15 @@ ScreenRow next; // as it is to be
 ScreenRow seen; // as the terminal shows it
 int nFirstDue;  // rows that were looked at
 int nLastDue;
-int nFirstChanged; // columns that differ for curses in any row
-int nLastChanged;
+
+// Columns that differ for curses, row by row; those far below share them.
+struct Columns {
+    int nFirst;
+    int nLast;
+};
+constexpr int kRows = 64;
+Columns changed[kRows];
+
 Place cursor = kNowhere;
 Place believed = kNowhere; // where curses takes it to be
 Style worn;
@@ -62,7 +69,12 @@ bool isNew(int nY)
 
 bool isDue(int nY)
 {
-    return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isNew(nY) || isCleared();
+    return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isNew(nY);
+}
+
+Columns& changedIn(int nY)
+{
+    return changed[std::min(nY, kRows - 1)];
 }
 
 void touchRows(WINDOW* win, const Scroll& rows, bool touched)
@@ -185,7 +197,7 @@ bool paintCells(Layers* layers)
         nBottom = -1;
     }
     for (int y = 0; y < LINES; ++y) {
-        if (!isDue(y) || (layers && layers->now() > 0 && (y < nTop || y > nBottom)))
+        if (!(cleared || isDue(y)) || (layers && layers->now() > 0 && (y < nTop || y > nBottom)))
             continue;
         nFirstDue = std::min(nFirstDue, y);
         nLastDue = std::max(nLastDue, y);
@@ -196,8 +208,9 @@ bool paintCells(Layers* layers)
             continue;
         nTop = std::min(nTop, y);
         nBottom = std::max(nBottom, y);
-        nFirstChanged = std::min(nFirstChanged, painter.firstChanged());
-        nLastChanged = std::max(nLastChanged, painter.lastChanged());
+        Columns& columns = changedIn(y);
+        columns.nFirst = std::min(columns.nFirst, painter.firstChanged());
+        columns.nLast = std::max(columns.nLast, painter.lastChanged());
     }
     return true;
 }
@@ -236,24 +249,22 @@ bool paintRows()
 {
     nFirstDue = LINES;
     nLastDue = -1;
-    nFirstChanged = COLS;
-    nLastChanged = -1;
     paintScroll();
-    if (isCleared()) {
-        nFirstChanged = 0;
-        nLastChanged = COLS - 1;
-    }
-    return (!isCleared() || paintClear()) && paintInFewestBytes();
+    const bool cleared = isCleared();
+    std::fill_n(changed, kRows, cleared ? Columns{0, COLS - 1} : Columns{COLS, -1});
+    return (!cleared || paintClear()) && paintInFewestBytes();
 }
 
 // Tells curses what the terminal shows now.
 void note()
 {
+    const bool cleared = isCleared();
     for (int y = nFirstDue; y <= nLastDue; ++y) {
-        if (!isDue(y))
+        if (!cleared && !isDue(y))
             continue;
-        if (nFirstChanged <= nLastChanged)
-            copywin(newscr, curscr, y, nFirstChanged, y, nFirstChanged, y, nLastChanged, FALSE);
+        const auto [nFirst, nLast] = changedIn(y);
+        if (nFirst <= nLast)
+            copywin(newscr, curscr, y, nFirst, y, nFirst, y, nLast, FALSE);
         wtouchln(newscr, y, 1, 0);
         wtouchln(curscr, y, 1, 0);
     }

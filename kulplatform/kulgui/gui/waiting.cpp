@@ -157,7 +157,7 @@ int kul::awaitKey()
     keysTurn = !(typed && keysTurn) && runDue(lines + 1, nLines - 1);
     if (keysTurn || !typed || (isEdition2() && isPassDue()))
         return 0;
-    return readKey(0);
+    return readKey(lines[0].revents != 0 ? kTyped : 0);
 }
 
 int kulgui_setTimer(int nMilliseconds, KULCALLBACK onTime)
