@@ -431,6 +431,11 @@ KULGUI_API int kulgui_keepScreen(int bKeep);
  * terminal draws best. Returns KUL_OK, KUL_ERROR for another bAscii. */
 KULGUI_API int kulgui_setAsciiLines(int bAscii);
 
+/** With T, the bar on the cursor's row of check lists and option lists is over the marker alone, so
+ * that a move costs the same few bytes however long the texts are; F, the start: over the row. For
+ * lists of both editions that are drawn after it. Returns KUL_OK, KUL_ERROR for another bMarker. */
+KULGUI_API int kulgui_setMarkerBars(int bMarker);
+
 /** These four do nothing and return KUL_OK. */
 KULGUI_API int kulgui_exit(void);
 KULGUI_API int kulgui_hasExited(void);

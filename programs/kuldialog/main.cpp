@@ -219,6 +219,7 @@ int main(int argc, char** argv)
         return 0;
     }
     kulgui_setEdition(2);
+    kulgui_setMarkerBars(T);
     readColors();
     static Program program(argc, argv); // what it keeps, it keeps to the end
     return program.run();

@@ -27,10 +27,9 @@ bool directoriesOnly = false;
 
 int wanted(const dirent* entry)
 {
-    const bool hidden = entry->d_name[0] == '.' && std::strcmp(entry->d_name, "..") != 0;
     const bool maybeDirectory =
         entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN;
-    return !hidden && (maybeDirectory || !directoriesOnly);
+    return std::strcmp(entry->d_name, ".") != 0 && (maybeDirectory || !directoriesOnly);
 }
 
 int inOrder(const dirent** one, const dirent** other)

@@ -97,4 +97,5 @@
     K(AttachLineComponentToDI, ConfigLineComponent, WipeLineComponent)
     K(AttachLabelComponentToDI, ConfigLabelComponent, WipeLabelComponent)
     C(kulgui_setAsciiLines)
+    C(kulgui_setMarkerBars)
     // clang-format on

@@ -238,6 +238,11 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     EXPECT_EQ(kultest::colors(win, 2, 1, 6, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}, {'d', BLUE_WHITE}}),
               (Rows{"..................", ".ddd.dd...........", ".ffffffffffffffff.", "..................",
                     ".........dddddddd.", ".........dddddddd."}));
+    EXPECT_EQ(kulgui_setMarkerBars(2), KUL_ERROR);
+    kulgui_setMarkerBars(T);
+    kulgui_show(1);
+    EXPECT_EQ(kultest::colors(win, 4, 1, 1, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}}), Rows{".fff.............."});
+    kulgui_setMarkerBars(F);
     kulgui_show(0);
     EXPECT_EQ(kultest::cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
     EXPECT_EQ(kulgui_setEdition(3), -1);
@@ -256,6 +261,12 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     EXPECT_EQ(menuAlone().pair, BLACK_CYAN);
     const kultest::NoColors none;
     EXPECT_EQ(menuAlone().attributes, A_UNDERLINE);
+    run({});
+    EXPECT_EQ(kultest::cellOf(window(1), 3, 9).attributes, A_REVERSE);
+    auto* menu = static_cast<KULDYNMENU*>(GetUIComponentByRef(1, 1)->Pointer);
+    menu->nColorFocus = menu->nColorUnfocus;
+    kulgui_show(1);
+    EXPECT_EQ(kultest::cellOf(window(1), 3, 9).attributes, A_NORMAL) << "who gives both one look wants no mark";
 }
 
 } // namespace

@@ -182,10 +182,19 @@ bool hasOwnScreen()
     return ownScreen;
 }
 
-void clearScreen()
+void endScreen(bool keeps)
 {
-    if (!ownScreen)
+    const bool stays = keeps && !ownScreen && codes().known && has_colors();
+    if (!keeps && !ownScreen)
         writeAll(leaving.text, nClearing);
+    // Where curses takes the terminal's colours for its own, it does not go to the last row twice.
+    if (stays)
+        assume_default_colors(-1, -1);
+    endwin();
+    if (stays) {
+        writeAll("\033[K", 3);
+        assume_default_colors(COLOR_WHITE, COLOR_BLACK);
+    }
 }
 
 void enterScreen()

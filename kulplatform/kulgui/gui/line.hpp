@@ -48,9 +48,10 @@ Controls passingControls();
 // Whether leaving brings back what was there before, on a screen of its own.
 bool hasOwnScreen();
 
-// Clears the screen in the terminal's own colours, unless leaving it brings back what was there
-// before. The cursor is left to curses.
-void clearScreen();
+// Ends curses' hold on the terminal. The screen is cleared in the terminal's own colours, unless
+// leaving it brings back what was there before; or it keeps all but its last row, where the cursor
+// goes.
+void endScreen(bool keeps);
 
 // The bytes that enter it again.
 void enterScreen();

@@ -34,9 +34,7 @@ void leaveScreen(State next)
     echo();
     if (kul::resumed()) // without curses, which shows no cursor that it has not hidden
         curs_set(0);
-    if (!keepsScreen)
-        kul::clearScreen();
-    endwin();
+    kul::endScreen(keepsScreen);
     kul::giveBackSignals();
 }
 

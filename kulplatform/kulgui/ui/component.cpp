@@ -123,8 +123,10 @@ void show(GUI* gui, UI* ui, bool focused)
         kul::showComponent(gui->winMain, area.nY, area.nX, area.nHeight, area.nWidth);
     }
     {
-        const int nColor = focused ? kind->colors(ui->Pointer).nFocus : kul::FocusMark::kNone;
-        const kul::FocusMark mark(nColor);
+        // In edition 2 a program that gives both the same colours wants no mark.
+        const kul::UIColors& colors = kind->colors(ui->Pointer);
+        const bool same = colors.nFocus == colors.nUnfocus && kul::isEdition2();
+        const kul::FocusMark mark(focused && !same ? colors.nFocus : kul::FocusMark::kNone);
         kind->show(gui, ui->Pointer, focused ? 1 : 0);
     }
     if (dialog && ui->nType == BUTTON && ui->nRef == dialog->nDefault)

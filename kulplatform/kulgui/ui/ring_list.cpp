@@ -6,6 +6,20 @@
 #include "../gui/screen.hpp"
 #include "../gui/text.hpp"
 
+namespace {
+
+bool marksMarkers = false; // the cursor's bar is over the marker alone
+
+} // namespace
+
+int kulgui_setMarkerBars(int bMarker)
+{
+    if (bMarker != T && bMarker != F)
+        return KUL_ERROR;
+    marksMarkers = bMarker == T;
+    return KUL_OK;
+}
+
 namespace kul {
 
 void dropRing(const List& list)
@@ -58,11 +72,16 @@ void drawScrollbar(GUI& gui, const List& list)
 }
 
 // In edition 2 the cursor's element is one bar over the box, up to the scroll bar where that stands
-// inside of it, and the terminal's cursor is on its first letter.
+// inside of it, and the terminal's cursor is on its first letter. A bar over the marker is what
+// draws that, with the cursor in it.
 void drawCursorBar(WINDOW* win, const List& list, int nY, int nX, int nHeight)
 {
     if (!isEdition2())
         return;
+    if (marksMarkers) {
+        showCursorAt(win, nY, shifted(nX, 1));
+        return;
+    }
     const int nBar = list.size.nBorder != BORDER && list.size.bScrollbar == T ? 1 : 0;
     for (int i = 0; i < nHeight; ++i)
         hRun(win, shifted(nY, i), nX, textWidth(list) + 4LL - nBar, ' ');
@@ -113,6 +132,7 @@ void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
          ++i) {
         const bool selected = i == list.nCursor;
         const int nColor = colorOf(list, element, focused, selected);
+        const int nTextColor = colorOf(list, element, focused, selected && !marksMarkers);
         const char* szText = list[element].szText;
         const int nTop = shifted(nY, nUsed);
         const int nHeight = i < list.box.nLastShowed ? heightOf(list, element, single) : nRows;
@@ -129,7 +149,7 @@ void drawElements(WINDOW* win, const List& list, bool focused, Marker marker)
                 drawCursorBar(win, list, nTop, nX, nCut);
             drawText(win, nTop, nX, marker(list, shown, static_cast<int>(i)));
         }
-        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nColor, LEFT, szText);
+        NewStrToBox(win, shifted(nX, 4), nTop, textWidth(list), nCut, nTextColor, LEFT, szText);
     }
     if (list.ring)
         list.ring->single = allSingle && nUsed >= nRows ? singleRows(list) : SingleRows{};
