@@ -232,15 +232,6 @@ void Terminal::press(std::string_view bytes, int quiet)
     send(bytes);
 }
 
-void Terminal::sendSlowly(std::string_view bytes, int gap)
-{
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        for (const Deadline next(i ? gap : 0); next.left() > 0 && running();)
-            pump(next.left());
-        send(bytes.substr(i, 1));
-    }
-}
-
 void Terminal::paste(std::string_view bytes, int bytesASecond)
 {
     const int flags = fcntl(line_.get(), F_GETFL);

@@ -58,7 +58,6 @@ public:
     // come to rest first, send() does not.
     void press(std::string_view bytes, int quiet = kQuiet);
     void send(std::string_view bytes);
-    void sendSlowly(std::string_view bytes, int gap); // with a gap between each two bytes
 
     // Sends more than the line holds, and reads meanwhile; both as a line of so many bytes a second
     // does, or as fast as the program takes it. Stops when the program ends.

@@ -48,6 +48,15 @@ std::string look(const Emulator& screen, int y, int x, int height, int width)
     return text;
 }
 
+// A key that changes nothing, and what follows when all is at rest again.
+std::string silence(Terminal& terminal)
+{
+    terminal.mark();
+    terminal.send("x");
+    EXPECT_TRUE(terminal.settle());
+    return terminal.received();
+}
+
 TEST(Screen, MovesTheFocusForFewBytes)
 {
     struct Row {
@@ -70,6 +79,7 @@ TEST(Screen, MovesTheFocusForFewBytes)
                 EXPECT_LE(terminal.received().size(), row.nMost);
                 EXPECT_EQ(terminal.paintedMost(), 1);
             }
+            EXPECT_EQ(silence(terminal), "");
         }
     }
 }
@@ -89,23 +99,8 @@ TEST(Screen, ShowsTheCursorWhereTheUserIs)
             EXPECT_TRUE(terminal.cursor().visible);
             ASSERT_NO_FATAL_FAILURE(press(terminal, "\t"));
         }
-        terminal.mark();
-        terminal.send("x");
-        ASSERT_TRUE(terminal.settle());
-        EXPECT_EQ(terminal.received(), "");
+        EXPECT_EQ(silence(terminal), "");
     }
-}
-
-TEST(Screen, WritesNothingForAKeyThatChangesNothing)
-{
-    Terminal terminal(program("dialogs", {"desktop", "behind"}));
-    ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
-    terminal.mark();
-    terminal.send("x");
-    ASSERT_TRUE(terminal.settle());
-    EXPECT_EQ(terminal.received(), "");
-    ASSERT_NO_FATAL_FAILURE(press(terminal, "\r"));
-    EXPECT_NE(terminal.text().find("drawn"), std::string::npos);
 }
 
 TEST(Screen, WritesNothingForPollsThatChangeNothing)
@@ -240,7 +235,7 @@ TEST(Screen, TakesAPasteWhole)
 
 TEST(Screen, SendsWholeScreensToASlowReader)
 {
-    Launch launch = program("flood");
+    Launch launch = program("keys", {"flood"});
     launch.columns = 300;
     launch.rows = 80;
     Terminal terminal(launch);
@@ -252,28 +247,6 @@ TEST(Screen, SendsWholeScreensToASlowReader)
         for (int x = 0; x < terminal.columns(); ++x)
             ASSERT_EQ(terminal.cell(y, x).glyph, expected(y, x)) << y << ' ' << x;
     }
-}
-
-TEST(Screen, FillsATerminalThatReportsNoSize)
-{
-    Launch launch = program("dialogs", {"desktop"});
-    launch.columns = 80;
-    launch.rows = 24;
-    launch.withoutSize = true;
-    Terminal terminal(launch);
-    ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
-    EXPECT_EQ(look(terminal, 1, 79, 2, 1) + look(terminal, 23, 79, 1, 1), "─\n6\n6\n");
-}
-
-// As by the terminal's own string for all attributes, which curses is not given.
-TEST(Screen, StandsOutBold)
-{
-    Launch launch = program("dialogs", {"desktop"});
-    launch.term = "vt100";
-    Terminal terminal(launch);
-    ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
-    EXPECT_TRUE(terminal.cell(1, 59).reverse && terminal.cell(1, 59).bold) << "the line below the title";
-    EXPECT_FALSE(terminal.cell(3, 59).reverse || terminal.cell(3, 59).bold);
 }
 
 } // namespace

@@ -189,6 +189,9 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         ASSERT_TRUE(terminal.waitForText("count 0"));
         ASSERT_TRUE(terminal.settle());
         EXPECT_FALSE(terminal.cursor().visible && GetParam() != std::string("vt100"));
+        const Cell line = terminal.cell(1, terminal.columns() - 1);
+        EXPECT_EQ(line.glyph, "─") << "below the title, to the edge";
+        EXPECT_TRUE(line.bold || GetParam() != std::string("vt100")) << "standing out as its description says";
         EXPECT_FALSE(Line(terminal).hasModesOf(before));
 
         way.act(terminal);
@@ -378,83 +381,33 @@ TEST(Unusable, IsToldAndNothingElse)
     }
 }
 
-// A program that shows the keys which the library reads.
-class Keys : public testing::Test {
-protected:
-    Keys() : terminal_(script("exec \"$@\"", "keys")) {}
-    void SetUp() override { ASSERT_TRUE(terminal_.waitForText("ready") && terminal_.settle()); }
-
-    // Whether this is the very next key that the program reads; leaves it at rest.
-    bool next(int code)
-    {
-        const std::string wanted = std::to_string(++count_) + ": " + std::to_string(code) + '.';
-        return terminal_.waitFor([&] { return number() >= count_; }) && terminal_.settle() &&
-               terminal_.row(0) == wanted;
-    }
-
-    int number() const { return std::atoi(terminal_.row(0).c_str()); }
-
-    Terminal terminal_;
-    int count_ = 0;
-};
-
-// clang-format off
-const struct {
-    std::string bytes;
-    int code;
-    bool together = false; // means something else when it comes byte by byte
-} kKeys[] = {
-    {"\r", 13}, {"\033", 27}, {"\003", 3}, {"\023", 19}, {"\310", -56},
-    {"\033[OP", 1000}, {"\033[[E", 1004}, {"\033[24~", 1011}, {"\033[A", 1019},
-    {"\033\033[17~", 1005}, // as long as a key may be
-    {"\033OP", 0}, {"\033[1;5A", 0}, // unknown
-    {"\033[?1;2c", 0}, {"\033[24;80R", 0}, {"\033P1$r0m\033\\", 0}, // answers of a terminal
-    {"ab", 0, true}, {"abcdefgh", 0, true}, // typed ahead
-    {"\033[A\033[B", 1019, true}, {"\033[A\033[1;5B", 1019, true},
-};
-// clang-format on
-
-TEST_F(Keys, AreReadFromBytesThatComeTogetherOrOnASlowLine)
-{
-    // A busy machine may stretch a gap until it is the end of a key: then the key comes again.
-    constexpr int kTries = 10;
-    for (const int gap : {0, 10}) {
-        for (const auto& key : kKeys) {
-            SCOPED_TRACE(testing::PrintToString(key.bytes));
-            for (int tries = gap && key.together ? 0 : kTries; tries > 0; --tries) {
-                gap ? terminal_.sendSlowly(key.bytes, gap) : terminal_.send(key.bytes);
-                if (next(key.code))
-                    break;
-                EXPECT_GT(gap ? tries : 1, 1) << terminal_.row(0);
-                count_ = number();
-            }
-            terminal_.send("z"); // and nothing is left of it
-            EXPECT_TRUE(next('z')) << terminal_.row(0);
-        }
-    }
-}
-
-TEST(Keys2, KnowTheTerminalAndAreReadOneByOne)
+TEST(Keys, ComeAsTheyAreTyped)
 {
     const struct {
-        const char* term;
+        const char *term, *words;
         std::string bytes;
-        int count;
+        int count; // that the program reads
         int last;
     } rows[] = {
-        {"linux", "\033\t", 1, 1022}, // as its description has it; elsewhere Tab
-        {"xterm-256color", "\033\t", 1, '\t'},
-        {"vt100", "\033Ot", 1, 1004},
-        {"xterm-256color", "ab\033[1;5A\033[?1;2c\033[24~\033", 5, 27},
-        {"xterm-256color", std::string(3000, 'a') + 'b', 3001, 'b'},
+        {"linux", "keys", "\003", 1, 3}, // which ends, stops or shifts nothing here
+        {"linux", "keys", "\023", 1, 19},
+        {"linux", "keys", "\310", 1, -56},
+        {"linux", "keys", "\033\033[17~", 1, 1005},
+        {"linux", "keys", "\033P1$r0m\033\\", 1, 0},
+        {"linux", "keys 2", "\033\t", 1, 1022}, // as its description has it; elsewhere Tab
+        {"xterm-256color", "keys 2", "\033\t", 1, '\t'},
+        {"vt100", "keys 2", "\033Ot", 1, 1004},
+        {"xterm-256color", "keys 2", "ab\033[1;5A\033[?1;2c\033[24~\033", 5, 27},
+        {"xterm-256color", "keys 2", std::string(3000, 'a') + 'b', 3001, 'b'},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.term + testing::PrintToString(row.bytes.substr(0, 20)));
-        Terminal terminal(script("exec \"$@\"", "keys 2", row.term));
+        Terminal terminal(script("exec \"$@\"", row.words, row.term));
         ASSERT_TRUE(terminal.waitForText("ready") && terminal.settle());
         terminal.send(row.bytes);
         const std::string wanted = std::to_string(row.count) + ": " + std::to_string(row.last) + '.';
-        EXPECT_TRUE(terminal.waitFor([&] { return terminal.row(0) == wanted; })) << terminal.row(0);
+        EXPECT_TRUE(terminal.waitFor([&] { return terminal.row(0) == wanted; }) && terminal.settle());
+        EXPECT_EQ(terminal.row(0), wanted) << "and nothing is left";
     }
 }
 

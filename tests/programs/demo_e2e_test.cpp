@@ -13,20 +13,16 @@ Launch demo(const char* term)
 {
     Launch launch;
     launch.argv = {KULGUI_DEMO};
-    launch.environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC};
+    launch.environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC, "LC_ALL=C.UTF-8"};
     launch.term = term;
     return launch;
 }
 
-// Opens the page and turns to the second of its facts.
-void openItems(Terminal& terminal)
+void press(Terminal& terminal, std::initializer_list<const char*> keys)
 {
     ASSERT_TRUE(terminal.waitForText("Quit"));
-    terminal.press(*keyBytes("down"));
-    terminal.press("\r");
-    ASSERT_TRUE(terminal.waitForText("Display items"));
-    terminal.press("\r");
-    ASSERT_TRUE(terminal.waitForText("Memory that nobody uses"));
+    for (const char* key : keys)
+        terminal.press(keyBytes(key).value_or(key));
     ASSERT_TRUE(terminal.settle());
 }
 
@@ -36,9 +32,7 @@ TEST(Demo, FitsItsPagesToASmallScreen)
     launch.columns = 40;
     launch.rows = 12;
     Terminal terminal(launch);
-    ASSERT_TRUE(terminal.settle());
-    terminal.press("A");
-    terminal.press("\r");
+    press(terminal, {"A", "enter"});
     EXPECT_TRUE(terminal.waitForText("Host name")) << terminal.text();
     EXPECT_NE(terminal.text().find("│ Back │ │ Quit │"), std::string::npos) << terminal.text();
 }
@@ -46,7 +40,7 @@ TEST(Demo, FitsItsPagesToASmallScreen)
 TEST(Demo, ShowsItsItems)
 {
     Terminal terminal(demo("xterm-256color"));
-    ASSERT_NO_FATAL_FAILURE(openItems(terminal));
+    press(terminal, {"down", "enter", "enter"});
     EXPECT_EQ(terminal.row(0), "gateway   6.1.0-32-arm64   up 26:03:04   load1 0.75   mem 50 %");
     EXPECT_EQ(terminal.row(8), "    │ │(router@example) (gcc 12.2.0, GNU ld    │  │▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒│ │");
     EXPECT_EQ(terminal.row(15), "    │ MemTotal   MemFree   Cached   Dirty                                  │");
@@ -57,12 +51,8 @@ TEST(Demo, SpeaksFourLanguages)
 {
     for (const char* term : {"xterm-256color", "linux", "tmux"}) {
         SCOPED_TRACE(term);
-        Launch launch = demo(term);
-        launch.environment.push_back("LC_ALL=C.UTF-8");
-        Terminal terminal(launch);
-        ASSERT_TRUE(terminal.waitForText("Quit"));
-        for (const char* key : {"l", "\r", "\033[B", "\033[B", " ", "\t", "Z", "o", "ë", " ", "李"})
-            terminal.press(key);
+        Terminal terminal(demo(term));
+        press(terminal, {"l", "enter", "down", "down", " ", "tab", "Z", "o", "ë", " ", "李"});
         ASSERT_TRUE(terminal.waitForText("你好，Zoë 李！")) << terminal.text();
         EXPECT_EQ(terminal.row(6), "          │ │( ) Deutsch   │  │应用更改后，设备将重新启动。请不要  │ │");
         EXPECT_EQ(terminal.row(12), "          │ 姓名      Zoë 李                                         │");
@@ -73,10 +63,7 @@ TEST(Demo, SpeaksFourLanguages)
 TEST(Demo, QuitsFromAPageInAFewBytes)
 {
     Terminal terminal(demo("xterm-256color"));
-    ASSERT_TRUE(terminal.waitForText("Quit"));
-    for (const char* key : {"down", "down", "enter", "tab", "right"})
-        terminal.press(*keyBytes(key));
-    ASSERT_TRUE(terminal.waitForText("Back") && terminal.settle());
+    press(terminal, {"down", "down", "enter", "tab", "right"});
     terminal.mark();
     terminal.press("\r");
     EXPECT_EQ(terminal.wait(), 0);

@@ -19,7 +19,6 @@ enum { DESKTOP, MAIN, BEHIND, THIRD };
 
 static int desktop;
 static int behind;
-static int third;
 
 static void addButton(int chain, int ref, const char* text, KULCALLBACK onClick)
 {
@@ -46,12 +45,18 @@ static void count(void)
         addButton(MAIN, 3, "polled", NULL);
 }
 
-static void addList(int chain, int ref)
+static void addDialog(int ref, int color, const char* title, int x, int y, int width, int height, KULCALLBACK onPoll)
 {
-    kulcheckbox_create(chain, ref);
-    kulcheckbox_config(chain, ref, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, 2, 1, 30, 12, BORDER, NULL, NULL, NULL, NULL);
-    for (int i = 0; i < 10; ++i)
-        kulcheckbox_addElement(chain, ref, "Element", 0, 1, NULL, NULL);
+    kulgui_create(ref);
+    kulgui_config(ref, color, KUL_KEEP, KUL_KEEP, KUL_KEEP, title, BORDER, x, y, width, height, NULL, onPoll, NULL,
+                  NULL, NULL);
+}
+
+static int has(char** words, const char* word)
+{
+    while (*words && strcmp(*words, word) != 0)
+        ++words;
+    return *words != NULL;
 }
 
 static int showFile(const char* name)
@@ -68,37 +73,26 @@ static int showFile(const char* name)
 
 int main(int argc, char** argv)
 {
-    int list = 0;
-    int poll = 0;
-    int text = 0;
-    for (int i = 1; i < argc; ++i) {
-        desktop |= strcmp(argv[i], "desktop") == 0;
-        behind |= strcmp(argv[i], "behind") == 0;
-        third |= strcmp(argv[i], "third") == 0;
-        list |= strcmp(argv[i], "list") == 0;
-        text |= strcmp(argv[i], "text") == 0;
-        poll |= strcmp(argv[i], "poll") == 0;
-        if (strcmp(argv[i], "second") == 0)
-            kulgui_setEdition(2);
-        if (argv[i][0] == '/')
-            return showFile(argv[i]);
-    }
+    const KULCALLBACK onPoll = has(argv, "poll") ? nothing : NULL;
+    desktop = has(argv, "desktop");
+    behind = has(argv, "behind");
+    if (has(argv, "second"))
+        kulgui_setEdition(2);
+    if (argc > 1 && argv[argc - 1][0] == '/')
+        return showFile(argv[argc - 1]);
     kulgui_create(DESKTOP);
-    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL,
-                       poll && desktop ? nothing : NULL, NULL, NULL, NULL);
-    kulgui_create(BEHIND);
-    kulgui_config(BEHIND, BLACK_GREEN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Behind", BORDER, 2, 3, 16, 10, NULL,
-                  poll ? nothing : NULL, NULL, NULL, NULL);
-    kulgui_create(THIRD);
-    kulgui_config(THIRD, BLACK_RED, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Third", BORDER, 4, 6, 12, 8, NULL,
-                  poll ? nothing : NULL, NULL, NULL, NULL);
-    kulgui_create(MAIN);
-    kulgui_config(MAIN, BLACK_WHITE, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Main", BORDER, 10, 4, 40, 14, NULL,
-                  poll ? count : NULL, NULL, NULL, NULL);
+    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, desktop ? onPoll : NULL,
+                       NULL, NULL, NULL);
+    addDialog(BEHIND, BLACK_GREEN, "Behind", 2, 3, 16, 10, onPoll);
+    addDialog(THIRD, BLACK_RED, "Third", 4, 6, 12, 8, onPoll);
+    addDialog(MAIN, BLACK_WHITE, "Main", 10, 4, 40, 14, onPoll ? count : NULL);
     addButton(BEHIND, 1, "Lost", NULL);
-    if (list) {
-        addList(MAIN, 1);
-    } else if (text) {
+    if (has(argv, "list")) {
+        kulcheckbox_create(MAIN, 1);
+        kulcheckbox_config(MAIN, 1, WHITE_BLUE, BLUE_WHITE, KUL_KEEP, 2, 1, 30, 12, BORDER, NULL, NULL, NULL, NULL);
+        for (int i = 0; i < 10; ++i)
+            kulcheckbox_addElement(MAIN, 1, "Element", 0, 1, NULL, NULL);
+    } else if (has(argv, "text")) {
         kultextbox_create(MAIN, 1);
         kultextbox_config(MAIN, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 1, 32, 10, BORDER, NOMASK, NULL, NULL, NULL, NULL);
     } else {
@@ -113,7 +107,7 @@ int main(int argc, char** argv)
         kulgui_show(DESKTOP);
     if (behind)
         kulgui_show(BEHIND);
-    if (third)
+    if (has(argv, "third"))
         kulgui_show(THIRD);
     kulgui_exec(MAIN);
     return 0;

@@ -2,8 +2,6 @@
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
-#include <sys/wait.h>
-#include <system_error>
 
 #include "picture.hpp"
 #include "terminal.hpp"
@@ -11,19 +9,6 @@
 using namespace kultools;
 
 namespace {
-
-Launch shell(const std::string& script, const std::string& term = "xterm-256color")
-{
-    return {.argv = {"sh", "-c", script}, .columns = 20, .rows = 4, .term = term};
-}
-
-// The first row of the screen after the script.
-std::string shown(Launch launch)
-{
-    Terminal terminal(launch);
-    EXPECT_EQ(terminal.wait(), 0);
-    return terminal.row(0);
-}
 
 TEST(Emulator, DrawsTheLinesOfEachTerminal)
 {
@@ -46,25 +31,11 @@ TEST(Emulator, DrawsTheLinesOfEachTerminal)
     for (const auto& row : rows) {
         for (const char* locale : {"LC_ALL=C", "LC_ALL=C.UTF-8"}) {
             SCOPED_TRACE(std::string(row.term) + ' ' + locale + ' ' + row.script);
-            Launch launch = shell(row.script, row.term);
-            launch.environment = {locale};
-            EXPECT_EQ(shown(launch), row.screen);
+            Terminal terminal({.argv = {"sh", "-c", row.script}, .term = row.term, .environment = {locale}});
+            EXPECT_EQ(terminal.wait(), 0);
+            EXPECT_EQ(terminal.row(0), row.screen);
         }
     }
-}
-
-TEST(Emulator, TellsColoursAndAttributes)
-{
-    Emulator screen(20, 2, "xterm-256color");
-    screen.feed("\033[1;31;44mA\033[0;38;5;208;7;4mB\033[0;93;5mC\033[0mD\033[?25l");
-    EXPECT_EQ(screen.cell(0, 0), (Cell{.glyph = "A", .foreground = 1, .background = 4, .bold = true}));
-    EXPECT_EQ(screen.cell(0, 1), (Cell{.glyph = "B", .foreground = 208, .underline = true, .reverse = true}));
-    EXPECT_EQ(screen.cell(0, 2), (Cell{.glyph = "C", .foreground = 11, .blink = true}));
-    EXPECT_EQ(screen.cell(0, 3), Cell{.glyph = "D"});
-    EXPECT_EQ(screen.cell(0, 20), Cell{});
-    EXPECT_EQ(screen.row(0, Blanks::Keep), "ABCD                ");
-    EXPECT_EQ(screen.cursor().column, 4);
-    EXPECT_FALSE(screen.cursor().visible);
 }
 
 TEST(Emulator, CountsWhatIsPaintedOnAScreenOfAnySize)
@@ -73,40 +44,15 @@ TEST(Emulator, CountsWhatIsPaintedOnAScreenOfAnySize)
     screen.feed("abc");
     screen.mark();
     EXPECT_EQ(screen.paintedMost(), 0);
-    screen.feed("\rab"); // the same glyphs in the same look are painted all the same
-    EXPECT_EQ(screen.received(), "\rab");
-    EXPECT_EQ(screen.painted(0, 0), 1);
-    EXPECT_EQ(screen.painted(0, 2), 0);
-    screen.feed("\r\033[K"); // and so is what is erased
+    screen.feed("\rab\r\033[K"); // the same in the same look is painted as well, and so is what is erased
     EXPECT_EQ(screen.paintedMost(), 2);
     EXPECT_EQ(screen.painted(0, 19), 1);
     EXPECT_EQ(screen.painted(1, 0), 0);
-
     EXPECT_THROW(Emulator(0, 24, "linux"), std::invalid_argument);
     EXPECT_THROW(Emulator(80, 1001, "linux"), std::invalid_argument);
     Emulator dot(1, 1, "linux");
     dot.feed("abc\n\033[5;5Hx");
     EXPECT_EQ(dot.text(), "x\n");
-}
-
-TEST(Terminal, PassesKeysAndTellsHowTheProgramEnded)
-{
-    Terminal typed(shell("read line; echo \"<$line>\"; exit 7"));
-    EXPECT_EQ(typed.wait(0), std::nullopt);
-    typed.press("ab");
-    typed.sendSlowly("cd\r", 1);
-    EXPECT_TRUE(typed.waitForText("<abcd>"));
-    EXPECT_EQ(typed.wait(), W_EXITCODE(7, 0));
-    EXPECT_FALSE(typed.running());
-    EXPECT_FALSE(typed.waitForText("never"));
-}
-
-TEST(Terminal, SetsUpTheProgram)
-{
-    Launch launch = shell("echo $(stty size) $TERM $LINES$COLUMNS $A", "linux");
-    launch.environment = {"A=b=c"};
-    EXPECT_EQ(shown(launch), "4 20 linux b=c");
-    EXPECT_THROW(Terminal({.argv = {"/no/such/program"}}), std::system_error);
 }
 
 TEST(Picture, ShowsTheSameScreen)
