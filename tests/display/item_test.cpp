@@ -7,45 +7,48 @@
 
 namespace {
 
+using namespace kultest;
+
 using Call = int (*)(int nChain, int nRef);
+
+template <auto Config>
+int configured(int nChain, int nRef)
+{
+    return ask(Config, nChain, nRef);
+}
 
 // A kind with what the framework promises of each.
 struct Kind {
-    const char* name;
-    int nType;
-    int nTaken;
-    Call create;
-    Call config;     // with some sensible arguments
+    int nType, nTaken;
+    Call create, config;
     int nConfigured; // nUpdate after that
-    Call show;
-    Call hide;
-    Call update;
+    Call show, hide, update;
+    bool (*refused)(int, int);
 };
 
+// clang-format off
 const Kind kKinds[] = {
-    {"status bar", STATBAR, -10012, kulstatbar_create,
-     [](int c, int r) { return kulstatbar_config(c, r, RED_CYAN, nullptr); }, 1, kulstatbar_show, kulstatbar_hide,
-     nullptr},
-    {"scroll bar", SCROLLBAR, -10016, kulscrollbar_create,
-     [](int c, int r) { return kulscrollbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0, kulscrollbar_show,
-     kulscrollbar_hide, nullptr},
-    {"progress bar", PROGBAR, -10017, kulprogbar_create,
-     [](int c, int r) { return kulprogbar_config(c, r, 1, 2, 3, 4, 5, 6, 7, LATERAL); }, 0, kulprogbar_show,
-     kulprogbar_hide, nullptr},
-    {"description field", DESCRFIELD, -10012, kuldescrfield_create,
-     [](int c, int r) { return kuldescrfield_config(c, r, 1, 2, 3, 4, 5, 6, 7); }, 1, nullptr, nullptr,
-     kuldescrfield_update},
-    {"box", BOX, -10013, kulbox_create, [](int c, int r) { return kulbox_config(c, r, RED_CYAN, 1, 1, 5, 3, BORDER); },
-     0, kulbox_show, kulbox_hide, kulbox_update},
-    {"line", LINE, -10014, kulline_create,
-     [](int c, int r) { return kulline_config(c, r, RED_CYAN, 1, 1, 5, ENDS, LATERAL); }, 0, kulline_show, kulline_hide,
-     kulline_update},
-    {"label", LABEL, -10015, kullabel_create,
-     [](int c, int r) { return kullabel_config(c, r, 1, 2, 1, 1, 8, 3, LEFT, BORDER, "a"); }, 0, kullabel_show,
-     kullabel_hide, kullabel_update},
+    {STATBAR, -10012, kulstatbar_create, configured<kulstatbar_config>, 1, kulstatbar_show, kulstatbar_hide, nullptr,
+     refuse<kulstatbar_config, kulstatbar_addElement, kulstatbar_setElement, kulstatbar_getElement,
+            kulstatbar_remElement>},
+    {SCROLLBAR, -10016, kulscrollbar_create, configured<kulscrollbar_config>, 0, kulscrollbar_show, kulscrollbar_hide,
+     nullptr, refuse<kulscrollbar_config, kulscrollbar_setPosition, kulscrollbar_setByPercent>},
+    {PROGBAR, -10017, kulprogbar_create, configured<kulprogbar_config>, 0, kulprogbar_show, kulprogbar_hide, nullptr,
+     refuse<kulprogbar_config, kulprogbar_setPosition, kulprogbar_setByPercent>},
+    {DESCRFIELD, -10012, kuldescrfield_create, configured<kuldescrfield_config>, 1, nullptr, nullptr,
+     kuldescrfield_update,
+     refuse<kuldescrfield_config, kuldescrfield_addElement, kuldescrfield_setElement, kuldescrfield_selElement,
+            kuldescrfield_remElement>},
+    {BOX, -10013, kulbox_create, configured<kulbox_config>, 0, kulbox_show, kulbox_hide, kulbox_update,
+     refuse<kulbox_config>},
+    {LINE, -10014, kulline_create, configured<kulline_config>, 0, kulline_show, kulline_hide, kulline_update,
+     refuse<kulline_config>},
+    {LABEL, -10015, kullabel_create, configured<kullabel_config>, 0, kullabel_show, kullabel_hide, kullabel_update,
+     refuse<kullabel_config, kullabel_setText>},
 };
+// clang-format on
 
-class ItemTest : public kultest::CanvasTest {
+class ItemTest : public CanvasTest {
 protected:
     ItemTest() : CanvasTest(12, 6) {}
 
@@ -53,8 +56,8 @@ protected:
     static void makeAll()
     {
         for (const Kind& kind : kKinds) {
-            ASSERT_EQ(kind.create(1, kind.nType + 1), 0) << kind.name;
-            ASSERT_EQ(kind.config(1, kind.nType + 1), 0) << kind.name;
+            ASSERT_EQ(kind.create(1, kind.nType + 1), 0) << kind.nType;
+            ASSERT_EQ(kind.config(1, kind.nType + 1), 0) << kind.nType;
         }
     }
 };
@@ -67,7 +70,7 @@ TEST_F(ItemTest, EveryKindIsMadeSetShownAndHidden)
     makeAll();
     int nRef = 0;
     for (const Kind& kind : kKinds) {
-        SCOPED_TRACE(kind.name);
+        SCOPED_TRACE(kind.nType);
         DI* di = GetDIComponentByRef(1, ++nRef);
         ASSERT_TRUE(di && di->Pointer);
         EXPECT_EQ(di->nType, kind.nType);
@@ -92,38 +95,16 @@ TEST_F(ItemTest, EveryKindRefusesUnknownItemsAndOtherKinds)
 {
     const auto isGauge = [](int nType) { return nType == SCROLLBAR || nType == PROGBAR; };
     makeAll();
+    for (const Kind& kind : kKinds)
+        GetDIComponentByRef(1, kind.nType + 1)->nUpdate = -1;
     for (const Kind& kind : kKinds) {
-        EXPECT_EQ(kind.config(1, 99), -1) << kind.name;
-        EXPECT_EQ(kind.config(9, 1), -1) << kind.name;
-        for (const Kind& other : kKinds) {
-            if (other.nType == kind.nType || (isGauge(kind.nType) && isGauge(other.nType)))
-                continue;
-            DI* di = GetDIComponentByRef(1, other.nType + 1);
-            di->nUpdate = -1;
-            EXPECT_EQ(kind.config(1, other.nType + 1), -1) << kind.name << ", " << other.name;
-            EXPECT_EQ(di->nUpdate, -1);
-        }
-    }
-    const struct {
-        Call call;
-        int nType;
-    } calls[] = {
-        {[](int c, int r) { return kulstatbar_addElement(c, r, 0, 5, "t", LEFT, nullptr); }, STATBAR},
-        {[](int c, int r) { return kulstatbar_setElement(c, r, 0, "text"); }, STATBAR},
-        {kulstatbar_remElement, STATBAR},
-        {[](int c, int r) { return kuldescrfield_addElement(c, r, "t", "t"); }, DESCRFIELD},
-        {[](int c, int r) { return kuldescrfield_setElement(c, r, 0, "t", "t"); }, DESCRFIELD},
-        {[](int c, int r) { return kuldescrfield_selElement(c, r, 0); }, DESCRFIELD},
-        {kuldescrfield_remElement, DESCRFIELD},
-        {[](int c, int r) { return kulscrollbar_setPosition(c, r, 1); }, SCROLLBAR},
-        {[](int c, int r) { return kullabel_setText(c, r, "text"); }, LABEL},
-    };
-    for (const auto& row : calls) {
         for (int nType = -1; nType <= LABEL + 1; ++nType) {
-            if (nType != row.nType && !(isGauge(row.nType) && isGauge(nType))) {
-                EXPECT_EQ(row.call(1, nType + 1), -1) << &row - calls << ' ' << nType;
+            if (nType != kind.nType && !(isGauge(kind.nType) && isGauge(nType))) {
+                EXPECT_TRUE(kind.refused(1, nType + 1)) << kind.nType << ", " << nType;
             }
         }
+        EXPECT_TRUE(kind.refused(9, kind.nType + 1));
+        EXPECT_EQ(GetDIComponentByRef(1, kind.nType + 1)->nUpdate, -1);
     }
     EXPECT_EQ(ConfigDIComponent(1, 99), -1);
     EXPECT_EQ(SetDIVisibility(1, 99, T), -1);
@@ -132,9 +113,9 @@ TEST_F(ItemTest, EveryKindRefusesUnknownItemsAndOtherKinds)
 TEST_F(ItemTest, WithoutMemoryIsNotMadeOrHasNoRecord)
 {
     for (const Kind& kind : kKinds) {
-        SCOPED_TRACE(kind.name);
+        SCOPED_TRACE(kind.nType);
         for (const int nGood : {0, 1}) {
-            const kultest::FailingMemory failing(nGood);
+            const FailingMemory failing(nGood);
             EXPECT_EQ(kind.create(1, kind.nType + 1), nGood == 0 ? -10011 : -1);
         }
         EXPECT_EQ(kind.config(1, kind.nType + 1), -1) << "it stays in the list";
@@ -163,6 +144,7 @@ TEST_F(ItemTest, IsWipedUpToTheFirstWithoutRecord)
 TEST_F(ItemTest, UpdatesOnlyWhatChanged)
 {
     makeAll();
+    kulbox_config(1, BOX + 1, RED_CYAN, 1, 1, 5, 3, BORDER);
     UpdateDisplayComponents(gui_);
     for (const Kind& kind : kKinds)
         EXPECT_EQ(GetDIComponentByRef(1, kind.nType + 1)->nUpdate, kind.nConfigured == 1 ? 1 : -1);

@@ -357,30 +357,38 @@ std::string CanvasTest::shades(int nY, int nX, int nHeight, int nWidth) const
         colors(win_, nY, nX, nHeight, nWidth, {{'b', RED_BLUE}, {'w', RED_WHITE}, {'c', RED_CYAN}, {'-', 0}}));
 }
 
-// Calls for another kind do nothing.
-void addComponent(int nType, int nRef, int nX, int nY)
+void addComponent(int nType, int nRef, int nX, int nY, const Callbacks& on)
 {
-    constexpr int k = KUL_KEEP;
-    constexpr KULCALLBACK no = nullptr;
     EXPECT_EQ(CreateUIComponent(1, nType, nRef), 0);
-    kulmenu_config(1, nRef, k, k, k, no, no, no, no);
-    kuldynmenu_config(1, nRef, k, k, k, nX, nY, 10, 2, no, no, no, no);
-    kuldescrmenu_config(1, nRef, k, k, k, k, k, 30, 20, 8, no, no, no, no);
-    kulbutton_config(1, nRef, k, k, k, k, nX, nY, 8, 1, "OK", no, no, no, no);
-    kultoolbar_config(1, nRef, k, k, k, nX, nY, nRef % 2 ? LATERAL : VERTICAL, no, no, no, no);
-    kulcheckbox_config(1, nRef, k, k, k, nX, nY, 18, 5, BORDER, no, no, no, no);
-    kuloptions_config(1, nRef, k, k, k, nX, nY, 18, 5, nRef % 2 ? BORDER : NOBORDER, 0, 0, no, no, no, no);
-    kultextbox_config(1, nRef, k, k, k, nX, nY, 12, 4, BORDER, NOMASK, nullptr, no, no, no);
+    EXPECT_EQ(configComponent(nRef, nX, nY, on), 0);
 }
 
-void addElement(int nRef, const char* szText, int nEnable)
+// Calls for another kind are refused.
+int configComponent(int nRef, int nX, int nY, const Callbacks& on)
 {
-    kulmenu_addElement(1, nRef, szText, nEnable, nullptr, nullptr);
-    kuldynmenu_addElement(1, nRef, szText, nullptr, nullptr, nEnable);
-    kuldescrmenu_addElement(1, nRef, nEnable, szText, "what it means\nand more", nullptr, nullptr);
-    kultoolbar_addButton(1, nRef, szText, 0, nEnable, nullptr, nullptr);
-    kulcheckbox_addElement(1, nRef, szText, 0, nEnable, nullptr, nullptr);
-    kuloptions_addElement(1, nRef, szText, nEnable, nullptr, nullptr);
+    constexpr int k = KUL_KEEP;
+    const auto& [focus, unfocus, select, click] = on;
+    return std::max(
+        {kulmenu_config(1, nRef, k, k, k, focus, unfocus, select, click),
+         kuldynmenu_config(1, nRef, k, k, k, nX, nY, 4, 4, focus, unfocus, select, click),
+         kuldescrmenu_config(1, nRef, k, k, k, k, k, 20, 12, 5, focus, unfocus, select, click),
+         kulbutton_config(1, nRef, k, k, k, k, nX, nY, 8, 1, "OK", focus, unfocus, select, click),
+         kultoolbar_config(1, nRef, k, k, k, nX, nY, nRef % 2 ? LATERAL : VERTICAL, focus, unfocus, select, click),
+         kulcheckbox_config(1, nRef, k, k, k, nX, nY, 18, 5, BORDER, focus, unfocus, select, click),
+         kuloptions_config(1, nRef, k, k, k, nX, nY, 18, 5, nRef % 2 ? BORDER : NOBORDER, 0, 0, focus, unfocus, select,
+                           click),
+         kulfileview_config(1, nRef, k, k, k, nX, nY, 16, 6, BORDER, nullptr, focus, unfocus, select, click),
+         kultextbox_config(1, nRef, k, k, k, nX, nY, 12, 4, BORDER, NOMASK, nullptr, focus, unfocus, select)});
+}
+
+int addElement(int nRef, const char* szText, int nEnable, KULCALLBACK select, KULCALLBACK click)
+{
+    return std::max({kulmenu_addElement(1, nRef, szText, nEnable, select, click),
+                     kuldynmenu_addElement(1, nRef, szText, select, click, nEnable),
+                     kuldescrmenu_addElement(1, nRef, nEnable, szText, "what it means\nand more", select, click),
+                     kultoolbar_addButton(1, nRef, szText, 0, nEnable, select, click),
+                     kulcheckbox_addElement(1, nRef, szText, 0, nEnable, select, click),
+                     kuloptions_addElement(1, nRef, szText, nEnable, select, click)});
 }
 
 void ComponentTest::SetUp()
@@ -397,9 +405,9 @@ void ComponentTest::renew()
     events.clear();
 }
 
-int ComponentTest::press(const std::vector<int>& keys)
+int ComponentTest::press(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions)
 {
-    typeKeys(keys);
+    typeKeys(keys, actions);
     return kul::uiKind(GetUIComponentByRef(1, kRef)->nType)->execKeys(1, kRef);
 }
 

@@ -9,6 +9,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "kulgui.h"
@@ -83,7 +84,7 @@ protected:
     void TearDown() override;
 
     // Adds dialog nChain at the top left corner, standard colours, shown without frame drawn yet.
-    GUI* makeDialog(int nChain, int nWidth = 40, int nHeight = 14);
+    static GUI* makeDialog(int nChain, int nWidth = 40, int nHeight = 14);
 
     // The window of a dialog.
     static WINDOW* window(int nChain);
@@ -121,9 +122,44 @@ Record& record()
     return *static_cast<Record*>(GetUIComponentByRef(1, kRef)->Pointer);
 }
 
-// Adds a component of any kind to dialog 1, without callbacks, and an element to it where it has them.
-void addComponent(int nType, int nRef, int nX, int nY);
-void addElement(int nRef, const char* szText, int nEnable = 1);
+struct Callbacks {
+    KULCALLBACK onFocus, onUnfocus, onSelect, onClick; // onSelect is a text box's onKey
+};
+
+// Adds a component of any kind to dialog 1, sets one up anew, and adds an element where it has them.
+// 0, -1 when it is refused.
+void addComponent(int nType, int nRef, int nX, int nY, const Callbacks& on = {});
+int configComponent(int nRef, int nX, int nY, const Callbacks& on = {});
+int addElement(int nRef, const char* szText, int nEnable = 1, KULCALLBACK onSelect = nullptr,
+               KULCALLBACK onClick = nullptr);
+
+// What a call for a component or an item gives; all else that it takes is 3, a text or nothing.
+template <typename Result, typename... More>
+Result ask(Result (*call)(int, int, More...), int nChain, int nRef)
+{
+    [[maybe_unused]] const auto some = []<typename Type>(Type none) {
+        if constexpr (std::is_same_v<Type, int>)
+            return 3;
+        else if constexpr (std::is_same_v<Type, const char*>)
+            return "x";
+        else
+            return none;
+    };
+    return call(nChain, nRef, some(More{})...);
+}
+
+// Whether all of these calls give -1 or null.
+template <auto... Calls>
+bool refuse(int nChain, int nRef)
+{
+    const auto refused = [](auto result) {
+        if constexpr (std::is_pointer_v<decltype(result)>)
+            return !result;
+        else
+            return result == -1;
+    };
+    return (refused(ask(Calls, nChain, nRef)) && ...);
+}
 
 // What callbacks noted, each with what was selected: "focus0 click2 ".
 inline std::string events;
@@ -142,7 +178,7 @@ protected:
     void renew();
 
     // Gives the component these keys; what its handler returns.
-    static int press(const std::vector<int>& keys);
+    static int press(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions = {});
 
     static Rows shown(int y, int x, int height, int width);
 

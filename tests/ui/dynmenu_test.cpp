@@ -76,32 +76,19 @@ TEST_F(DynmenuTest, ScrollBarAppearsWhenTheListIsLonger)
 TEST_F(DynmenuTest, CutsTextsByTheColumnsOfTheLocale)
 {
     // clang-format off
-    const struct { const char *locale, *szText; std::wstring shown; } rows[] = { // with the frame: x
-        {"C", "a\nb\tc\001d", L"xa b cx"}, {"C", nullptr, L"x     x"}, {"C", "\177del", L"x del x"},
-        {"C", "1234\x01", L"x1234 x"}, {"C", "1234\x80!", L"x1234?x"}, {"C", "much longer", L"xmuch x"},
-        {"C.UTF-8", "\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9", L"x\u00e9\u00e9\u00e9\u00e9\u00e9x"},
-        {"C.UTF-8", "abc\u4e2d\u4e2d", L"xabc\u4e2d\u4e2dx"},
-        {"C.UTF-8", "abcd\u4e2d", L"xabcd x"},
-        {"C.UTF-8", "\u0301a", L"xa    x"}, // the accent is not the frame's
-        {"C.UTF-8", "\xc2\u4e2d\xe4", L"x?\u4e2d\u4e2d? x"},
-        {"C.UTF-8", "abcd\xc2", L"xabcd?x"},
+    const struct { const char *locale, *szText, *shown; } rows[] = { // with the frame
+        {"C", "a\nb\tc\001d", "│a b c│"}, {"C", nullptr, "│     │"}, {"C", "\177del", "│ del │"},
+        {"C", "1234\x01", "│1234 │"}, {"C", "1234\x80!", "│1234?│"}, {"C", "much longer", "│much │"},
+        {"C.UTF-8", "éééééé", "│ééééé│"}, {"C.UTF-8", "abc中中", "│abc中│"}, {"C.UTF-8", "abcd中", "│abcd │"},
+        {"C.UTF-8", "\u0301a", "│a    │"}, // the accent is not the frame's
+        {"C.UTF-8", "\xc2中\xe4", "│?中? │"}, {"C.UTF-8", "abcd\xc2", "│abcd?│"},
     };
     // clang-format on
     for (const auto& row : rows) {
         ASSERT_NE(std::setlocale(LC_CTYPE, row.locale), nullptr);
         fill(5, 1, 5, 1, {row.szText});
         press({});
-        std::wstring cells;
-        for (int x = 5; x < 12; ++x) {
-            cchar_t cell;
-            wchar_t text[CCHARW_MAX + 1] = L"";
-            attr_t attributes;
-            short nPair;
-            mvwin_wch(window(1), 2, x, &cell);
-            getcchar(&cell, text, &attributes, &nPair, nullptr);
-            cells += text;
-        }
-        EXPECT_EQ(cells, row.shown) << row.szText;
+        EXPECT_EQ(letters(window(1), 2, 5, 1, 7), Rows{row.shown}) << row.szText;
     }
     std::setlocale(LC_CTYPE, "C");
     fill(35, 1, 20, 2, {"abcdefgh", "ijklmnop"}); // the window ends first

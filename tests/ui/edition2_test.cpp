@@ -9,12 +9,9 @@
 
 namespace {
 
-using kultest::Rows;
-using kultest::typeKeys;
+using namespace kultest;
 
-std::string events;
-
-void note(const std::string& event)
+void say(const std::string& event)
 {
     events += event + ' ';
 }
@@ -24,31 +21,20 @@ const CURRENT& current()
     return *GetCurrentSelection();
 }
 
-class Edition2Test : public kultest::WindowTest {
+class Edition2Test : public ComponentTest {
 protected:
     void SetUp() override
     {
         ASSERT_EQ(kulgui_setEdition(2), 0);
-        WindowTest::SetUp();
-        makeDialog(1);
-        events.clear();
+        ComponentTest::SetUp();
     }
 
     static void addButton(
-        int nRef, int nX, int nY, KULCALLBACK onClick = [] { note("click"); })
+        int nRef, int nX, int nY, KULCALLBACK onClick = [] { say("click"); })
     {
-        ASSERT_EQ(kulbutton_create(1, nRef), 0);
-        kulbutton_config(
-            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nX, nY, 8, 1, "OK",
-            [] { note("+" + std::to_string(current().nUserInterface)); },
-            [] { note("-" + std::to_string(current().nUserInterface)); }, nullptr, onClick);
-    }
-
-    static void addBox(int nRef)
-    {
-        ASSERT_EQ(kultextbox_create(1, nRef), 0);
-        kultextbox_config(1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 5, 10, 1, NOBORDER, NOMASK, nullptr, nullptr,
-                          nullptr, nullptr);
+        addComponent(BUTTON, nRef, nX, nY,
+                     {[] { say("+" + std::to_string(current().nUserInterface)); },
+                      [] { say("-" + std::to_string(current().nUserInterface)); }, nullptr, onClick});
     }
 
     static std::string run(const std::vector<int>& keys, int nExpected = KUL_LEFT,
@@ -104,9 +90,9 @@ TEST_F(Edition2Test, TheFocusGoesByTabsAndArrows)
 
 TEST_F(Edition2Test, EscapeEnterHotkeysAndOnKey)
 {
-    addBox(1);
+    addComponent(TEXTBOX, 1, 2, 5);
     addButton(2, 2, 2);
-    addButton(3, 12, 2, [] { note("cancel" + std::to_string(current().nUserInterface)); });
+    addButton(3, 12, 2, [] { say("cancel" + std::to_string(current().nUserInterface)); });
     EXPECT_EQ(kulgui_setDefault(1, 1) + kulgui_setCancel(9, 2) + kulgui_setDefault(1, 9), -3);
     EXPECT_EQ(run({KS_ENTER}), "+2 -2 ") << "without a default button on to the next";
     kulgui_setFocus(1, 1);
@@ -122,7 +108,7 @@ TEST_F(Edition2Test, EscapeEnterHotkeysAndOnKey)
     EXPECT_EQ(run({KS_F1, KS_F1, KS_F2, 'x'}), "+3 cancel3 cancel3 -3 ");
     EXPECT_STREQ(kultextbox_getText(1, 1), "x");
     kulgui_setOnKey(1, [] {
-        note("key" + std::to_string(kulgui_getKey()));
+        say("key" + std::to_string(kulgui_getKey()));
         kulgui_setKey(kulgui_getKey() == 'a' ? 'b' : kulgui_getKey() == 'c' ? 0 : kulgui_getKey());
     });
     EXPECT_EQ(run({'a', 'c', KS_F1}), "key97 key99 key1000 +3 cancel3 -3 ");
@@ -147,9 +133,9 @@ constexpr struct {
 
 void addElements(int nType)
 {
-    kultest::addComponent(nType, 1, 1, 1);
+    addComponent(nType, 1, 1, 1);
     for (const char* szText : {"Ab", "ac", "ba", "Bb", "cc"})
-        kultest::addElement(1, szText, szText[1] != 'c' || szText[0] == 'c');
+        addElement(1, szText, szText[1] != 'c' || szText[0] == 'c');
 }
 
 TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
@@ -176,8 +162,7 @@ TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
                 {4, {KS_END, KS_PAGEDOWN}, 4}};
     for (const auto& kind : kKinds) {
         SCOPED_TRACE(kind.nType);
-        kulgui_destroy(1);
-        makeDialog(1);
+        renew();
         addElements(kind.nType);
         EXPECT_EQ(kind.count(1, 1), 5);
         EXPECT_EQ(kind.count(1, 9), -1);
@@ -198,11 +183,10 @@ TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
 TEST_F(Edition2Test, ElementsBeyondTheThirtieth)
 {
     for (const int nType : {CHECKBOX, OPTIONS}) {
-        kulgui_destroy(1);
-        makeDialog(1);
+        renew();
         addElements(nType);
         for (int i = 5; i < 50; ++i)
-            kultest::addElement(1, "more");
+            addElement(1, "more");
         kulgui_select(1, 1, 49);
         run({KS_SPACE});
         if (nType == CHECKBOX) {
@@ -232,41 +216,40 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     kulgui_enable(1, 3, F);
     run({KS_DOWN});
     WINDOW* win = window(1);
-    EXPECT_EQ(kultest::picture(win, 1, 1, 8, 18),
+    EXPECT_EQ(picture(win, 1, 1, 8, 18),
               (Rows{"┌──────────────── ", "│[ ] Ab           ", "│[ ] ac           ", "│[ ] ba           ",
                     "└──────────────── ", "┌──────┐ ┌──────┐ ", "│> OK <│ │  OK  │ ", "└──────┘ └──────┘ "}));
-    EXPECT_EQ(kultest::colors(win, 2, 1, 6, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}, {'d', BLUE_WHITE}}),
+    EXPECT_EQ(colors(win, 2, 1, 6, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}, {'d', BLUE_WHITE}}),
               (Rows{"..................", ".ddd.dd...........", ".ffffffffffffffff.", "..................",
                     ".........dddddddd.", ".........dddddddd."}));
     EXPECT_EQ(kulgui_setMarkerBars(2), KUL_ERROR);
     kulgui_setMarkerBars(T);
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(win, 4, 1, 1, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}}), Rows{".fff.............."});
+    EXPECT_EQ(colors(win, 4, 1, 1, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}}), Rows{".fff.............."});
     kulgui_setMarkerBars(F);
     kulgui_show(0);
-    EXPECT_EQ(kultest::cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
+    EXPECT_EQ(cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
     EXPECT_EQ(kulgui_setEdition(3), -1);
     // what is selected in a menu without the focus
     const auto menuAlone = [this] {
-        kulgui_destroy(1);
-        makeDialog(1);
+        renew();
         addElements(DYNMENU);
         kulgui_select(1, 1, 2);
         GetChain(1)->Pointer->nCurrentUI = -1;
         kulgui_show(1);
-        const kultest::Cell inside = kultest::cellOf(window(1), 3, 9);
-        EXPECT_EQ(kultest::cellOf(window(1), 2, 9).attributes, A_NORMAL);
+        const Cell inside = cellOf(window(1), 4, 5);
+        EXPECT_EQ(cellOf(window(1), 3, 5).attributes, A_NORMAL);
         return inside;
     };
     EXPECT_EQ(menuAlone().pair, BLACK_CYAN);
-    const kultest::NoColors none;
+    const NoColors none;
     EXPECT_EQ(menuAlone().attributes, A_UNDERLINE);
     run({});
-    EXPECT_EQ(kultest::cellOf(window(1), 3, 9).attributes, A_REVERSE);
+    EXPECT_EQ(cellOf(window(1), 4, 5).attributes, A_REVERSE);
     auto* menu = static_cast<KULDYNMENU*>(GetUIComponentByRef(1, 1)->Pointer);
     menu->nColorFocus = menu->nColorUnfocus;
     kulgui_show(1);
-    EXPECT_EQ(kultest::cellOf(window(1), 3, 9).attributes, A_NORMAL) << "who gives both one look wants no mark";
+    EXPECT_EQ(cellOf(window(1), 4, 5).attributes, A_NORMAL) << "who gives both one look wants no mark";
 }
 
 } // namespace

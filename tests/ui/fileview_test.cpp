@@ -11,18 +11,17 @@
 
 namespace {
 
-using kultest::Rows;
-using kultest::TemporaryFile;
+using namespace kultest;
 
-constexpr int kRef = 5;
-
-std::string events;
 const TemporaryFile* theFile;
 
-void note(const char* event)
+void notePlace(const char* event)
 {
     events += event + std::to_string(GetCurrentSelection()->nPosition) + ' ';
 }
+
+const Callbacks kNotes = {[] { notePlace("focus"); }, [] { notePlace("unfocus"); }, [] { notePlace("select"); },
+                          [] { notePlace("click"); }};
 
 std::string lines(int nFirst, int nLast)
 {
@@ -32,24 +31,21 @@ std::string lines(int nFirst, int nLast)
     return text;
 }
 
-class FileviewTest : public kultest::WindowTest {
+class FileviewTest : public ComponentTest {
 protected:
     void SetUp() override
     {
-        WindowTest::SetUp();
-        events.clear();
+        ComponentTest::SetUp();
         theFile = &file_;
-        makeDialog(1);
-        kulgui_show(1);
-        ASSERT_EQ(kulfileview_create(1, kRef), 0);
-        ASSERT_EQ(config(nullptr), 0);
+        addComponent(FILEVIEW, kRef, 2, 2, kNotes);
     }
 
-    static int config(const char* szFileName, int nBorder = BORDER, int nWidth = 16, int nHeight = 6)
+    static int config(const char* szFileName, int nX = 2, int nY = 2, int nWidth = 16, int nHeight = 6,
+                      int nBorder = NOBORDER, int nColor = KUL_KEEP)
     {
-        return kulfileview_config(
-            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, nWidth, nHeight, nBorder, szFileName, [] { note("focus"); },
-            [] { note("unfocus"); }, [] { note("select"); }, [] { note("click"); });
+        const auto& [focus, unfocus, select, click] = kNotes;
+        return kulfileview_config(1, kRef, nColor, nColor, KUL_KEEP, nX, nY, nWidth, nHeight, nBorder, szFileName,
+                                  focus, unfocus, select, click);
     }
 
     int load(const std::string& text)
@@ -58,34 +54,27 @@ protected:
         return kulfileview_load(1, kRef, file_.path().c_str());
     }
 
-    static KULFILEVIEW& view() { return *static_cast<KULFILEVIEW*>(GetUIComponentByRef(1, kRef)->Pointer); }
+    static KULFILEVIEW& view() { return record<KULFILEVIEW>(); }
 
-    static Rows shown()
+    static Rows shown(int nHeight = 6, int nWidth = 16, int nY = 2, int nX = 2)
     {
         kulgui_show(1);
-        return kultest::picture(window(1), 2, 2, 6, 16);
+        return picture(window(1), nY, nX, nHeight, nWidth);
     }
 
     // The texts of the four rows in view, without the blanks behind.
     static Rows text()
     {
-        kulgui_show(1);
-        Rows rows = kultest::picture(window(1), 3, 3, 4, 14);
+        Rows rows = shown(4, 14, 3, 3);
         for (std::string& row : rows)
             row.erase(row.find_last_not_of(' ') + 1);
         return rows;
     }
 
-    static int type(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions = {})
-    {
-        kultest::typeKeys(keys, actions);
-        return kulfileview_execKeys(1, kRef);
-    }
-
     // Lets a second pass while the viewer has the focus, after something was done.
     static void aSecondAfter(KULCALLBACK action)
     {
-        type({-2, -3, 0}, {action, [] { kultest::advanceClock(1); }});
+        press({-2, -3, 0}, {action, [] { advanceClock(1); }});
     }
 
     const TemporaryFile file_;
@@ -99,31 +88,29 @@ TEST_F(FileviewTest, DrawsTextFrameAndScrollBar)
     EXPECT_EQ(shown(), (Rows{"┌────────────── ", "│tab     x      ", "│wrapped at     ", "│blanks         ",
                              "│cut_because_it ", "└──────────────┴"}))
         << "the thumb is blank";
-    type({KS_END});
+    press({KS_END});
     EXPECT_EQ(shown(), (Rows{"┌──────────────┬", "│wrapped at     ", "│blanks         ", "│cut_because_it ",
                              "│_is_long       ", "└────────────── "}));
     load("two\nlines");
     EXPECT_EQ(shown(), (Rows{"┌──────────────┐", "│two           │", "│lines         │", "│              │",
                              "│              │", "└──────────────┘"}));
-    config(file_.path().c_str(), NOBORDER, 6, 3);
+    config(file_.path().c_str(), 2, 2, 6, 3);
     file_.write(lines(1, 9));
-    type({KS_DOWN});
-    kulgui_show(1);
-    EXPECT_EQ(kultest::picture(window(1), 2, 2, 3, 6), (Rows{"1     ", "line │", "2    ┴"}));
+    press({KS_DOWN});
+    EXPECT_EQ(shown(3, 6), (Rows{"1     ", "line │", "2    ┴"}));
 }
 
 TEST_F(FileviewTest, ShowsTheFocusInColour)
 {
-    const std::vector<kultest::Legend> legend = {{'.', RED_BLUE}, {'f', RED_MAGENTA}, {'u', RED_WHITE}};
     load(lines(1, 20));
-    type({'x'});
-    EXPECT_EQ(kultest::colors(window(1), 2, 1, 2, 18, legend), (Rows{".uuuuuuuuuuuuuuuU.", ".uffffffffffffffu."}));
+    press({'x'});
+    EXPECT_EQ(shades(2, 1, 2, 18), (Rows{".uuuuuuuuuuuuuuuU.", ".uffffffffffffffu."}));
     GetChain(1)->Pointer->nCurrentUI = -1;
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 3, 1, 1, 18, legend), (Rows{".uuuuuuuuuuuuuuuu."}));
+    EXPECT_EQ(shades(3, 1, 1, 18), (Rows{".uuuuuuuuuuuuuuuu."}));
     kulfileview_hide(1, kRef);
     kulgui_show(1);
-    EXPECT_EQ(kultest::colors(window(1), 3, 1, 1, 18, legend), (Rows{std::string(18, '.')}));
+    EXPECT_EQ(shades(3, 1, 1, 18), (Rows{std::string(18, '.')}));
 }
 
 TEST_F(FileviewTest, MovesByKeys)
@@ -146,18 +133,12 @@ TEST_F(FileviewTest, MovesByKeys)
         events.clear();
         std::vector<int> keys = step.keys;
         keys.push_back(KS_TAB);
-        EXPECT_EQ(type(keys), 10);
+        EXPECT_EQ(press(keys), 10);
         EXPECT_EQ(kulfileview_getPosition(1, kRef), step.nPosition) << step.events;
         EXPECT_EQ(events, step.events);
         EXPECT_EQ(text()[0], "line " + std::to_string(step.nPosition));
     }
-    EXPECT_EQ(type({KS_ESC}), -10);
-    EXPECT_EQ(type({}), KUL_LEFT);
-    EXPECT_EQ(type({-2}, {[] { kulfileview_hide(1, kRef); }}), 0);
-    EXPECT_EQ(type({KS_ESC}), 10);
-    kulfileview_show(1, kRef);
-    EXPECT_EQ(type({-2}, {[] { kulgui_destroy(1); }}), -10000);
-    EXPECT_EQ(kulfileview_execKeys(1, kRef), -10000);
+    EXPECT_EQ(press({KS_ESC}), -10);
 }
 
 TEST_F(FileviewTest, FindsAndGoesToLines)
@@ -196,10 +177,10 @@ TEST_F(FileviewTest, RefusesWhatItCannotShow)
         EXPECT_EQ(text()[0], "text");
     }
     for (const int nGood : {0, 1}) {
-        const kultest::FailingMemory failing(nGood);
+        const FailingMemory failing(nGood);
         EXPECT_EQ(kulfileview_load(1, kRef, view().szFileName), -10028);
     }
-    EXPECT_EQ(config(view().szFileName), 0) << "its own name, which it frees";
+    EXPECT_EQ(config(view().szFileName, 2, 2, 16, 6, BORDER), 0) << "its own name, which it frees";
     EXPECT_EQ(text()[0], "text");
     EXPECT_EQ(config("/none"), -10028);
     EXPECT_EQ(view().nWidth, 16);
@@ -214,7 +195,7 @@ TEST_F(FileviewTest, RefusesWhatItCannotShow)
     EXPECT_EQ(kulfileview_setPosition(1, kRef, 3), 0);
     EXPECT_EQ(kulfileview_getPosition(1, kRef), 0);
     EXPECT_EQ(kulfileview_setFollow(1, kRef, T), 0);
-    EXPECT_EQ(type({KS_DOWN, KS_END, KS_UP, KS_TAB}), 10);
+    EXPECT_EQ(press({KS_DOWN, KS_END, KS_UP, KS_TAB}), 10);
     EXPECT_EQ(events, "focus100 unfocus100 ");
 
     // A record of the program's own is as short as the header says, and holds anything.
@@ -234,19 +215,6 @@ TEST_F(FileviewTest, RefusesWhatItCannotShow)
     ConfigUIComponent(1, 8);
     ShowUIColors();
     EXPECT_EQ(kulfileview_load(1, 8, nullptr), -1) << "none of the library's";
-
-    // And nothing without a viewer.
-    EXPECT_EQ(kulfileview_create(1, kRef), -10025);
-    EXPECT_EQ(kulfileview_create(9, kRef), -10009);
-    kulbutton_create(1, 6);
-    for (const int nRef : {6, 7}) {
-        EXPECT_EQ(kulfileview_load(1, nRef, nullptr), -1);
-        EXPECT_EQ(kulfileview_find(1, nRef, "", 0), -1);
-        EXPECT_EQ(kulfileview_setPosition(1, nRef, 0), -1);
-        EXPECT_EQ(kulfileview_getPosition(1, nRef), -1);
-        EXPECT_EQ(kulfileview_setFollow(1, nRef, T), -1);
-        EXPECT_EQ(kulfileview_execKeys(1, nRef), -10000);
-    }
 }
 
 TEST_F(FileviewTest, FollowsAFileThatGrowsShrinksAndIsReplaced)
@@ -260,19 +228,19 @@ TEST_F(FileviewTest, FollowsAFileThatGrowsShrinksAndIsReplaced)
     aSecondAfter([] { theFile->append("er\nnewest"); });
     EXPECT_EQ(text(), (Rows{"line 8", "line 9", "newer", "newest"}));
     // Who reads further above is left alone.
-    type({KS_UP, KS_UP});
+    press({KS_UP, KS_UP});
     aSecondAfter([] { theFile->append("\nend\n"); });
     EXPECT_EQ(text()[0], "line 6");
     events.clear();
-    type({-2, -3, KS_ENTER}, {[] { theFile->append(lines(10, 99)); }, [] { kultest::advanceClock(1); }});
+    press({-2, -3, KS_ENTER}, {[] { theFile->append(lines(10, 99)); }, [] { advanceClock(1); }});
     EXPECT_EQ(events, "focus48 click5 unfocus5 ") << "how far in the file that grew";
-    type({KS_END});
+    press({KS_END});
     aSecondAfter([] { theFile->append("really\n"); });
     EXPECT_EQ(text()[3], "really");
-    type({KS_HOME});
+    press({KS_HOME});
     aSecondAfter([] { theFile->write(lines(20, 25)); });
     EXPECT_EQ(text(), (Rows{"line 22", "line 23", "line 24", "line 25"}));
-    type({KS_HOME});
+    press({KS_HOME});
     aSecondAfter([] { theFile->replace(lines(0, 200)); });
     EXPECT_EQ(text()[3], "line 200");
     aSecondAfter([] { theFile->append(lines(201, 201)); });
@@ -293,49 +261,42 @@ TEST_F(FileviewTest, FollowsInADialogWithoutTheFocus)
     kulbutton_config(2, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 9, 1, "OK", nullptr, nullptr, nullptr,
                      nullptr);
     kulgui_show(1);
-    kultest::typeKeys({0, -2, 0}, {[] {
-                          theFile->append("new\n");
-                          kultest::advanceClock(1);
-                      }});
+    typeKeys({0, -2, 0}, {[] {
+                 theFile->append("new\n");
+                 advanceClock(1);
+             }});
     kulbutton_execKeys(2, 1);
-    EXPECT_EQ(kultest::picture(window(1), 6, 3, 1, 8), (Rows{"new     "}));
+    EXPECT_EQ(picture(window(1), 6, 3, 1, 8), (Rows{"new     "}));
 }
 
 TEST_F(FileviewTest, IsCutToItsWindow)
 {
     file_.write(lines(0, 99));
-    // Nothing is drawn beside a box without columns.
-    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 2, 0, 3, NOBORDER, file_.path().c_str(), nullptr,
-                       nullptr, nullptr, nullptr);
-    kulgui_show(1);
-    EXPECT_EQ(kultest::picture(window(1), 2, 1, 3, 6), (Rows{"      ", "      ", "      "}));
-    // Cells left of and above the window are cut off.
-    kulfileview_config(1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, -3, -1, 30, 20, NOBORDER, file_.path().c_str(), nullptr,
-                       nullptr, nullptr, nullptr);
-    kulgui_show(1);
-    EXPECT_EQ(kultest::picture(window(1), 0, 0, 2, 6), (Rows{"e 1   ", "e 2   "}));
+    config(file_.path().c_str(), 4, 2, 0, 3);
+    EXPECT_EQ(shown(3, 6, 2, 1), Rows(3, "      ")) << "beside a box without columns";
+    config(file_.path().c_str(), -3, -1, 30, 20);
+    EXPECT_EQ(shown(2, 6, 0, 0), (Rows{"e 1   ", "e 2   "})) << "left of and above the window";
     // So is one half of a wide character; the other one is blank, in the colour of the text.
     ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
     file_.write("\xe4\xb8\xadx\nxy");
-    kulfileview_config(1, kRef, RED_MAGENTA, RED_MAGENTA, KUL_KEEP, -1, 2, 9, 3, NOBORDER, file_.path().c_str(),
-                       nullptr, nullptr, nullptr, nullptr);
+    config(file_.path().c_str(), -1, 2, 9, 3, NOBORDER, RED_MAGENTA);
     kulgui_show(1);
     // And drawing over another one loses nothing.
     mvwaddwstr(window(1), 3, 0, L"\u4e2d");
     ShowFileviewComponent(GetChain(1)->Pointer, &view(), 0);
     std::setlocale(LC_ALL, "C");
-    EXPECT_EQ(kultest::picture(window(1), 2, 0, 2, 3), (Rows{" x ", "y  "}));
-    EXPECT_EQ(kultest::colors(window(1), 2, 0, 1, 3, {{'u', RED_MAGENTA}}), (Rows{"uuu"}));
+    EXPECT_EQ(picture(window(1), 2, 0, 2, 3), (Rows{" x ", "y  "}));
+    EXPECT_EQ(shades(2, 0, 1, 3), (Rows{"fff"}));
 }
 
 TEST_F(FileviewTest, IsLaidOutAnewForAnotherWidth)
 {
     load("one two three four five six seven eight nine ten eleven twelve");
-    type({KS_END});
+    press({KS_END});
     EXPECT_EQ(text()[0], "four five six");
     view().nWidth = 12;
     EXPECT_EQ(text()[0].substr(0, 10), "three four");
-    type({KS_DOWN});
+    press({KS_DOWN});
     EXPECT_EQ(text()[0].substr(0, 8), "five six");
 }
 
@@ -347,7 +308,7 @@ TEST_F(FileviewTest, ShowsWholeLettersAndTheCursorInEdition2)
     load("\xef\xbb\xbf"
          "e\xcc\x81x\n" +
          lines(1, 9));
-    type({KS_DOWN, KS_UP});
+    press({KS_DOWN, KS_UP});
     EXPECT_EQ(text()[0], "e\u0301x");
     EXPECT_EQ(getcury(newscr), getbegy(window(1)) + 3);
     EXPECT_EQ(getcurx(newscr), getbegx(window(1)) + 3);

@@ -10,69 +10,40 @@ namespace {
 
 using namespace kultest;
 
-constexpr int kKeep = KUL_KEEP;
 constexpr int D = KS_DOWN;
 constexpr int U = KS_UP;
 constexpr int S = KS_SPACE;
 
-struct Callbacks {
-    KULCALLBACK onFocus, onUnfocus, onSelect, onClick, onElement;
-};
-
 struct Checks {
     using Record = KULCHECKBOX;
+    static constexpr int kType = CHECKBOX;
     static constexpr const char* kMarkers = "[]X";
-    static constexpr int kTaken = -10023, kForeign = -10000, kHidden = 10, kHiddenMeanwhile = 10;
-    static constexpr auto create = kulcheckbox_create, hide = kulcheckbox_hide, execKeys = kulcheckbox_execKeys,
-                          focus = kulcheckbox_getFocus;
+    static constexpr auto focus = kulcheckbox_getFocus;
     static constexpr auto element = kulcheckbox_getElement;
     static constexpr auto remove = kulcheckbox_remElement;
-    static constexpr auto draw = ShowCheckboxComponent;
     static constexpr auto setFirst = SetFirstCheckElement, setFirstFromEnd = SetFirstCheckElementFromEnd,
                           setLast = SetLastCheckElement;
     static constexpr auto spills = CheckLastCheckElementForSpillover, rows = GetTotalCheckElementHeights;
-    static constexpr auto wipe = WipeCheckboxComponent;
-    static constexpr auto removeLast = RemoveCheckElement, wipeElements = WipeCheckElements;
+    static constexpr auto removeLast = RemoveCheckElement;
     static auto* make(KULCHECKELEMENT* head) { return AddCheckElement(head, 1, "x", nullptr); }
-    static int add(int nRef, const char* szText, KULCALLBACK on)
-    {
-        return kulcheckbox_addElement(1, nRef, szText, 0, 1, on, on);
-    }
     static int& cursor() { return record<Record>().nSelect; }
-    static int config(int nRef, int nWidth, int nHeight, int nBorder, int nCursor, const Callbacks& on)
-    {
-        const int nResult = kulcheckbox_config(1, nRef, kKeep, kKeep, kKeep, 2, 2, nWidth, nHeight, nBorder, on.onFocus,
-                                               on.onUnfocus, on.onSelect, on.onClick);
-        return SetVar(&cursor(), nCursor), nResult;
-    }
 };
 
 struct Options {
     using Record = KULOPTIONS;
+    static constexpr int kType = OPTIONS;
     static constexpr const char* kMarkers = "()o";
-    static constexpr int kTaken = -10024, kForeign = -1, kHidden = -1, kHiddenMeanwhile = 0;
-    static constexpr auto create = kuloptions_create, hide = kuloptions_hide, execKeys = kuloptions_execKeys,
-                          focus = kuloptions_getSelected;
+    static constexpr auto focus = kuloptions_getSelected;
     static constexpr auto element = kuloptions_getElement;
     static constexpr auto remove = kuloptions_remElement;
-    static constexpr auto draw = ShowOptionsComponent;
     static constexpr auto setFirst = SetFirstOptionElement, setFirstFromEnd = SetFirstOptionElementFromEnd,
                           setLast = SetLastOptionElement;
     static constexpr auto spills = CheckLastOptionElementForSpillover, rows = GetTotalOptionElementHeights;
-    static constexpr auto wipe = WipeOptionsComponent;
-    static constexpr auto removeLast = RemoveOptionElement, wipeElements = WipeOptionElements;
+    static constexpr auto removeLast = RemoveOptionElement;
     static auto* make(KULOPTIONELEMENT* head) { return AddOptionElement(head, 1, "x", nullptr, nullptr); }
-    static int add(int nRef, const char* szText, KULCALLBACK on)
-    {
-        return kuloptions_addElement(1, nRef, szText, 1, on, on);
-    }
     static int& cursor() { return record<Record>().nPosition; }
-    static int config(int nRef, int nWidth, int nHeight, int nBorder, int nCursor, const Callbacks& on)
-    {
-        return kuloptions_config(1, nRef, kKeep, kKeep, kKeep, 2, 2, nWidth, nHeight, nBorder, 77, nCursor, on.onFocus,
-                                 on.onUnfocus, on.onSelect, on.onClick);
-    }
 };
+
 template <typename Kind>
 class RingListTest : public ComponentTest {
 protected:
@@ -83,33 +54,40 @@ protected:
     // An event with what the selection says: the cursor, and what is chosen.
     static void note(const char* event) { kultest::note((event + std::to_string(Kind::focus(1, kRef)) + '/').c_str()); }
 
-    static inline const Callbacks kNotes = {[] { note("focus"); }, [] { note("unfocus"); }, [] { note("select"); },
-                                            [] { note("click"); }, [] { note("element"); }};
-
     // A list anew; a digit is a text of that many rows. Nothing is chosen.
-    static void make(int nWidth, int nHeight, int nBorder, const char* digits = "", int nCursor = kKeep,
-                     const Callbacks& on = kNotes)
+    static void make(int nWidth, int nHeight, int nBorder, const char* digits = "", int nCursor = 0)
     {
-        Kind::create(1, kRef);
-        ASSERT_EQ(Kind::config(kRef, nWidth, nHeight, nBorder, nCursor, on), 0);
+        CreateUIComponent(1, Kind::kType, kRef);
+        const KULCALLBACK focus = [] { note("focus"); }, unfocus = [] { note("unfocus"); },
+                          select = [] { note("select"); }, click = [] { note("click"); };
+        constexpr int k = KUL_KEEP;
+        kulcheckbox_config(1, kRef, k, k, k, 2, 2, nWidth, nHeight, nBorder, focus, unfocus, select, click);
+        kuloptions_config(1, kRef, k, k, k, 2, 2, nWidth, nHeight, nBorder, 77, nCursor, focus, unfocus, select, click);
+        if (kChecks)
+            Kind::cursor() = nCursor;
         events.clear();
         constexpr const char* kTexts[] = {"aaaaaa", "aaaaaa bbbbbb", "aaaaaa bbbbbb cccccc",
                                           "aaaaaa bbbbbb cccccc dddddd"};
         for (; *digits; ++digits)
-            ASSERT_EQ(Kind::add(kRef, kTexts[*digits - '1'], on.onElement), 0);
+            add(kTexts[*digits - '1']);
+    }
+
+    static void add(const char* szText)
+    {
+        const KULCALLBACK element = [] { note("element"); };
+        ASSERT_EQ(addElement(kRef, szText, 1, element, element), 0);
     }
 
     static void addNumbers(int nCount)
     {
         for (int i = 0; i < nCount; ++i)
-            ASSERT_EQ(Kind::add(kRef, std::to_string(i).c_str(), kNotes.onElement), 0);
+            add(std::to_string(i).c_str());
     }
 
     static int run(std::vector<int> keys, int nEnd, const std::vector<KULCALLBACK>& actions = {})
     {
         keys.push_back(nEnd);
-        typeKeys(keys, actions);
-        return Kind::execKeys(1, kRef);
+        return ComponentTest::press(keys, actions);
     }
 
     static std::string state() // cursor, first and last in view
@@ -186,7 +164,7 @@ TYPED_TEST(RingListTest, RunsCallbacksInOrder)
         std::vector<int> keys;
         const char *checks, *options;
     } scripts[] = {
-        {kKeep,
+        {0,
          {D, S},
          "focus0/0 element1/1 select1/1 click1/1 unfocus1/1 ",
          "focus0/77 select1/77 element1/77 click1/1 element1/1 unfocus1/1 "},
@@ -229,7 +207,7 @@ TYPED_TEST(RingListTest, StaysInBoxesOfAnySize)
         SCOPED_TRACE(std::to_string(box.nWidth) + " x " + std::to_string(box.nHeight));
         this->make(box.nWidth, box.nHeight, box.nBorder);
         for (int i = 0; i < 4; ++i)
-            TypeParam::add(kRef, "", nullptr);
+            this->add("");
         EXPECT_EQ(this->run({D, D, D, D, U, D}, 0), KUL_LEFT);
         EXPECT_EQ(this->drawn(2, 2, 3, 6), box.rows);
     }
@@ -278,42 +256,6 @@ TYPED_TEST(RingListTest, LooksUpByIndex)
     EXPECT_EQ(this->list().nElements, 40);
 }
 
-TYPED_TEST(RingListTest, NoticesWhatCallbacksDo)
-{
-    const struct {
-        const char* name;
-        KULCALLBACK action;
-        int nResult;
-    } rows[] = {
-        {"destroy", [] { kulgui_destroy(1); }, -10000},
-        {"hide", [] { TypeParam::hide(1, kRef); }, TypeParam::kHiddenMeanwhile},
-        {"leave", [] { kulgui_leave(1); }, KUL_LEFT},
-        {"focus", [] { kulgui_setFocus(1, kRef); }, 0},
-        {"config and add", [] { TestFixture::make(9, 3, NOBORDER, "11"); }, 10},
-        {"remove",
-         [] {
-             for (auto& list = TestFixture::list(); list.nElements > 1; --list.nElements)
-                 TypeParam::removeLast(list.Element);
-         },
-         10},
-        {"remove uncounted", [] { TypeParam::removeLast(TestFixture::list().Element); }, 10},
-        {"empty",
-         [] { kulgui_config(1, 0, 0, 0, 0, "", BORDER, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr, nullptr); },
-         -10000},
-    };
-    for (const auto& row : rows) {
-        for (std::size_t nWhere = 0; nWhere < 5; ++nWhere) {
-            SCOPED_TRACE(row.name + std::to_string(nWhere));
-            this->renew();
-            KULCALLBACK at[5] = {};
-            at[nWhere] = row.action;
-            this->make(20, 2, NOBORDER, "11111", 2, {at[0], this->kNotes.onUnfocus, at[1], at[2], at[3]});
-            EXPECT_EQ(this->run({D, D, S, nWhere == 4 ? -2 : 0, U}, KS_TAB, {row.action}), row.nResult);
-            EXPECT_EQ(events.empty(), row.nResult == -10000);
-        }
-    }
-}
-
 TYPED_TEST(RingListTest, DrawsElementsInView)
 {
     this->make(13, 5, BORDER, "122");
@@ -330,33 +272,6 @@ TYPED_TEST(RingListTest, DrawsElementsInView)
     EXPECT_EQ(this->shades(5, 2, 1, 11), (Rows{"uuuu.uuuuuu"}));
     this->run({U}, KS_ESC);
     EXPECT_EQ(this->shades(3, 2, 3, 11), (Rows{"ufff.ffffff", "u....ffffff", "uddd.dddddd"}));
-}
-
-TYPED_TEST(RingListTest, AnswersUnknownAndOther)
-{
-    TypeParam::create(1, kRef); // has its defaults before it is configured
-    EXPECT_EQ(this->list().nColorFocus, RED_MAGENTA);
-    EXPECT_EQ(this->list().nFirstShowed, -1);
-    kulbutton_create(1, 2);
-    EXPECT_EQ(TypeParam::create(1, 2), TypeParam::kTaken);
-    for (const int nRef : {2, 99, INT_MIN}) {
-        EXPECT_EQ(TypeParam::config(nRef, 9, 9, BORDER, kKeep, {}), -1);
-        EXPECT_EQ(TypeParam::add(nRef, "x", nullptr), -1);
-        EXPECT_EQ(TypeParam::element(1, nRef, 0), nullptr);
-        EXPECT_EQ(TypeParam::execKeys(1, nRef), TypeParam::kForeign);
-    }
-    EXPECT_EQ(TypeParam::add(kRef, nullptr, nullptr), 0);
-    EXPECT_STREQ(TypeParam::element(1, kRef, 0)->szText, "");
-    TypeParam::hide(1, kRef);
-    EXPECT_EQ(TypeParam::execKeys(1, kRef), TypeParam::kHidden);
-    for (const auto step : {TypeParam::setFirst, TypeParam::setFirstFromEnd, TypeParam::setLast})
-        step(nullptr);
-    TypeParam::draw(nullptr, nullptr, 1);
-    EXPECT_EQ(TypeParam::spills(nullptr), F);
-    EXPECT_EQ(TypeParam::rows(nullptr), 0);
-    EXPECT_EQ(TypeParam::wipeElements(nullptr), -1);
-    EXPECT_EQ(TypeParam::removeLast(nullptr), -1);
-    EXPECT_EQ(TypeParam::wipe(nullptr), 0);
 }
 
 TYPED_TEST(RingListTest, StepsOfScrollingWorkOnAnyRecord)

@@ -18,11 +18,6 @@ protected:
         ASSERT_EQ(kulgui_setEdition(GetParam()), 0);
         WindowTest::SetUp();
     }
-    void TearDown() override
-    {
-        WindowTest::TearDown();
-        kulgui_setEdition(1);
-    }
 };
 
 // Two of a kind, one over the other in part, a text that lies across both, and keys at random.

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <climits>
-#include <clocale>
 #include <cstring>
 #include <cwchar>
 
@@ -55,20 +54,13 @@ protected:
         ASSERT_EQ(kultextbox_create(1, kRef), 0);
     }
 
-    void TearDown() override
-    {
-        ComponentTest::TearDown();
-        setlocale(LC_CTYPE, "C");
-        kulgui_setEdition(1);
-    }
-
     static KULTEXTBOX& box() { return record<KULTEXTBOX>(); }
 
     static int config(
-        const Box& box, KULCALLBACK onKey = [] { note(GetCurrentTextboxData()); }, int nRef = kRef)
+        const Box& box, KULCALLBACK onKey = [] { note(GetCurrentTextboxData()); })
     {
         return kultextbox_config(
-            1, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, box.nWidth, box.nHeight, box.nBorder, box.nMask, box.szCharSet,
+            1, kRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, 2, 2, box.nWidth, box.nHeight, box.nBorder, box.nMask, box.szCharSet,
             [] { note("focus"); }, [] { note("unfocus"); }, onKey);
     }
 
@@ -202,9 +194,7 @@ TEST_F(TextboxTest, RunsCallbacksInOrderAndAsksBeforeTheUserGoesOn)
     EXPECT_EQ(press({'x', KS_ESC}), -10);
     EXPECT_EQ(press({'x'}), KUL_LEFT);
     kulgui_setEdition(2);
-    kulbutton_create(1, 6);
-    kulbutton_config(1, 6, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 20, 2, 8, 1, "OK", nullptr, nullptr, nullptr,
-                     [] { note("click"); });
+    addComponent(BUTTON, 6, 20, 2, {nullptr, nullptr, nullptr, [] { note("click"); }});
     kulgui_setDefault(1, 6);
     kulgui_setHotkey(1, 6, KS_F1);
     kultextbox_setText(1, kRef, "");
@@ -301,61 +291,20 @@ TEST_F(TextboxTest, ClearsItsTextFromMemory)
     }
 }
 
-TEST_F(TextboxTest, AnswersUnknownAndOther)
+TEST_F(TextboxTest, TakesKeysWithoutAText)
 {
-    kulbutton_create(1, 2);
-    EXPECT_EQ(kultextbox_create(1, 2), -10026);
-    EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
-    EXPECT_EQ(kultextbox_setText(1, kRef, "not set up"), -1);
-    EXPECT_EQ(kultextbox_setLimit(1, kRef, 1), -1);
+    EXPECT_TRUE((refuse<kultextbox_getText, kultextbox_setText, kultextbox_setLimit>(1, kRef)));
     EXPECT_EQ(press(keysOf("aXBE")), KUL_LEFT);
-    for (const int nRef : {2, 99, INT_MIN}) {
-        EXPECT_EQ(config({9, 9}, nullptr, nRef), -1);
-        EXPECT_EQ(kultextbox_setText(1, nRef, "x"), -1);
-        EXPECT_EQ(kultextbox_getText(1, nRef), nullptr);
-        EXPECT_EQ(kultextbox_setCheck(1, nRef, nullptr) + kultextbox_setLimit(1, nRef, 1), -2);
-        EXPECT_EQ(kultextbox_setCursor(1, nRef, 0), -1);
-        EXPECT_EQ(kultextbox_execKeys(1, nRef), -10000);
-    }
-    kultextbox_hide(1, kRef);
-    EXPECT_EQ(kultextbox_execKeys(1, kRef), 10);
     for (const int nEdition : {1, 2}) {
         kulgui_setEdition(nEdition);
         KULTEXTBOX own{};
-        own.nLength = 3; // the cursor moves without a text as well
-        for (const auto step : {TextBoxGoEnd, TextBoxGoLeft, TextBoxDelete, TextBoxBackspace, TextBoxGoUp}) {
+        own.nLength = 3; // the cursor moves all the same
+        for (const auto step : {TextBoxGoEnd, TextBoxGoLeft, TextBoxDelete, TextBoxBackspace, TextBoxGoUp})
             step(&own);
-            step(nullptr);
-        }
         TextBoxCharacter(&own, 'x');
         EXPECT_EQ(own.nCursorPos, 2);
     }
-    TextBoxCharacter(nullptr, 'x');
-    DrawTextBox(nullptr, nullptr, 0);
-    ShowTextboxComponent(nullptr, nullptr, 0);
-    EXPECT_EQ(WipeTextboxComponent(nullptr), -1);
     EXPECT_EQ(WipeTextboxComponent(static_cast<KULTEXTBOX*>(calloc(1, sizeof(KULTEXTBOX)))), -1);
-}
-
-TEST_F(TextboxTest, NoticesWhatCallbacksDo)
-{
-    const std::pair<KULCALLBACK, int> rows[] = {
-        {[] { kulgui_destroy(1); }, -10000},
-        {[] { kultextbox_hide(1, kRef); }, 0},
-        {[] { kulgui_leave(1); }, KUL_LEFT},
-        {[] {
-             config({3, 1}, nullptr);
-         },
-         10},
-    };
-    for (const auto& [action, nResult] : rows) {
-        renew();
-        kultextbox_create(1, kRef);
-        config({9, 1}, action);
-        EXPECT_EQ(press({'a', 'b', kTab}), nResult);
-        EXPECT_EQ(events, nResult == -10000 ? "focus0 " : "focus0 unfocus0 ");
-    }
-    EXPECT_STREQ(kultextbox_getText(1, kRef), "b");
 }
 
 TEST_F(TextboxTest, Searches)
@@ -363,28 +312,19 @@ TEST_F(TextboxTest, Searches)
     EXPECT_EQ(FindChar('b', "abcb"), 1);
     EXPECT_EQ(FindChar('\0', "abc"), -1);
     EXPECT_EQ(FindChar('a', nullptr), -1);
-    const struct {
-        const char *szStr, *szIn;
-        int nPlace;
-    } rows[] = {
+    const std::tuple<const char*, const char*, int> rows[] = {
         {"cd", "abcd", 2},    {"abcd", "abc", -1},  {"aab", "aab", 0},
         {"ab", "aaab", 2},    {"ab", "aab", -1}, // the second a breaks the match
         {nullptr, "abc", -1}, {"abc", nullptr, -1},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(FindString(row.szStr, row.szIn), row.nPlace);
+    for (const auto& [szText, szIn, nPlace] : rows)
+        EXPECT_EQ(FindString(szText, szIn), nPlace);
 }
 
 // Edition 2: characters are letters.
 
 class LetterBoxTest : public TextboxTest {
-protected:
-    void SetUp() override
-    {
-        kulgui_setEdition(2);
-        setlocale(LC_CTYPE, "C.UTF-8");
-        TextboxTest::SetUp();
-    }
+    const InColumns inColumns_;
 };
 
 TEST_F(LetterBoxTest, Edits)

@@ -44,9 +44,6 @@ TEST_F(ToolbarTest, HasOneKindOfButtonsAndTwoDirections)
     add("long");
     EXPECT_EQ(ConfigUIComponent(1, kRef), 0);
     EXPECT_EQ(toolbar().nMaxLength, 0);
-    kultoolbar_hide(1, kRef);
-    EXPECT_EQ(press({}), 10);
-    EXPECT_EQ(events, "");
 }
 
 TEST_F(ToolbarTest, GivesAllButtonsTheirPlaces)
@@ -112,6 +109,24 @@ TEST_F(ToolbarTest, Keys)
         EXPECT_EQ(GetCurrentSelectedToolbarButton(), row.nCurrent);
         EXPECT_EQ(GetCurrentComponentType(), TOOLBAR);
         EXPECT_EQ(events, row.events);
+    }
+}
+
+TEST_F(ToolbarTest, ClicksWhatWasSelectedIfItIsStillThere)
+{
+    const std::pair<KULCALLBACK, const char*> rows[] = {
+        {[] { kultoolbar_remButton(1, kRef, 0); }, ""},
+        {[] { kultoolbar_remButton(1, kRef, 0), add("new"); }, "button2 "},
+        {[] { toolbar().nSelect = 0; }, "button2 "},
+        {[] { kultoolbar_hide(1, kRef); }, "button2 "},
+        {[] { kulgui_leave(1); }, ""},
+    };
+    for (const auto& [onClick, clicked] : rows) {
+        fill(LATERAL, "111");
+        toolbar().nSelect = 2;
+        toolbar().onClick = onClick;
+        press({KS_ENTER});
+        EXPECT_EQ(events, std::string("focus2 ") + clicked + "unfocus2 ");
     }
 }
 
