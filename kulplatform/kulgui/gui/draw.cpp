@@ -43,15 +43,6 @@ void coloredRun(Run run, WINDOW* win, int nY, int nX, long long nCount, int nCol
     run(win, nY, nX, nCount, character);
 }
 
-void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
-{
-    const kul::Rows rows = kul::rowsDrawn(win);
-    const long long first = std::max(nY, rows.nFirst);
-    const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), rows.nEnd);
-    for (long long row = first; row < last; ++row)
-        kul::hRun(win, static_cast<int>(row), nX, nWidth, ' ');
-}
-
 // Fills in reverse video and leaves the window without attributes.
 void fillReversed(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nColorSet)
 {
@@ -188,6 +179,20 @@ void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character)
         mvwvline(win, static_cast<int>(first), nX, character, static_cast<int>(last - first));
 }
 
+// A column that is left of them is one run.
+void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth)
+{
+    const Rows rows = rowsDrawn(win);
+    const Range columns = columnsDrawn(win);
+    if (columns.nEnd - columns.nFirst == 1 && nX <= columns.nFirst &&
+        shifted(nX, nWidth) >= columns.nEnd)
+        return vRun(win, nY, columns.nFirst, nHeight, ' ');
+    const long long first = std::max(nY, rows.nFirst);
+    const long long last = std::min<long long>(nY + static_cast<long long>(nHeight), rows.nEnd);
+    for (long long row = first; row < last; ++row)
+        hRun(win, static_cast<int>(row), nX, nWidth, ' ');
+}
+
 void drawCell(WINDOW* win, int nY, int nX, chtype cell)
 {
     const Range columns = columnsDrawn(win);
@@ -310,7 +315,7 @@ void DrawVTeeLine(WINDOW* win, int nY, int nTee, int nHeight, int nBackColor)
 void Fill(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nFillColor)
 {
     const kul::Attribute color(win, nFillColor);
-    fillRows(win, nY, nX, nHeight, nWidth);
+    kul::fillRows(win, nY, nX, nHeight, nWidth);
 }
 
 void FillReverse(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nFillColor)

@@ -132,6 +132,9 @@ void drawAcrossColumns(const WINDOW* win);
 void hRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
 void vRun(WINDOW* win, int nY, int nX, long long nCount, chtype character);
 
+// Blanks, cut to the window as well.
+void fillRows(WINDOW* win, int nY, int nX, int nHeight, int nWidth);
+
 // Draws one cell, where the window has it.
 void drawCell(WINDOW* win, int nY, int nX, chtype cell);
 

@@ -110,7 +110,7 @@ int Painter::layersTo(int nX) const
 
 bool Painter::differs(int nX) const
 {
-    return layersTo(nX) == 0;
+    return (!layers_ && letterOf(next_[nX]) != letterOf(seen_[nX])) || layersTo(nX) == 0;
 }
 
 // The column behind the last one before nEnd that differs.
@@ -290,20 +290,24 @@ int Painter::goOnBlank(int nX)
     return x - nX - 1;
 }
 
-// Paints the letters behind one that look as that does, and the blanks between two of them; returns
-// how many.
+// Paints the letters behind one that look as that does, and blanks between two of them; returns how
+// many.
 int Painter::goOn(int nX)
 {
+    char run[64];
+    const auto isAlike = [&](int nAt) { return isSameLook(next_[nAt], next_[nX]); };
     const auto goesOn = [&](int nAt) {
-        return nAt < nLast_ && isLetter(next_[nAt]) && isSameLook(next_[nAt], next_[nX]) &&
+        return nAt < nLast_ && isLetter(next_[nAt]) && isAlike(nAt) &&
                letterOf(next_[nAt]) != letterOf(next_[nAt + 1]) && differs(nAt);
     };
-    int x = nX + 1;
-    for (; goesOn(x) || (goesOn(x + 1) && isInHand(x)); ++x) {
-        const char byte = static_cast<char>(letterOf(next_[x]));
-        pen_.write({&byte, 1}, 1);
-    }
-    return x - nX - 1;
+    std::size_t n = 0;
+    for (int x = nX + 1; n < sizeof run && (goesOn(x) || (bareLetterOf(next_[x]) == ' ' &&
+                                                          isAlike(x) && goesOn(x + 1)));
+         ++x)
+        run[n++] = static_cast<char>(letterOf(next_[x]));
+    const int nCount = static_cast<int>(n);
+    pen_.write({run, n}, nCount);
+    return nCount;
 }
 
 } // namespace kul

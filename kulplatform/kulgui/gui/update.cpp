@@ -258,15 +258,14 @@ bool paintRows()
 // Tells curses what the terminal shows now.
 void note()
 {
-    const bool cleared = isCleared();
     for (int y = nFirstDue; y <= nLastDue; ++y) {
-        if (!cleared && !isDue(y))
-            continue;
         const auto [nFirst, nLast] = changedIn(y);
         if (nFirst <= nLast)
             copywin(newscr, curscr, y, nFirst, y, nFirst, y, nLast, FALSE);
-        wtouchln(newscr, y, 1, 0);
-        wtouchln(curscr, y, 1, 0);
+    }
+    if (nFirstDue <= nLastDue) {
+        wtouchln(newscr, nFirstDue, nLastDue - nFirstDue + 1, 0);
+        wtouchln(curscr, nFirstDue, nLastDue - nFirstDue + 1, 0);
     }
     clearok(newscr, FALSE);
     clearok(curscr, FALSE);
@@ -370,13 +369,9 @@ bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows)
     const int nAbove = getbegy(win);
     const Scroll rows{nTop, nBottom, nRows};
     if (expected.nRows != 0 || !codes().known || !codes().scrolls || !isMarked() || isCleared() ||
+        is_wintouched(win) || is_wintouched(newscr) || is_wintouched(curscr) ||
         std::abs(nRows) > (nBottom - nTop) / 2)
         return false;
-    for (int y = nTop; y <= nBottom; ++y) {
-        if (is_linetouched(win, y) || is_linetouched(newscr, nAbove + y) ||
-            is_linetouched(curscr, nAbove + y))
-            return false;
-    }
     expected = {nAbove + nTop, nAbove + nBottom, nRows};
     moveRows(win, rows);
     moveRows(newscr, expected);

@@ -94,20 +94,18 @@ void drawRow(WINDOW* win, int nY, const FileBox& box, FileRows& rows, const File
 FilePlace drawText(WINDOW* win, const FileView& view, const FileBox& box)
 {
     const int nBottom = std::min(getmaxy(win), kul::shifted(box.nY, box.nHeight));
-    if (!view.text) {
-        for (int nY = std::max(box.nY, 0); nY < nBottom; ++nY)
-            kul::hRun(win, nY, box.nX, box.nWidth, ' ');
-        return 0;
-    }
     FileRows rows(*view.text, fileColumns(view));
-    const bool laidOut = isLaidOut(view);
     FilePlace place = view.nColumns == fileColumns(view) ? view.top : rows.rowOf(view.top);
     // Rows that lie above of the window count, but not without end.
     const int nTop = std::max(box.nY, -kMaxFileRows);
-    const kul::Range columns = {box.nX, kul::shifted(box.nX, box.nWidth)};
+    const int nKnown = std::min(nBottom, kul::shifted(nTop, isLaidOut(view) ? view.nRows : 0));
+    const bool drawn = kul::isDrawn(win, {kul::kAll, {box.nX, kul::shifted(box.nX, box.nWidth)}});
+    const kul::Rows due = drawn ? kul::rowsDrawn(win) : kul::Rows{nBottom, nBottom};
     for (int nY = nTop; nY < nBottom; ++nY) {
-        if (laidOut && nY - nTop < view.nRows && !kul::isDrawn(win, {{nY, nY + 1}, columns})) {
-            place = view.starts[nY - nTop + 1];
+        const int nTo = std::min(nY < due.nFirst ? due.nFirst : nBottom, nKnown);
+        if (nTo > nY && (nY < due.nFirst || nY >= due.nEnd)) { // over what is not drawn
+            place = view.starts[nTo - nTop];
+            nY = nTo - 1;
             continue;
         }
         const FileRows::Row row = rows.row(place);
@@ -145,23 +143,24 @@ void ShowFileviewComponent(GUI* thisGUI, KULFILEVIEW* thisView, int nFocus)
 {
     if (!thisGUI || !thisView || thisView->nVisible != T)
         return;
-    // One of the program's own has no file.
-    FileView bare{};
-    static_cast<KULFILEVIEW&>(bare) = *thisView;
-    bare.atEnd = true;
-    const auto* inner = kul::innerOf<FileView>(thisView);
-    const FileView& view = inner ? *inner : bare;
+    const auto* inner = kul::innerOf<FileView>(thisView); // one of the program's own has no file
+    const FileView* view = inner && inner->text ? inner : nullptr;
     WINDOW* win = thisGUI->winMain;
     FilePlace bottom = 0;
     {
-        const kul::Attribute color(win, nFocus == 1 ? view.nColorFocus : view.nColorUnfocus);
-        const FileBox box = kul::fileBox(view);
-        bottom = drawText(win, view, box);
+        const kul::Attribute color(win,
+                                   nFocus == 1 ? thisView->nColorFocus : thisView->nColorUnfocus);
+        const FileBox box = kul::fileBox(*thisView);
+        if (view)
+            bottom = drawText(win, *view, box);
+        else
+            kul::fillRows(win, box.nY, box.nX, box.nHeight, box.nWidth);
         if (nFocus == 1)
             kul::showCursorAt(win, box.nY, box.nX);
     }
-    if (view.nBorder == BORDER)
-        DrawBorder(win, view.nY, view.nX, view.nHeight, view.nWidth, view.nColorUnfocus);
-    if (view.text && (view.top > 0 || !view.atEnd))
-        drawScrollBar(thisGUI, view, bottom);
+    if (thisView->nBorder == BORDER)
+        DrawBorder(win, thisView->nY, thisView->nX, thisView->nHeight, thisView->nWidth,
+                   thisView->nColorUnfocus);
+    if (view && (view->top > 0 || !view->atEnd))
+        drawScrollBar(thisGUI, *view, bottom);
 }
