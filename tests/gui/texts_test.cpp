@@ -26,42 +26,31 @@ std::string wrapped(const char* szText, int nWidth)
 
 TEST(Columns, AreWhatTextsWrapBy)
 {
-    // clang-format off
     const struct {
         const char* szText;
-        const char* rows[13]; // of each width
+        int nWidth;
+        const char* rows;
     } table[] = {
-        {"Ώρα και δίκτυο", {
-            "", "Ώ|ρ|α|κ|α|ι|δ|ί|κ|τ|υ|ο|", "Ώρ|α |κα|ι |δί|κτ|υο|", "Ώρα|και|δίκ|τυο|", "Ώρα |και |δίκτ|υο|",
-            "Ώρα|και|δίκτυ|ο|", "Ώρα|και|δίκτυο|", "Ώρα|και|δίκτυο|", "Ώρα και |δίκτυο|", "Ώρα και|δίκτυο|",
-            "Ώρα και|δίκτυο|", "Ώρα και|δίκτυο|", "Ώρα και|δίκτυο|"}},
-        {"Gro\u0308ße u\u0308ben", {
-            "", "G|r|o\u0308|ß|e|u\u0308|b|e|n|", "Gr|o\u0308ß|e |u\u0308b|en|", "Gro\u0308|ße |u\u0308be|n|",
-            "Gro\u0308ß|e|u\u0308ben|", "Gro\u0308ße|u\u0308ben|", "Gro\u0308ße |u\u0308ben|", "Gro\u0308ße|u\u0308ben|",
-            "Gro\u0308ße|u\u0308ben|", "Gro\u0308ße|u\u0308ben|", "Gro\u0308ße|u\u0308ben|", "Gro\u0308ße u\u0308ben|",
-            "Gro\u0308ße u\u0308ben|"}},
-        {"网络 设置中", {
-            "", "网|络|设|置|中|", "网|络|设|置|中|", "网|络 |设|置|中|", "网络|设置|中|", "网络 |设置|中|",
-            "网络 |设置中|", "网络|设置中|", "网络|设置中|", "网络|设置中|", "网络|设置中|", "网络|设置中|",
-            "网络 设置中|"}},
-        {"ตั้งค่า wifi", { // a word of ASCII alone is taken off from its front
-            "", "ตั้|ง|ค่|า||||||", "ตั้ง|ค่า||||i|", "ตั้งค่|า|||fi|", "ตั้งค่า||ifi|", "ตั้งค่า |wifi|", "ตั้งค่า|wifi|",
-            "ตั้งค่า|wifi|", "ตั้งค่า|wifi|", "ตั้งค่า|wifi|", "ตั้งค่า wifi|", "ตั้งค่า wifi|", "ตั้งค่า wifi|"}},
-        {"😀 ok 👍🏽!", {
-            "", "😀||| |👍|🏽|!|", "😀||k |👍|🏽|!|", "😀 |ok |👍|🏽!|", "😀|ok |👍🏽|!|", "😀|ok|👍🏽!|", "😀 ok |👍🏽!|",
-            "😀 ok |👍🏽!|", "😀 ok|👍🏽!|", "😀 ok|👍🏽!|", "😀 ok|👍🏽!|", "😀 ok|👍🏽!|", "😀 ok 👍🏽!|"}},
-        {"é\tb\x01\nü中c Donau\xff", {
-            "", "é|\t|b|\x01|ü|中|c|D|o|n|a|u|\xff|", "é\t|b\x01|ü|中|c |Do|na|u\xff|", "é\tb|\x01|ü中|c|Don|au\xff|",
-            "é\tb\x01|ü中c|Dona|u\xff|", "é\tb\x01|ü中c |Donau|\xff|", "é\tb\x01|ü中c|Donau\xff|",
-            "é\tb\x01|ü中c|Donau\xff|", "é\tb\x01|ü中c|Donau\xff|", "é\tb\x01|ü中c|Donau\xff|", "é\tb\x01|ü中c|Donau\xff|",
-            "é\tb\x01|ü中c|Donau\xff|", "é\tb\x01|ü中c Donau\xff|"}},
+        {"Ώρα και δίκτυο", 0, ""},
+        {"Ώρα και δίκτυο", 4, "Ώρα |και |δίκτ|υο|"},
+        {"Ώρα και δίκτυο", 5, "Ώρα|και|δίκτυ|ο|"},
+        {"Ώρα και δίκτυο", 8, "Ώρα και |δίκτυο|"},
+        {"Gro\u0308ße u\u0308ben", 1, "G|r|o\u0308|ß|e|u\u0308|b|e|n|"},
+        {"Gro\u0308ße u\u0308ben", 6, "Gro\u0308ße |u\u0308ben|"},
+        {"Gro\u0308ße u\u0308ben", 9, "Gro\u0308ße|u\u0308ben|"},
+        {"网络 设置中", 1, "网|络|设|置|中|"},
+        {"网络 设置中", 5, "网络 |设置|中|"},
+        {"网络 设置中", 11, "网络|设置中|"},
+        {"ตั้งค่า wifi", 3, "ตั้งค่|า|||fi|"}, // a word of ASCII alone is taken off from its front
+        {"ตั้งค่า wifi", 5, "ตั้งค่า |wifi|"},
+        {"😀 ok 👍🏽!", 2, "😀||k |👍|🏽|!|"},
+        {"😀 ok 👍🏽!", 5, "😀|ok|👍🏽!|"},
+        {"é\tb\x01\nü中c Donau\xff", 2, "é\t|b\x01|ü|中|c |Do|na|u\xff|"},
+        {"é\tb\x01\nü中c Donau\xff", 6, "é\tb\x01|ü中c|Donau\xff|"},
     };
-    // clang-format on
     const InColumns inColumns;
-    for (const auto& row : table) {
-        for (int nWidth = 0; nWidth <= 12; ++nWidth)
-            EXPECT_EQ(wrapped(row.szText, nWidth), row.rows[nWidth]) << nWidth;
-    }
+    for (const auto& row : table)
+        EXPECT_EQ(wrapped(row.szText, row.nWidth), row.rows) << row.nWidth;
     kulgui_setEdition(1);
     EXPECT_EQ(wrapped("Gr\u00f6\u00dfe", 5), "|||\xb6\u00dfe|") << "by bytes";
     kulgui_setEdition(2);
@@ -156,45 +145,41 @@ void addBoxes()
     kulstatbar_addElement(1, 23, 0, 5, "网络设置", LEFT, nullptr); // half a letter is not shown
     kulstatbar_addElement(1, 23, 7, 10, "Größe", RIGHT, nullptr);
     kulstatbar_addElement(1, 23, 19, 9, "u\u0308ben", CENTER, nullptr);
-    kulstatbar_addElement(1, 23, 30, 30, "a网络设置 too long", LEFT, nullptr); // beyond the edge
+    kulstatbar_addElement(1, 23, 30, 30, "a网络设置 too long for this place", LEFT, nullptr); // beyond the edge
 }
 
 void addComponents()
 {
-    kulmenu_create(1, 1);
-    kulmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
+    const struct {
+        int nType, nX, nY;
+        std::vector<const char*> texts;
+    } rows[] = {
+        {MENU, 0, 0, {"中文", "Hilfe\u009b", "Ende für immer und ewig, bis an den letzten Rand"}},
+        {DYNMENU, 52, 10, {"äöü中文字", "\u202e中\u0301文abc"}},
+        {TOOLBAR, 20, 7, {"确定", "ü"}},
+        {BUTTON, 0, 0, {}},
+        {CHECKBOX, 1, 10, {"网络设置中Ώρα και ημερομηνία"}},
+        {OPTIONS, 20, 11, {"ä\xc2Ü\x01ß ü网络设置中"}},
+        {DESCRMENU, 0, 0, {}},
+    };
+    for (int nRef = 1; nRef <= static_cast<int>(std::size(rows)); ++nRef) {
+        const auto& row = rows[nRef - 1];
+        addComponent(row.nType, nRef, row.nX, row.nY);
+        for (const char* szText : row.texts)
+            addElement(nRef, szText);
+    }
     static_cast<KULMENU*>(GetUIComponentByRef(1, 1)->Pointer)->nY = 6;
-    for (const char* szText : {"中文", "Hilfe\u009b", "Ende für immer und ewig"})
-        kulmenu_addElement(1, 1, szText, 1, nullptr, nullptr);
-    kuldynmenu_create(1, 2);
-    kuldynmenu_config(1, 2, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 7, 7, 2, nullptr, nullptr, nullptr, nullptr);
-    for (const char* szText : {"äöü中文字", "\u202e中\u0301文abc"})
-        kuldynmenu_addElement(1, 2, szText, nullptr, nullptr, 1);
-    kulbutton_create(1, 3);
-    kulbutton_config(1, 3, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 11, 7, 11, 1, "Größe", nullptr, nullptr, nullptr,
+    kulbutton_config(1, 4, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 4, 7, 11, 1, "Größe", nullptr, nullptr, nullptr,
                      nullptr);
-    kultoolbar_create(1, 4);
-    kultoolbar_config(1, 4, KUL_KEEP, KUL_KEEP, KUL_KEEP, 23, 7, LATERAL, nullptr, nullptr, nullptr, nullptr);
-    for (const char* szText : {"确定", "ü"})
-        kultoolbar_addButton(1, 4, szText, 0, 1, nullptr, nullptr);
-    kulcheckbox_create(1, 5);
-    kulcheckbox_config(1, 5, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 11, 12, 4, BORDER, nullptr, nullptr, nullptr, nullptr);
-    kulcheckbox_addElement(1, 5, "网络设置中", 1, 1, nullptr, nullptr);
-    kuloptions_create(1, 6);
-    kuloptions_config(1, 6, KUL_KEEP, KUL_KEEP, KUL_KEEP, 14, 11, 12, 4, BORDER, 0, 0, nullptr, nullptr, nullptr,
-                      nullptr);
-    kuloptions_addElement(1, 6, "ä\xc2Ü\x01ß ü", 1, nullptr, nullptr);
-    kuldescrmenu_create(1, 7);
-    kuldescrmenu_config(1, 7, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, 9, 9, 4, nullptr, nullptr, nullptr, nullptr);
-    kuldescrmenu_addElement(1, 7, 1, "é", "网络设置", nullptr, nullptr);
     auto& menu = *static_cast<KULDESCRMENU*>(GetUIComponentByRef(1, 7)->Pointer);
-    menu.nX = 27;
-    menu.nY = 11;
+    menu.nX = 39;
+    menu.nY = 7;
+    kuldescrmenu_addElement(1, 7, 1, "é", "网络设置中Ώρα και", nullptr, nullptr);
 }
 
 TEST_F(KindsTest, LayTextsOutByColumns)
 {
-    makeDialog(1, 38, 18);
+    makeDialog(1, 60, 18);
     GetChain(1)->Pointer->szTitle = " Größe 中 ";
     addBoxes();
     addComponents();
@@ -202,27 +187,27 @@ TEST_F(KindsTest, LayTextsOutByColumns)
     kulgui_update();
     // clang-format off
     const Rows expected = {
-        "┌──────────── Größe 中 ──────────────┐",
-        "│┌──────────┐ Ώρα   设置             │",
-        "││  Größe   │ ┌────────────────────┐ │",
-        "││  über    │ │Ώρα και ημερομηνία  │ │",
-        "│└──────────┘ │                    │ │",
-        "│             └────────────────────┘ │",
-        "│ 中文   Hilfe?   Ende für immer und e",
-        "│┌───────┐ ┌─────────┐ ┌────┐ ┌────┐ │",
-        "││äöü中文│ │  Größe  │ │确定│ │ ü  │ │",
-        "││?中́文ab│ └─────────┘ └────┘ └────┘ │",
-        "│└───────┘                           │",
-        "│┌──────────┐ ┌──────────┐ é         │",
-        "││[X] 网络设│ │(o) ä?Ü^ß │ ┌───────┐ │",
-        "││    置中  │ │    ü     │ │网络设 │ │",
-        "│└──────────┘ └──────────┘ │置     │ │",
-        "│                          │       │ │",
-        "│                          └───────┘ │",
-        "网络        Größe    üben     a网络设 ",
+        "┌─────────────────────── Größe 中 ─────────────────────────┐",
+        "│┌──────────┐ Ώρα   设置                                   │",
+        "││  Größe   │ ┌────────────────────┐                       │",
+        "││  über    │ │Ώρα και ημερομηνία  │                       │",
+        "│└──────────┘ │                    │                       │",
+        "│             └────────────────────┘                       │",
+        "│ 中文   Hilfe?   Ende für immer und ewig, bis an den letzte",
+        "│   ┌─────────┐     ┌────┐ ┌────┐      é                   │",
+        "│   │  Größe  │     │确定│ │ ü  │      ┌──────────┐        │",
+        "│   └─────────┘     └────┘ └────┘      │网络设置  │        │",
+        "│┌────────────────┐                    │中Ώρα     │ ┌────┐ │",
+        "││[ ] 网络设置中Ώρ│ (o) ä?Ü^ß          │και       │ │äöü │ │",
+        "││    α και       │     ü网络设置中    │          │ │?中́ │ │",
+        "││    ημερομηνία  │                    └──────────┘ │    │ │",
+        "│└────────────────┘                                 │    │ │",
+        "│                                                   └────┘ │",
+        "│                                                          │",
+        "网络        Größe    üben     a网络设置 too long for this pl",
     };
     // clang-format on
-    EXPECT_EQ(letters(window(1), 0, 0, 18, 38), expected);
+    EXPECT_EQ(picture(window(1), 0, 0, 18, 60), expected);
 }
 
 TEST_F(KindsTest, CutWhatTheWindowCannotShow)
@@ -242,11 +227,11 @@ TEST_F(KindsTest, CutWhatTheWindowCannotShow)
         for (const int y : {0, 1})
             mvwaddstr(window(1), y, 0, "..........");
         kul::print(window(1), 0, row.nX, row.szText);
-        EXPECT_EQ(letters(window(1), 0, 0, 2, 10), (Rows{row.row, ".........."})) << row.szText;
+        EXPECT_EQ(picture(window(1), 0, 0, 2, 10), (Rows{row.row, ".........."})) << row.szText;
     }
     GetChain(1)->Pointer->szTitle = "Größe über alles";
     DlgBox(GetChain(1)->Pointer);
-    EXPECT_EQ(letters(window(1), 0, 0, 1, 10), Rows{"┌Größe üb┐"});
+    EXPECT_EQ(picture(window(1), 0, 0, 1, 10), Rows{"┌Größe üb┐"});
 }
 
 TEST_F(KindsTest, HoldColumnsNotBytes)

@@ -202,38 +202,10 @@ Rows picture(WINDOW* win, int y, int x, int height, int width)
     return rowsOf(win, y, x, height, width, [](const Cell& cell) { return cell.glyph; });
 }
 
-Rows letters(WINDOW* win, int y, int x, int height, int width)
-{
-    Rows rows(static_cast<std::size_t>(height));
-    for (std::string& row : rows) {
-        for (int column = x; column < x + width;) {
-            cchar_t cell{};
-            wchar_t text[CCHARW_MAX + 1] = L"";
-            char bytes[sizeof text] = "";
-            attr_t attributes = 0;
-            short pair = 0;
-            mvwin_wch(win, y, column, &cell);
-            getcchar(&cell, text, &attributes, &pair, nullptr);
-            const int columns = std::max(wcwidth(text[0]), 1);
-            // Both cells of a wide letter hold it.
-            cchar_t half{};
-            wchar_t again[CCHARW_MAX + 1] = L"";
-            mvwin_wch(win, y, column + columns - 1, &half);
-            getcchar(&half, again, &attributes, &pair, nullptr);
-            const bool whole = std::wcscmp(text, again) == 0 && column + columns <= x + width;
-            std::wcstombs(bytes, whole ? text : L"#", sizeof bytes);
-            row += attributes & A_ALTCHARSET ? lineGlyph(bytes[0]) : bytes;
-            column += columns;
-        }
-        ++y;
-    }
-    return rows;
-}
-
-InColumns::InColumns()
+InColumns::InColumns(int nEdition)
 {
     EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-    kulgui_setEdition(2);
+    kulgui_setEdition(nEdition);
 }
 
 InColumns::~InColumns()

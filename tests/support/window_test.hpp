@@ -28,17 +28,13 @@ struct Cell {
 
 Cell cellOf(WINDOW* win, int y, int x);
 
-// The characters of a rectangle of a window.
+// The characters of a rectangle of a window. A wide one that lost a half makes its row longer or shorter.
 Rows picture(WINDOW* win, int y, int x, int height, int width);
 
-// The same for letters of any width, each with its marks, in a UTF-8 locale. A half of one that lost
-// its other half shows as '#'.
-Rows letters(WINDOW* win, int y, int x, int height, int width);
-
-// Edition 2 and a UTF-8 locale, while it lives.
+// A UTF-8 locale and an edition while it lives; tests begin and end in the C locale and edition 1.
 class InColumns {
 public:
-    InColumns();
+    explicit InColumns(int nEdition = 2);
     ~InColumns();
 };
 

@@ -88,7 +88,7 @@ TEST_F(DynmenuTest, CutsTextsByTheColumnsOfTheLocale)
         ASSERT_NE(std::setlocale(LC_CTYPE, row.locale), nullptr);
         fill(5, 1, 5, 1, {row.szText});
         press({});
-        EXPECT_EQ(letters(window(1), 2, 5, 1, 7), Rows{row.shown}) << row.szText;
+        EXPECT_EQ(picture(window(1), 2, 5, 1, 7), Rows{row.shown}) << row.szText;
     }
     std::setlocale(LC_CTYPE, "C");
     fill(35, 1, 20, 2, {"abcdefgh", "ijklmnop"}); // the window ends first
