@@ -779,7 +779,8 @@ KULGUI_API int kulmenu_create(int nChain, int nRef);
 /** Sets a menu up, without elements, at column 2 of row 2. The three colour sets: KUL_KEEP takes
  * the dialog's; in focus the selected element is in nColorFocus, the other ones in nColorUnfocus
  * or nColorDisable, without focus all are in nColorUnfocus; in edition 2 the selected one is told
- * then as well, black on cyan among black on white ones, else underlined. onFocus and onUnfocus
+ * then as well, black on cyan among black on white ones, else underlined, and where all do not fit
+ * the first ones give way to it. onFocus and onUnfocus
  * run when the menu gets and loses the focus, onClick at Enter. Returns KUL_OK, KUL_ERROR for an
  * unknown component. */
 KULGUI_API int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "boxes.hpp"
 
+#include <algorithm>
 #include <cstring>
 
 #include "options.hpp"
@@ -11,8 +12,6 @@ namespace kuldialog {
 namespace {
 
 enum ShapeName : unsigned char {
-    kText,
-    kFileName,
     kInitial,
     kItems,
     kMarked,
@@ -24,6 +23,8 @@ enum ShapeName : unsigned char {
     kSeconds,
     kStates,
     kRange,
+    kText, // the first of those without anything behind the size
+    kFileName,
     kOutput,
     kCommand
 };
@@ -37,24 +38,23 @@ struct Shape {
 };
 
 constexpr Shape kShapes[] = {
-    {3, 3, 1, 2},  {3, 3, 1, 2},  {3, 4, 1, 2},  {4, -1, 1, 3}, {4, -1, 1, 3},
-    {4, -1, 1, 3}, {4, -1, 1, 3}, {4, -1, 1, 3}, {4, 4, 1, 3},  {3, 4, 1, 3},
-    {4, 4, 1, 3},  {4, -1, 1, 3}, {6, 6, 1, 5},  {2, 3, -2, 2}, {3, 4, -2, 2},
+    {3, 4, 1, 2},  {4, -1, 1, 3}, {4, -1, 1, 3}, {4, -1, 1, 3}, {4, -1, 1, 3},
+    {4, -1, 1, 3}, {4, 4, 1, 3},  {3, 4, 1, 3},  {4, 4, 1, 3},  {4, -1, 1, 3},
+    {6, 6, 1, 5},  {3, 3, 1, 2},  {3, 3, 1, 2},  {2, 3, -2, 2}, {3, 4, -2, 2},
 };
 
-// What they are called: before the size, and behind it.
-constexpr char kBefore[] =
-    "<text>\0<file>\0<text>\0<text>\0<text>\0<text>\0<text>\0<text>\0<text>\0"
-    "<text>\0<text>\0<text>\0<text>\0[<text>]\0[<text>] <command>";
-constexpr char kBehind[] = "\0\0[<init>]\0<rows> <tag item>...\0<rows> <tag item on|off>...\0"
+// What they are called: before the size, a text up to kText, and behind it, nothing from there on.
+constexpr char kBefore[] = "<text>\0<file>\0[<text>]\0[<text>] <command>";
+constexpr char kBehind[] = "[<init>]\0<rows> <tag item>...\0<rows> <tag item on|off>...\0"
                            "<rows> <tag item on|off depth>...\0<rows> <field>...\0"
                            "<rows> <field type>...\0<percent>\0[<percent>]\0<seconds>\0"
-                           "<percent> <tag state>...\0<least> <most> <value>\0\0";
+                           "<percent> <tag state>...\0<least> <most> <value>\0";
 
 void addUsage(Buffer& text, const Box& box)
 {
-    text.add("--").add(box.name).add(' ').add(textAt(kBefore, box.shape));
-    text.add(" <height> <width> ").add(textAt(kBehind, box.shape));
+    const int nShape = box.shape;
+    text.add("--").add(box.name).add(' ').add(textAt(kBefore, nShape - kText));
+    text.add(" <height> <width> ").add(textAt(kBehind, std::min<int>(nShape, kText)));
 }
 
 constexpr unsigned char kOthers = kDialog | kOwn;

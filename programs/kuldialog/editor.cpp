@@ -161,12 +161,11 @@ Answer runEditor(const Call& call)
         !read(call.argument(0), lines, window))
         return kFailed;
     lines.create();
-    kultextbox_setCursor(window.nChain, window.nFocus, 0);
     Editor editor(window, lines);
     window.body = &editor;
     window.onKey = [](Window& of, int nKey) { return static_cast<Editor*>(of.body)->key(nKey); };
     const Answer answer = window.run();
-    if (answer == kAccepted || answer == kExtra) {
+    if (answer == kAccepted) {
         lines.keep();
         beginAnswer(settings);
         for (int i = 0; i < lines.count(); ++i)

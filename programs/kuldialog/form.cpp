@@ -16,7 +16,9 @@ namespace kuldialog {
 
 namespace {
 
-constexpr int kLeastShown = 8; // columns of a line, if it is as long
+constexpr int kFirst = kBody + 1; // text box; kBody would be all there is
+constexpr int kLeastShown = 8;    // columns of a line, if it is as long
+constexpr int kOutside = 9999;    // a row that no window has
 
 } // namespace
 
@@ -85,7 +87,7 @@ void Fields::keep()
     for (int i = 0; i < bound_; ++i) {
         char*& text = fields_[slotPlaces_[i]].text;
         if (char* entry =
-                copyOf(entered(window_, kBody + i), std::strlen(entered(window_, kBody + i)))) {
+                copyOf(entered(window_, kFirst + i), std::strlen(entered(window_, kFirst + i)))) {
             explicit_bzero(text, std::strlen(text));
             std::free(text);
             text = entry;
@@ -123,16 +125,15 @@ void Fields::fill()
         const Field& field = fields_[slotPlaces_[i]];
         // On a narrow screen it covers a part of its label.
         const int nX = std::min(field.x, window_.innerWidth() - std::min(field.shown, kLeastShown));
-        createLine(window_, kBody + i, 2 + nX, window_.nBodyY + field.y - top_,
+        createLine(window_, kFirst + i, 2 + nX, window_.nBodyY + field.y - top_,
                    std::min(field.shown, window_.innerWidth() - nX), field.secret ? MASK : NOMASK,
                    field.limit, field.text);
-        kultextbox_show(window_.nChain, kBody + i);
+        kultextbox_setCursor(window_.nChain, kFirst + i, 0);
     }
-    for (int i = bound_; i < slots_; ++i)
-        kultextbox_hide(window_.nChain, kBody + i);
-    for (int i = labels_; i < nLabelsBefore; ++i)
-        kullabel_hide(window_.nChain, kItem + i);
-    labels_ = std::max(labels_, nLabelsBefore);
+    for (int i = 0; i < slots_; ++i)
+        SetUIVisibility(window_.nChain, kFirst + i, i < bound_ ? T : F);
+    while (labels_ < nLabelsBefore)
+        label(kOutside, 0, "", 0);
     slots_ = std::max(slots_, bound_);
 }
 
@@ -144,8 +145,8 @@ void Fields::create()
         return;
     // All that will ever be there come first, before the buttons.
     for (; slots_ < std::min(window_.nBodyHeight * 4, count_); ++slots_) {
-        kultextbox_create(window_.nChain, kBody + slots_);
-        kultextbox_hide(window_.nChain, kBody + slots_);
+        kultextbox_create(window_.nChain, kFirst + slots_);
+        SetUIVisibility(window_.nChain, kFirst + slots_, F);
     }
     fill();
     current_ = -1;
@@ -163,7 +164,7 @@ void Fields::go(int nPlace)
         top_ = std::clamp(top_, std::max(nRow - window_.nBodyHeight + 1, 0), nRow);
         fill();
     }
-    window_.nFocus = kBody + slotOf(nPlace);
+    window_.nFocus = kFirst + slotOf(nPlace);
     kulgui_setFocus(window_.nChain, window_.nFocus);
 }
 
@@ -184,9 +185,13 @@ int Fields::key(int nKey)
 {
     const int nPage = std::max(window_.nBodyHeight - 1, 1);
     if (window_.has(kButtonRow)) {
-        if (nKey != KS_UP && nKey != KS_DOWN)
+        const bool vertical = nKey == KS_UP || nKey == KS_DOWN;
+        if (name == kDialog && (vertical || nKey == KS_LEFT || nKey == KS_RIGHT))
+            window_.goToButtons(nKey == KS_UP || nKey == KS_LEFT ? -1 : 1);
+        else if (vertical)
+            go(current_);
+        else
             return nKey;
-        go(current_);
         return 0;
     }
     switch (nKey) {

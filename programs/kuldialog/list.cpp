@@ -181,10 +181,12 @@ private:
     int current() const;
     void addChecked(bool first);
     void addHelpOf(int nItem);
+    void noteOrder();
     Answer rename(int nItem);
 
     Window& window_;
     int variant_;
+    int checks_ = 0; // keys that did so
 };
 
 List* shown = nullptr;
@@ -262,8 +264,13 @@ int List::current() const
 void List::showHelp()
 {
     const int nItem = current();
-    kulstatbar_setElement(0, kHelpBar, 0, nItem >= 0 ? items.help(nItem) : "");
-    UpdateDisplayComponents(GetPrimaryChain()->Pointer);
+    Buffer row;
+    row.add(nItem >= 0 ? items.help(nItem) : "");
+    for (int i = columns(row.text()); i < screenWidth(); ++i)
+        row.add(' ');
+    kullabel_config(kDesktopChain, kHelpBar, colors[kWindowColor], KUL_KEEP, 0, screenHeight() - 1,
+                    screenWidth(), 1, LEFT, NOBORDER, row.text());
+    UpdateDisplayComponents(desktop());
 }
 
 // Enter takes what is chosen. The keys that lead to the buttons and back are those of the program
@@ -296,20 +303,38 @@ int List::key(int nKey)
     }
     if (nKey >= '1' && nKey <= '9' && name != kWhiptail && !items.isMarked() && !items.begins(nKey))
         kulgui_select(window_.nChain, kBody, nKey - '1');
-    return nKey;
+    if (nKey == KS_SPACE && window_.settings.is(kReorder))
+        noteOrder();
+    const bool letter = nKey > KS_SPACE && nKey < 127;
+    return letter && window_.settings.is(kNoHotList) ? 0 : nKey;
 }
 
-// Writes the tags of all that are checked.
+// The element has the number of the key that checks it.
+void List::noteOrder()
+{
+    auto* list = variant_ == kBuiltList ? record<KULCHECKBOX>() : nullptr;
+    KULCHECKELEMENT* element = list ? list->Element : nullptr;
+    for (int i = current(); element && i > 0; --i)
+        element = element->Next;
+    if (element)
+        element->nExitCode = ++checks_;
+}
+
+// Writes the tags of all that are checked, in the order of their numbers.
 void List::addChecked(bool first)
 {
     const auto* list = record<KULCHECKBOX>();
     const KULCHECKELEMENT* element = list ? list->Element : nullptr;
     int nLeft = 0;
-    const KULCHECKELEMENT* counted = element;
-    for (int i = 0; counted && i < items.count(); ++i, counted = counted->Next)
-        nLeft += counted->nSelect == 1;
-    for (int i = 0; nLeft > 0; ++i, element = element->Next) {
-        if (element->nSelect != 1)
+    for (int i = 0; element && i < items.count(); ++i, element = element->Next)
+        nLeft += element->nSelect == 1;
+    for (int i = items.count(), nNumber = -1; nLeft > 0; ++i, element = element->Next) {
+        if (i == items.count()) { // from the first one on for each number
+            i = 0;
+            ++nNumber;
+            element = list->Element;
+        }
+        if (element->nSelect != 1 || element->nExitCode != nNumber)
             continue;
         --nLeft;
         addToList(window_.settings, items.tag(i), first, variant_ == kBuiltList && nLeft == 0);
@@ -391,11 +416,8 @@ Answer runList(const Call& call)
     List list(changed, window);
     if (!list.open(call.number(3)))
         return kFailed;
-    if (settings.is(kItemHelp)) {
-        kulstatbar_create(0, kHelpBar);
-        kulstatbar_config(0, kHelpBar, KUL_KEEP, nullptr);
-        kulstatbar_addElement(0, kHelpBar, 0, screenWidth(), "", LEFT, nullptr);
-    }
+    if (settings.is(kItemHelp))
+        kullabel_create(kDesktopChain, kHelpBar);
     list.create();
     window.body = &list;
     window.onKey = [](Window& of, int nKey) { return static_cast<List*>(of.body)->key(nKey); };

@@ -33,7 +33,7 @@ void takeName(const char* szPath)
         name = kDialog;
     else
         return;
-    program = name == kWhiptail ? "whiptail" : "dialog";
+    program = szName;
 }
 
 // The exit status of an answer: the one that the environment has for it, or the usual one.
@@ -119,7 +119,8 @@ Answer Program::runBox()
     if (call.settings.is(kAsciiLines))
         kulgui_setAsciiLines(T);
     if (!isScreenOpen() && !openScreen()) {
-        complain("unusable terminal:", std::getenv("TERM") ? std::getenv("TERM") : "");
+        const char* szTerm = std::getenv("TERM");
+        complain("unusable terminal:", szTerm ? szTerm : "");
         _exit(name == kOwn ? 255 : 1);
     }
     descriptor_ = answerDescriptor(call.settings);
@@ -186,7 +187,6 @@ int Program::run()
             printVersion();
             return 0;
         case Found::Error:
-            closeScreen(nullptr);
             finish(kFailed);
             return name == kWhiptail ? line_.errorStatus() : statusOf(kFailed);
         case Found::Box:

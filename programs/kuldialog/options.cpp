@@ -89,7 +89,7 @@ constexpr Option kOptions[] = {
     {"no-cancel", kOthers, Take::Flag, kNoCancel},
     {"no-close", kOthers, Take::Flag, kIgnoredFlag},
     {"no-collapse", kOthers, Take::Flag, kNoCollapse},
-    {"no-hot-list", kOthers, Take::Flag, kIgnoredFlag},
+    {"no-hot-list", kOthers, Take::Flag, kNoHotList},
     {"no-items", kOthers, Take::Flag, kNoItems},
     {"no-kill", kOthers, Take::Flag, kIgnoredFlag},
     {"no-label", kOthers, Take::Text, kNoLabel},

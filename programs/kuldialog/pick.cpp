@@ -6,8 +6,9 @@
 #include <cstring>
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <kulgui.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include "boxes.hpp"
 #include "entry.hpp"
@@ -84,8 +85,9 @@ bool Picker::isDirectory(const char* szName) const
     Buffer path;
     path.add(listed_.text(), listed_.size());
     path.add(szName);
-    struct stat status;
-    return stat(path.text(), &status) == 0 && S_ISDIR(status.st_mode);
+    const int nFd = open(path.text(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    close(nFd);
+    return nFd >= 0;
 }
 
 void Picker::fill()

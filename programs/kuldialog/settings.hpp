@@ -25,6 +25,7 @@ enum Flag : unsigned char {
     kLastKey,
     kNoCancel,
     kNoCollapse,
+    kNoHotList,
     kNoItems,
     kNoNlExpand,
     kNoOk,

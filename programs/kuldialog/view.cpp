@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
 // Files to read, as they are or while they grow.
-#include <cerrno>
-#include <cstring>
-
 #include <fcntl.h>
 #include <kulgui.h>
 #include <poll.h>
@@ -55,12 +52,8 @@ bool loadable(const char* szFile, Buffer& name)
     if (given)
         nFd = nScriptInput;
     struct stat status;
-    const int nError = nFd < 0 || fstat(nFd, &status) != 0 ? errno
-                       : S_ISDIR(status.st_mode)           ? EISDIR
-                       : isatty(nFd)                       ? EINVAL
-                                                           : 0;
-    if (nError) {
-        complain(szFile, std::strerror(nError));
+    if (nFd < 0 || fstat(nFd, &status) != 0 || S_ISDIR(status.st_mode) || isatty(nFd)) {
+        complain("cannot read", szFile);
         return false;
     }
     const bool regular = S_ISREG(status.st_mode);

@@ -22,7 +22,6 @@ constexpr int kWidest = 72; // columns of text; longer rows are hard to read
 constexpr int kInterrupt = 3;
 
 int nLastChain = 0;
-char* lastTitle = nullptr;
 
 KULMENU* buttonRow(int nChain)
 {
@@ -188,6 +187,7 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     bodyLeast_ = nLeastRows;
     bodyColumns_ = nColumns;
     addButtons(buttons);
+    cancels_ = buttons == kOkCancel;
     measure();
     const bool cornered = settings.is(kTopLeft);
     const int nMiddleX = (screenWidth() - nWidth) / 2;
@@ -202,12 +202,12 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     }
     kulgui_create(nChain);
     // Below the next box it is still there, with its title.
-    lastTitle = copyOf(title.text(), title.size());
+    char* kept = copyOf(title.text(), title.size());
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      lastTitle, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      kept, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
                       std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
                       nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
-        removeLast();
+        std::free(kept);
         return false;
     }
     area_.create(nChain, 1, textRows_);
@@ -240,17 +240,19 @@ Answer Window::run()
     if (nResult == KUL_CANCELLED)
         answer_ = kEscaped;
     // What a script without a way to cancel gets from one of the programs.
-    if (answer_ == kEscaped && name == kWhiptail && settings.is(kNoCancel) && bodyWanted_ > 0)
+    if (answer_ == kEscaped && name == kWhiptail && settings.is(kNoCancel) && cancels_)
         answer_ = kCancelled;
     return answer_;
 }
 
 void Window::removeLast()
 {
-    if (nLastChain > kDesktopChain)
-        kulgui_destroy(nLastChain--);
-    std::free(lastTitle);
-    lastTitle = nullptr;
+    if (nLastChain == kDesktopChain)
+        return;
+    const CHAIN* chain = GetChain(nLastChain);
+    char* title = chain && chain->Pointer ? const_cast<char*>(chain->Pointer->szTitle) : nullptr;
+    kulgui_destroy(nLastChain--);
+    std::free(title);
 }
 
 void Window::end(Answer answer)
@@ -322,6 +324,9 @@ int Window::movedInRow(int nKey)
             return 0;
         }
     }
+    // One of the programs keeps up and down for the text of a question.
+    if (name == kDialog && bodyWanted_ == 0 && (nKey == KS_UP || nKey == KS_DOWN))
+        return 0;
     const bool forward = nKey == KS_TAB || nKey == KS_RIGHT || nKey == KS_DOWN;
     if (!forward && nKey != KS_BACKTAB && nKey != KS_LEFT && nKey != KS_UP)
         return nKey;
@@ -332,7 +337,9 @@ int Window::movedInRow(int nKey)
         return 0;
     // For when the focus comes round.
     kulgui_select(nChain, kButtonRow, forward || !isAlone() ? 0 : buttonCount_ - 1);
-    return isAlone() ? 0 : forward ? KS_TAB : KS_BACKTAB;
+    if (nFocus > kBody) // back to where the focus came from
+        kulgui_setFocus(nChain, nFocus);
+    return nFocus != kBody ? 0 : forward ? KS_TAB : KS_BACKTAB;
 }
 
 // The file that F1 tells is in a window above this one.

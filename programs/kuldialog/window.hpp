@@ -113,6 +113,7 @@ private:
     int bodyLeast_ = 0;
     int bodyColumns_ = 0;
     int timer_ = -1;
+    bool cancels_ = false; // has a button for that, or would
     Answer answer_ = kFailed;
 };
 

@@ -47,6 +47,24 @@ protected:
     }
 };
 
+TEST_F(Edition2Test, AMenuLongerThanItsRowShowsTheSelectedText)
+{
+    kulgui_destroy(1);
+    makeDialog(1, 20, 5);
+    kulmenu_create(1, 1);
+    kulmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
+    for (const char* szText : {"<One>", "<Two>", "<Three>", "<Four>"})
+        kulmenu_addElement(1, 1, szText, 1, nullptr, nullptr);
+    const auto shown = [this](std::vector<int> keys) {
+        run(keys);
+        return kultest::picture(window(1), 2, 0, 1, 20)[0];
+    };
+    EXPECT_EQ(shown({}), "│ <One>   <Two>   <T");
+    EXPECT_EQ(shown({KS_RIGHT, KS_RIGHT}), "│ <Two>   <Three>  │");
+    EXPECT_EQ(shown({KS_END}), "│ <Three>   <Four> │");
+    EXPECT_EQ(shown({KS_HOME}), "│ <One>   <Two>   <T");
+}
+
 // 1 at the top left, 2 right of it, 3 below 1, 4 far below and to the right; 5 hidden, 6 disabled
 // by its record, 7 by the program.
 TEST_F(Edition2Test, TheFocusGoesByTabsAndArrows)

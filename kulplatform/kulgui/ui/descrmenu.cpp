@@ -21,16 +21,12 @@ void draw(GUI* gui, const KULDESCRMENU& menu, kul::Finger<KULDESCRMENUELEMENT>& 
     Fill(win, nBox, menu.nX, menu.nBoxHeight, menu.nBoxWidth, nFrame);
     Fill(win, nLine, menu.nX, 1, menu.nBarLength, nFrame);
     DrawBorder(win, nLine, menu.nX, kul::shifted(menu.nBoxHeight, 1), menu.nBoxWidth, nFrame);
-    const auto describe = [&](const KULDESCRMENUELEMENT& element) {
-        NewStrToBox(win, kul::shifted(menu.nX, 1), nBox, kul::shifted(menu.nBoxWidth, -3),
-                    kul::shifted(menu.nBoxHeight, -2), nFrame, LEFT, element.szBoxText);
-    };
-    const int nDrawn = kul::drawBar(win, menu.nY, menu.nX, menu.Element, menu.nSelect,
-                                    kul::menuColors(menu, nFocus), describe);
+    const auto* selected = place.find(menu.Element, menu.nSelect);
+    kul::drawBar(win, menu.nY, menu.nX, menu.Element, selected, kul::menuColors(menu, nFocus));
     // One whose text lies outside of the window is described all the same.
-    const auto* outside = menu.nSelect < nDrawn ? nullptr : place.find(menu.Element, menu.nSelect);
-    if (outside)
-        describe(*outside);
+    if (selected)
+        NewStrToBox(win, kul::shifted(menu.nX, 1), nBox, kul::shifted(menu.nBoxWidth, -3),
+                    kul::shifted(menu.nBoxHeight, -2), nFrame, LEFT, selected->szBoxText);
 }
 
 } // namespace

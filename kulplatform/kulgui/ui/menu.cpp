@@ -233,8 +233,13 @@ void ShowMenuComponent(GUI* thisGUI, KULMENU* thisMenu, int nFocus)
 {
     if (!thisGUI || !thisMenu || thisMenu->nVisible != T)
         return;
-    kul::drawBar(thisGUI->winMain, thisMenu->nY, thisMenu->nX, thisMenu->Element, thisMenu->nSelect,
-                 kul::menuColors(*thisMenu, nFocus), [](const KULMENUELEMENT&) {});
+    // The record may be the program's own, that remembers no place.
+    kul::Finger<KULMENUELEMENT> start{};
+    auto* inner = kul::innerOf<kul::Menu>(thisMenu);
+    auto& place = inner ? inner->place : start;
+    kul::drawBar(thisGUI->winMain, thisMenu->nY, thisMenu->nX, thisMenu->Element,
+                 place.find(thisMenu->Element, thisMenu->nSelect),
+                 kul::menuColors(*thisMenu, nFocus));
 }
 
 int kulmenu_execKeys(int nChain, int nRef)

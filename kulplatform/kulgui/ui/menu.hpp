@@ -47,29 +47,30 @@ int elementColor(const MenuColors& colors, const Element& element, bool selected
 }
 
 // Prints texts side by side, three columns apart, those that begin left of the window's right edge.
-// onSelected gets the selected element after its text. Returns how many positions it came by.
-template <typename Element, typename OnSelected>
-int drawBar(WINDOW* win, int nY, int nX, const Element* element, int nSelect,
-            const MenuColors& colors, OnSelected onSelected)
+// In edition 2 the first ones give way to the selected one, which ends left of a frame.
+template <typename Element>
+void drawBar(WINDOW* win, int nY, int nX, const Element* element, const Element* selected,
+             const MenuColors& colors)
 {
-    constexpr int kGap = 3;
-    int nPosition = 0;
-    for (; element && nX < getmaxx(win); element = element->Next, ++nPosition) {
-        const char* szText = element->szText ? element->szText : "";
-        const bool selected = nPosition == nSelect;
-        {
-            const Attribute color(win, elementColor(colors, *element, selected),
-                                  selected && colors.rests);
-            print(win, nY, nX, szText);
-        }
-        if (selected) {
-            if (colors.focused)
-                showCursorAt(win, nY, nX);
-            onSelected(*element);
-        }
-        nX = shifted(nX, widthOf(szText) + static_cast<long long>(kGap));
+    constexpr long long kGap = 3;
+    const auto columns = [](const Element* each) {
+        return widthOf(each->szText ? each->szText : "");
+    };
+    if (const Element* head = element; isEdition2() && selected) {
+        long long nEnd = nX + columns(element = selected);
+        while (element != head && (nEnd += kGap + columns(element->Prev)) < getmaxx(win))
+            element = element->Prev;
     }
-    return nPosition;
+    for (; element && nX < getmaxx(win); element = element->Next) {
+        {
+            const Attribute color(win, elementColor(colors, *element, element == selected),
+                                  element == selected && colors.rests);
+            print(win, nY, nX, element->szText ? element->szText : "");
+        }
+        if (element == selected && colors.focused)
+            showCursorAt(win, nY, nX);
+        nX = shifted(nX, columns(element) + kGap);
+    }
 }
 
 // A menu of any kind, for what does not draw it.
