@@ -65,14 +65,21 @@ void Painter::findChanges()
         ++nFirst_;
 }
 
+// Of cells that are alike, before and after, one is looked at.
 bool Painter::paint()
 {
     findChanges();
     for (int x = nFirst_; x <= nLast_;) {
-        const int nPainted = differs(x) ? paintFrom(x) : 1;
-        if (nPainted == 0)
-            return false;
-        x += nPainted;
+        if (differs(x)) {
+            const int nPainted = paintFrom(x);
+            if (nPainted == 0)
+                return false;
+            x += nPainted;
+            continue;
+        }
+        do
+            ++x;
+        while (x <= nLast_ && isSame(next_[x], next_[x - 1]) && isSame(seen_[x], seen_[x - 1]));
     }
     return true;
 }
@@ -295,19 +302,19 @@ int Painter::goOnBlank(int nX)
 int Painter::goOn(int nX)
 {
     char run[64];
-    const auto isAlike = [&](int nAt) { return isSameLook(next_[nAt], next_[nX]); };
-    const auto goesOn = [&](int nAt) {
-        return nAt < nLast_ && isLetter(next_[nAt]) && isAlike(nAt) &&
-               letterOf(next_[nAt]) != letterOf(next_[nAt + 1]) && differs(nAt);
+    const ScreenCell* next = &next_[nX];
+    const auto goesOn = [=, this](int n) {
+        return nX + n < nLast_ && isLetter(next[n]) && isSameLook(next[n], *next) &&
+               letterOf(next[n]) != letterOf(next[n + 1]) && differs(nX + n);
     };
-    std::size_t n = 0;
-    for (int x = nX + 1; n < sizeof run && (goesOn(x) || (bareLetterOf(next_[x]) == ' ' &&
-                                                          isAlike(x) && goesOn(x + 1)));
-         ++x)
-        run[n++] = static_cast<char>(letterOf(next_[x]));
-    const int nCount = static_cast<int>(n);
-    pen_.write({run, n}, nCount);
-    return nCount;
+    int n = 1;
+    while (n < 64 && (goesOn(n) || (bareLetterOf(next[n]) == ' ' && isSameLook(next[n], *next) &&
+                                    goesOn(n + 1)))) {
+        run[n] = static_cast<char>(letterOf(next[n]));
+        ++n;
+    }
+    pen_.write({run + 1, static_cast<std::size_t>(n - 1)}, n - 1);
+    return n - 1;
 }
 
 } // namespace kul
