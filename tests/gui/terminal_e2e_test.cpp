@@ -13,7 +13,7 @@
 #include <initializer_list>
 #include <iterator>
 #include <string>
-#include <sys/resource.h>
+#include <sys/times.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <thread>
@@ -329,14 +329,12 @@ TEST(Held, SleepsLosesNothingAndCanBeEnded)
     EXPECT_TRUE(Line(terminal).modes.c_lflag & ICANON);
 }
 
+// And those that programs which have ended had.
 double processorSeconds()
 {
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    const auto seconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
-    };
-    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+    tms used{};
+    times(&used);
+    return static_cast<double>(used.tms_cutime + used.tms_cstime) / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
 TEST(HangUp, EndsTheProgramOrTheLoopOfItsDialogSoonAndQuietly)

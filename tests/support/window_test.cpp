@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <clocale>
 #include <cstdlib>
 #include <ctime>
 #include <cwchar>
@@ -22,16 +21,13 @@ std::deque<int> script;
 std::vector<KULCALLBACK> scriptActions;
 const void* watched = nullptr;
 std::size_t watchedBytes = 0;
-bool hadColors = true;
 std::time_t clockNow = 1000000;
-int goodAllocations = INT_MAX;
 int nUpdates = INT_MIN; // since a key was given; far below while none was
 
 bool allocationFails()
 {
-    if (goodAllocations == INT_MAX)
-        return false;
-    return goodAllocations <= 0 || goodAllocations-- <= 0;
+    int& nGood = kultest::FailingMemory::nGoodAllocations;
+    return nGood != INT_MAX && (nGood <= 0 || nGood-- <= 0);
 }
 
 void startCurses()
@@ -114,7 +110,7 @@ ssize_t __real_write(int file, const void* bytes, std::size_t size);
 void* __wrap_malloc(std::size_t size) { return allocationFails() ? nullptr : __real_malloc(size); }
 char* __wrap_strdup(const char* text) { return allocationFails() ? nullptr : __real_strdup(text); }
 int __wrap_NCursesEnv(int) { return 0; }
-bool __wrap_has_colors() { return hadColors; }
+bool __wrap_has_colors() { return !kultest::NoColors::here; }
 // clang-format on
 
 void* __wrap_calloc(std::size_t count, std::size_t size)
@@ -202,18 +198,6 @@ Rows picture(WINDOW* win, int y, int x, int height, int width)
     return rowsOf(win, y, x, height, width, [](const Cell& cell) { return cell.glyph; });
 }
 
-InColumns::InColumns(int nEdition)
-{
-    EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-    kulgui_setEdition(nEdition);
-}
-
-InColumns::~InColumns()
-{
-    kulgui_setEdition(1);
-    std::setlocale(LC_ALL, "C");
-}
-
 Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<Legend>& legend)
 {
     return rowsOf(win, y, x, height, width, [&](const Cell& cell) {
@@ -236,16 +220,6 @@ void advanceClock(int seconds)
     clockNow += seconds;
 }
 
-FailingMemory::FailingMemory(int nGood)
-{
-    goodAllocations = nGood;
-}
-
-FailingMemory::~FailingMemory()
-{
-    goodAllocations = INT_MAX;
-}
-
 void watchFree(const void* memory, std::size_t nBytes)
 {
     watched = memory;
@@ -255,16 +229,6 @@ void watchFree(const void* memory, std::size_t nBytes)
 bool wasFreedClear()
 {
     return !watched;
-}
-
-NoColors::NoColors()
-{
-    hadColors = false;
-}
-
-NoColors::~NoColors()
-{
-    hadColors = true;
 }
 
 void WindowTest::SetUp()

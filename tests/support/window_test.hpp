@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+#include <clocale>
 #include <initializer_list>
 #include <string>
 #include <type_traits>
@@ -32,10 +34,17 @@ Cell cellOf(WINDOW* win, int y, int x);
 Rows picture(WINDOW* win, int y, int x, int height, int width);
 
 // A UTF-8 locale and an edition while it lives; tests begin and end in the C locale and edition 1.
-class InColumns {
-public:
-    explicit InColumns(int nEdition = 2);
-    ~InColumns();
+struct InColumns {
+    explicit InColumns(int nEdition = 2)
+    {
+        EXPECT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+        kulgui_setEdition(nEdition);
+    }
+    ~InColumns()
+    {
+        std::setlocale(LC_ALL, "C");
+        kulgui_setEdition(1);
+    }
 };
 
 // What stands for a colour pair in a picture of colours; reverse cells are upper case.
@@ -56,10 +65,10 @@ void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& acti
 void advanceClock(int seconds);
 
 // While it lives, the allocation after the next nGood ones fails, and all later ones.
-class FailingMemory {
-public:
-    explicit FailingMemory(int nGood);
-    ~FailingMemory();
+struct FailingMemory {
+    static inline int nGoodAllocations = INT_MAX;
+    explicit FailingMemory(int nGood) { nGoodAllocations = nGood; }
+    ~FailingMemory() { nGoodAllocations = INT_MAX; }
 };
 
 // Looks out for memory until it is freed with all of its bytes cleared.
@@ -67,10 +76,10 @@ void watchFree(const void* memory, std::size_t nBytes);
 bool wasFreedClear();
 
 // While it lives, the terminal has no colours.
-class NoColors {
-public:
-    NoColors();
-    ~NoColors();
+struct NoColors {
+    static inline bool here = false;
+    NoColors() { here = true; }
+    ~NoColors() { here = false; }
 };
 
 // 80 x 24 cells, a primary dialog 0 in its default colours, and nothing else. Frees all after.
