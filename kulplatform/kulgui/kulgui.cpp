@@ -329,10 +329,7 @@ int kulgui_hide(int nChain)
         return 0;
     const kul::Pass pass;
     gui->nVisible = F;
-    if (gui->pnlShadow)
-        hide_panel(gui->pnlShadow);
-    if (gui->pnlMain)
-        hide_panel(gui->pnlMain);
+    kul::hidePanels(kul::panelsOf(*gui));
     return 0;
 }
 

@@ -44,10 +44,11 @@ struct Dialog : GUI {
     bool resized; // to be told by it
     Wish column;
     Wish row;
-    WINDOW* view;  // what its panel shows while it is larger than the screen, else null
-    Cell part;     // where in its window that begins
-    Cell followed; // where the user was when that was last made to be seen
-    WINDOW* kept;  // its picture during a change of size
+    PANEL* pnlSide; // the column of its shadow; winShadow is the row
+    WINDOW* view;   // what its panel shows while it is larger than the screen, else null
+    Cell part;      // where in its window that begins
+    Cell followed;  // where the user was when that was last made to be seen
+    WINDOW* kept;   // its picture during a change of size
     void* user;
     Mark* marks;
 };

@@ -162,7 +162,7 @@ void DlgBox(GUI* thisGUI)
         WinFill(thisGUI->winShadow, kul::kShadowPair);
     DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);
     printFrameTitle(*thisGUI);
-    kul::raisePanels(thisGUI->pnlShadow, thisGUI->pnlMain);
+    kul::raisePanels(kul::panelsOf(*thisGUI));
     thisGUI->nVisible = T;
 }
 
@@ -171,7 +171,7 @@ void ShowDlg(DLG* dialog)
     if (!dialog || !dialog->winMain || !dialog->winShadow)
         return;
     kul::Pass pass;
-    kul::raisePanels(dialog->pnlShadow, dialog->pnlMain);
+    kul::raisePanels({dialog->pnlShadow, nullptr, dialog->pnlMain});
     dialog->nVisible = T;
 }
 
@@ -180,7 +180,7 @@ void HideDlg(DLG* dialog)
     if (!dialog)
         return;
     kul::Pass pass;
-    kul::hidePanels(dialog->pnlShadow, dialog->pnlMain);
+    kul::hidePanels({dialog->pnlShadow, nullptr, dialog->pnlMain});
     dialog->nVisible = F;
 }
 

@@ -2,7 +2,9 @@
 //
 // A dialog lies where the program wants it as long as it is seen whole there; else it is moved in
 // from the edge, and back when there is room again. Its shadow is one cell further down and to the
-// right, as far as the screen goes.
+// right, as far as the screen goes. Windows have the row below a dialog and the column beside it,
+// the cells that are seen of a shadow: one of its whole size would take as much memory as the
+// dialog.
 //
 // The panel of a dialog that is larger than the screen shows a window of its own, a view of a part
 // of it; curses would read beyond the screen, or cut the dialog where its buttons are.
@@ -53,6 +55,16 @@ Box shadowOf(const Box& box)
         return {box.nY, box.nX, 1, 1};
     return {box.nY + 1, box.nX + 1, std::min(box.nHeight, LINES - box.nY - 1),
             std::min(box.nWidth, COLS - box.nX - 1)};
+}
+
+Box belowOf(const Box& shadow)
+{
+    return {shadow.nY + shadow.nHeight - 1, shadow.nX, 1, shadow.nWidth};
+}
+
+Box besideOf(const Box& shadow)
+{
+    return {shadow.nY, shadow.nX + shadow.nWidth - 1, shadow.nHeight, 1};
 }
 
 // What the record says if the program has written another place there than it was given.
@@ -111,17 +123,27 @@ void chooseView(Dialog& dialog, const Box& box)
         delwin(before);
 }
 
-void setPanels(PANEL* pnlShadow, PANEL* pnlMain, int (*action)(PANEL*))
+void setPanels(const Panels& panels, int (*action)(PANEL*))
 {
-    for (PANEL* panel : {pnlShadow, pnlMain}) {
+    for (PANEL* panel : {panels.pnlShadow, panels.pnlSide, panels.pnlMain}) {
         if (panel)
             action(panel);
     }
 }
 
+// A shadow's window with its panel; null without memory.
+PANEL* newShadow(const Box& box)
+{
+    WINDOW* win = newWindow(box);
+    PANEL* panel = win ? new_panel(win) : nullptr;
+    if (win && !panel)
+        delwin(win);
+    return panel;
+}
+
 void dropWindows(GUI& gui)
 {
-    setPanels(gui.pnlShadow, gui.pnlMain, del_panel);
+    setPanels({gui.pnlShadow, nullptr, gui.pnlMain}, del_panel);
     for (WINDOW* win : {gui.winShadow, gui.winMain}) {
         if (win && win != stdscr)
             delwin(win);
@@ -165,26 +187,28 @@ void layOut(Dialog& dialog)
     chooseView(dialog, box);
     dialog.part = dialog.followed = {};
     movePanel(dialog.pnlMain, box); // without memory for a view the window is cut
-    movePanel(dialog.pnlShadow, shadowOf(box));
+    movePanel(dialog.pnlShadow, belowOf(shadowOf(box)));
+    movePanel(dialog.pnlSide, besideOf(shadowOf(box)));
     WinFill(dialog.winShadow, kShadowPair);
+    WinFill(panel_window(dialog.pnlSide), kShadowPair);
 }
 
 void makeWindows(GUI* thisGUI)
 {
+    Dialog* dialog = findDialog(thisGUI);
     const Box box = boxOf(*thisGUI);
-    thisGUI->winMain =
-        newWindow({box.nY, box.nX, limited(thisGUI->nHeight), limited(thisGUI->nWidth)});
-    thisGUI->winShadow = newWindow(shadowOf(box));
+    const Box shadow = shadowOf(box);
     shadowsMade = true;
     defineShadow();
-    if (thisGUI->winMain && thisGUI->winShadow) {
-        thisGUI->pnlShadow = new_panel(thisGUI->winShadow);
-        thisGUI->pnlMain = new_panel(thisGUI->winMain);
-        touchwin(thisGUI->winShadow);
-    }
-    Dialog* dialog = findDialog(thisGUI);
-    if (!thisGUI->pnlShadow || !thisGUI->pnlMain)
-        dropWindows(*thisGUI);
+    thisGUI->pnlShadow = newShadow(dialog ? belowOf(shadow) : shadow);
+    thisGUI->winShadow = panel_window(thisGUI->pnlShadow);
+    if (dialog)
+        dialog->pnlSide = newShadow(besideOf(shadow));
+    thisGUI->winMain =
+        newWindow({box.nY, box.nX, limited(thisGUI->nHeight), limited(thisGUI->nWidth)});
+    thisGUI->pnlMain = new_panel(thisGUI->winMain);
+    if (!thisGUI->pnlShadow || !thisGUI->pnlMain || (dialog && !dialog->pnlSide))
+        dialog ? deleteWindows(*dialog) : dropWindows(*thisGUI);
     else if (dialog)
         layOut(*dialog);
 }
@@ -192,8 +216,13 @@ void makeWindows(GUI* thisGUI)
 void deleteWindows(Dialog& dialog)
 {
     dropWindows(dialog);
-    if (dialog.view)
-        delwin(dialog.view);
+    WINDOW* side = panel_window(dialog.pnlSide);
+    del_panel(dialog.pnlSide);
+    for (WINDOW* win : {side, dialog.view}) {
+        if (win)
+            delwin(win);
+    }
+    dialog.pnlSide = nullptr;
     dialog.view = nullptr;
 }
 
@@ -207,19 +236,28 @@ KeptOrder::~KeptOrder()
     --nKeptOrders;
 }
 
-void raisePanels(PANEL* pnlShadow, PANEL* pnlMain)
+Panels panelsOf(const GUI& gui)
 {
-    if (nKeptOrders > 0 && pnlMain && !panel_hidden(pnlMain))
-        return;
-    const bool onTop = pnlMain && pnlShadow && !panel_hidden(pnlMain) && !panel_hidden(pnlShadow) &&
-                       !panel_above(pnlMain) && panel_below(pnlMain) == pnlShadow;
-    if (!onTop)
-        setPanels(pnlShadow, pnlMain, show_panel);
+    const Dialog* dialog = findDialog(&gui);
+    return {gui.pnlShadow, dialog ? dialog->pnlSide : nullptr, gui.pnlMain};
 }
 
-void hidePanels(PANEL* pnlShadow, PANEL* pnlMain)
+void raisePanels(const Panels& panels)
 {
-    setPanels(pnlShadow, pnlMain, hide_panel);
+    PANEL* main = panels.pnlMain;
+    if (nKeptOrders > 0 && main && !panel_hidden(main))
+        return;
+    PANEL* next = panels.pnlSide ? panels.pnlSide : panels.pnlShadow;
+    const bool onTop = main && panels.pnlShadow && !panel_hidden(main) &&
+                       !panel_hidden(panels.pnlShadow) && !panel_above(main) &&
+                       panel_below(main) == next;
+    if (!onTop)
+        setPanels(panels, show_panel);
+}
+
+void hidePanels(const Panels& panels)
+{
+    setPanels(panels, hide_panel);
 }
 
 } // namespace kul

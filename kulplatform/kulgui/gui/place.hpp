@@ -28,9 +28,18 @@ void makeWindows(GUI* thisGUI);
 // Deletes a dialog's and clears the fields. The standard screen stays.
 void deleteWindows(Dialog& dialog);
 
+// What a frame is made of, from the lowest on. Any of them may be null.
+struct Panels {
+    PANEL* pnlShadow;
+    PANEL* pnlSide; // of its shadow, too
+    PANEL* pnlMain;
+};
+
+Panels panelsOf(const GUI& gui);
+
 // Shows a frame above all others with its shadow right below it. Does nothing when it is so, or
 // when the order is kept.
-void raisePanels(PANEL* pnlShadow, PANEL* pnlMain);
+void raisePanels(const Panels& panels);
 
 // While it lives, a frame that is shown is not raised: what is drawn again keeps its place.
 class KeptOrder {
@@ -41,7 +50,7 @@ public:
     KeptOrder& operator=(const KeptOrder&) = delete;
 };
 
-void hidePanels(PANEL* pnlShadow, PANEL* pnlMain);
+void hidePanels(const Panels& panels);
 
 } // namespace kul
 

@@ -60,7 +60,7 @@ void raiseFocused()
 {
     const GUI* gui = onTop ? findDialog(onTop->chain()) : nullptr;
     if (gui && gui->nVisible == T)
-        raisePanels(gui->pnlShadow, gui->pnlMain);
+        raisePanels(panelsOf(*gui));
 }
 
 // Whether nothing lies above a window.

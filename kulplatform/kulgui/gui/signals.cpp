@@ -8,8 +8,10 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstddef>
 #include <iterator>
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "line.hpp"
@@ -17,6 +19,8 @@
 namespace kul {
 
 namespace {
+
+constexpr std::size_t kSpareStack = 16384;
 
 // Those that neither end nor stop a process by default, that cannot be caught, or that tell a
 // process in the background to keep off the terminal.
@@ -27,7 +31,7 @@ volatile sig_atomic_t nResumed = 0;
 volatile sig_atomic_t nAway = 0; // given back to be stopped
 volatile sig_atomic_t nResized = 0;
 volatile pid_t owner = 0;
-alignas(16) char spareStack[16384];
+void* spareStack = MAP_FAILED; // in pages of its own: memory only once a handler has run
 
 void onEnding(int nSignal);
 void onStop(int nSignal);
@@ -142,11 +146,15 @@ void takeSignals()
 {
     owner = getpid();
     nResumed = 0;
+    if (spareStack == MAP_FAILED)
+        spareStack =
+            mmap(nullptr, kSpareStack, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     stack_t before{};
-    if (sigaltstack(nullptr, &before) == 0 && before.ss_flags & SS_DISABLE) {
+    if (spareStack != MAP_FAILED && sigaltstack(nullptr, &before) == 0 &&
+        before.ss_flags & SS_DISABLE) {
         stack_t own{};
         own.ss_sp = spareStack;
-        own.ss_size = sizeof spareStack;
+        own.ss_size = kSpareStack;
         sigaltstack(&own, nullptr);
     }
     for (int nSignal = 1; nSignal < NSIG; ++nSignal) {
