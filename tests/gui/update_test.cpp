@@ -95,20 +95,21 @@ public:
     void draw()
     {
         const int nThings = below(6) + 1;
+        PANEL* top = below(3) == 0 && !wide_ ? panel_below(nullptr) : nullptr; // alone
         for (int i = 0; i < nThings; ++i)
-            drawOne();
+            drawOne(top);
         if (below(40) == 0)
             clearok(curscr, TRUE);
-        update_panels();
+        kul::compose();
     }
 
     int below(int n) { return static_cast<int>(numbers_() % static_cast<unsigned>(n)); }
 
 private:
-    void drawOne()
+    void drawOne(PANEL* top)
     {
-        PANEL* panel = side_.panels[below(kPanels)];
-        WINDOW* win = below(3) && !wide_ ? panel_window(panel) : stdscr;
+        PANEL* panel = top ? top : side_.panels[below(kPanels)];
+        WINDOW* win = top || (below(3) && !wide_) ? panel_window(panel) : stdscr;
         const int nWidth = getmaxx(win) - (win == stdscr ? nMargin_ : 0);
         const int y = below(getmaxy(win)) | (wide_ ? 1 : 0);
         const int x = below(nWidth);

@@ -100,8 +100,9 @@ int pairOf(const ScreenCell& cell)
 
 } // namespace
 
-bool ScreenRow::prepare()
+bool ScreenRow::prepare(Columns columns)
 {
+    columns_ = columns;
     if (nRoom_ > COLS)
         return true;
     void* cells = std::realloc(cells_, (static_cast<std::size_t>(COLS) + 1) * sizeof *cells_);
@@ -128,9 +129,9 @@ ScreenCell blankCell()
 
 bool ScreenRow::read(WINDOW* win, int nY)
 {
-    if (mvwin_wchnstr(win, nY, 0, cells_, COLS) == ERR)
+    if (mvwin_wchnstr(win, nY, begin(), cells_ + begin(), end() - begin()) == ERR)
         return false;
-    const bool narrow = std::all_of(cells_, cells_ + COLS, [](const ScreenCell& cell) {
+    const bool narrow = std::all_of(cells_ + begin(), cells_ + end(), [](const ScreenCell& cell) {
         return cell.chars[0] > 0 && cell.chars[0] < kFirstWide;
     });
     return narrow || readEach(win, nY);
@@ -140,13 +141,13 @@ bool ScreenRow::read(WINDOW* win, int nY)
 // shown as a blank.
 bool ScreenRow::readEach(WINDOW* win, int nY)
 {
-    for (int x = 0; x < COLS; ++x) {
+    for (int x = begin(); x < end(); ++x) {
         if (mvwin_wch(win, nY, x, &cells_[x]) == ERR)
             return false;
     }
-    for (int x = 0; x < COLS; ++x) {
+    for (int x = begin(); x < end(); ++x) {
         const bool wide = letterOf(cells_[x]) >= kFirstWide && wcwidth(letterOf(cells_[x])) == 2;
-        const bool whole = x + 1 < COLS && !isTail(cells_[x]) && isTail(cells_[x + 1]);
+        const bool whole = x + 1 < end() && !isTail(cells_[x]) && isTail(cells_[x + 1]);
         if (wide && whole)
             ++x;
         else if (wide || isTail(cells_[x]))
@@ -197,7 +198,7 @@ ScreenCell blankCell()
 
 bool ScreenRow::read(WINDOW* win, int nY)
 {
-    return mvwinchnstr(win, nY, 0, cells_, COLS) != ERR;
+    return mvwinchnstr(win, nY, begin(), cells_ + begin(), end() - begin()) != ERR;
 }
 
 bool isSameLetter(const ScreenCell& one, const ScreenCell& other)

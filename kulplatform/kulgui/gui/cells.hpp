@@ -15,11 +15,21 @@ using ScreenCell = cchar_t;
 using ScreenCell = chtype;
 #endif
 
-// The row of a window, as wide as the screen. There are never more than two at a time.
+// Columns from the first one to the one behind the last.
+struct Columns {
+    int nBegin;
+    int nEnd;
+};
+
+// Some columns of a row of a window that is as wide as the screen. There are never more than two at
+// a time.
 class ScreenRow {
 public:
-    // Room for a row of the screen as it is now; false without memory.
-    bool prepare();
+    // Room for a row of the screen as it is now, of which these columns are read; false without
+    // memory.
+    bool prepare(Columns columns);
+    int begin() const { return columns_.nBegin; }
+    int end() const { return columns_.nEnd; }
 
     // False where the row cannot be told, half of a wide letter being missing for instance.
     bool read(WINDOW* win, int nY);
@@ -31,6 +41,7 @@ private:
     bool readEach(WINDOW* win, int nY);
 
     ScreenCell* cells_ = nullptr;
+    Columns columns_{};
     int nRoom_ = 0;
 };
 

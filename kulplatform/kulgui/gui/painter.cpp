@@ -53,8 +53,8 @@ void Painter::findChanges()
     const auto isSamePiece = [this](int nX) {
         return std::memcmp(&next_[nX], &seen_[nX], kPiece * sizeof(ScreenCell)) == 0;
     };
-    nFirst_ = 0;
-    nLast_ = COLS - 1;
+    nFirst_ = next_.begin();
+    nLast_ = next_.end() - 1;
     while (nFirst_ + kPiece <= nLast_ && isSamePiece(nFirst_))
         nFirst_ += kPiece;
     while (nFirst_ + kPiece <= nLast_ && isSamePiece(nLast_ - kPiece + 1))
@@ -133,7 +133,7 @@ int Painter::lastChange(int nX, int nEnd) const
 int Painter::runOf(int nX) const
 {
     int nEnd = nX + 1;
-    while (nEnd < COLS && looksSame(next_[nEnd], next_[nX]))
+    while (nEnd < next_.end() && looksSame(next_[nEnd], next_[nX]))
         ++nEnd;
     return nEnd - nX;
 }
@@ -141,7 +141,7 @@ int Painter::runOf(int nX) const
 int Painter::runOfLines(int nX) const
 {
     int nEnd = nX;
-    while (nEnd < COLS && isLine(next_[nEnd]) && differs(nEnd))
+    while (nEnd < next_.end() && isLine(next_[nEnd]) && differs(nEnd))
         ++nEnd;
     return nEnd - nX;
 }
@@ -176,7 +176,7 @@ void Painter::approach(int nX)
     const Place to{nY_, nX};
     const Place from = pen_.place();
     const int nGap = nX - from.nX;
-    bool inHand = from.nY == nY_ && nGap > 0 && nGap <= kLongestGap;
+    bool inHand = from.nY == nY_ && from.nX >= next_.begin() && nGap > 0 && nGap <= kLongestGap;
     for (int x = from.nX; inHand && x < nX; ++x)
         inHand = isInHand(x);
     if (!inHand || (nGap > 1 && pen_.moveTo(to, static_cast<std::size_t>(nGap) - 1))) {
@@ -196,7 +196,7 @@ int Painter::erase(int nX, const Style& style)
     if (!isErasable(next_[nX], style))
         return 0;
     int nEnd = nX + 1;
-    while (nEnd < COLS && (looksSame(next_[nEnd], next_[nX]) || layersTo(nEnd) > 0))
+    while (nEnd < next_.end() && (looksSame(next_[nEnd], next_[nX]) || layersTo(nEnd) > 0))
         ++nEnd;
     const int nCount = lastChange(nX, nEnd) - nX;
     if (nEnd == COLS && nCount > 3) {
@@ -217,7 +217,8 @@ int Painter::erase(int nX, const Style& style)
 int Painter::repeat(int nX, char letter)
 {
     constexpr int kLeast = 6;
-    if (!codes().repeats || nX + kLeast >= COLS || !isSame(next_[nX], next_[nX + kLeast - 1]))
+    if (!codes().repeats || nX + kLeast >= next_.end() ||
+        !isSame(next_[nX], next_[nX + kLeast - 1]))
         return 0;
     const int nEnd = std::min(nX + runOf(nX), COLS - 1);
     const int nCount = lastChange(nX, nEnd) - nX;
@@ -268,7 +269,7 @@ int Painter::paintFrom(int nX)
         return paintFrom(nX - 1) - 1;
     if (!styleOf(nX, style))
         return 0;
-    const int nColumns = nX + 1 < COLS && isTail(next_[nX + 1]) ? 2 : 1;
+    const int nColumns = nX + 1 < next_.end() && isTail(next_[nX + 1]) ? 2 : 1;
     approach(nX);
     if (const int nErased = erase(nX, style))
         return nErased;

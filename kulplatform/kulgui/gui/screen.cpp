@@ -32,19 +32,6 @@ bool cursorSeen = false;
 bool repaintDue = false;
 Moved moved; // since the last drawing
 
-// The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
-// above it, so that it can go out alone; the panel library would compare all that lies below too.
-WINDOW* onlyTopTouched()
-{
-    PANEL* top = nullptr;
-    for (PANEL* panel = panel_above(nullptr); panel; panel = panel_above(panel)) {
-        if (top && is_wintouched(panel_window(top)))
-            return nullptr;
-        top = panel;
-    }
-    return top && !is_wintouched(stdscr) ? panel_window(top) : nullptr;
-}
-
 bool anyTouched()
 {
     if (is_wintouched(stdscr))
@@ -106,18 +93,6 @@ void send(Place place)
     updateTerminal(place, turn == Turn::Program);
     if (seen && !cursorSeen)
         showCursor(true);
-}
-
-void compose()
-{
-    if (WINDOW* top = onlyTopTouched()) {
-        wnoutrefresh(top);
-    } else {
-        // Without a panel the panel library does not know the standard screen.
-        if (!panel_above(nullptr))
-            wnoutrefresh(stdscr);
-        update_panels();
-    }
 }
 
 void update()

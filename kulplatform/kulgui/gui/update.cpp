@@ -46,6 +46,7 @@ struct Scroll {
     int nRows; // 0: none
 };
 
+WINDOW* drawn = nullptr; // the only one that was composed since the last update
 Scroll expected;
 bool pictured = false; // what was composed shows it already
 Scroll scrolled;       // the one that the update under way makes
@@ -279,9 +280,9 @@ void startPen()
 }
 
 // Updates by the pen. False, and nothing sent, where only curses can.
-bool updateByPen(Place to)
+bool updateByPen(Place to, Columns columns)
 {
-    if (!codes().known || !isMarked() || !next.prepare() || !seen.prepare())
+    if (!codes().known || !isMarked() || !next.prepare(columns) || !seen.prepare(columns))
         return false;
     startPen();
     if (!paintRows()) {
@@ -335,6 +336,28 @@ void updateByCurses(Place to)
         wattrset(curscr, kMark);
 }
 
+// Nothing can differ beside a window that alone was drawn into.
+Columns changedColumns()
+{
+    if (!drawn || scrolled.nRows != 0 || isCleared() || is_wintouched(curscr))
+        return {0, COLS};
+    const int nBegin = getbegx(drawn);
+    return {nBegin, std::min(nBegin + getmaxx(drawn), COLS)};
+}
+
+// The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
+// above it, so that it can go out alone; the panel library would compare all that lies below too.
+WINDOW* onlyTopTouched()
+{
+    PANEL* top = nullptr;
+    for (PANEL* panel = panel_above(nullptr); panel; panel = panel_above(panel)) {
+        if (top && is_wintouched(panel_window(top)))
+            return nullptr;
+        top = panel;
+    }
+    return top && !is_wintouched(stdscr) ? panel_window(top) : nullptr;
+}
+
 } // namespace
 
 void beginUpdates()
@@ -364,6 +387,20 @@ void expectScroll(int nTop, int nBottom, int nRows)
         expected = {nTop, nBottom, nRows};
 }
 
+void compose()
+{
+    WINDOW* top = onlyTopTouched();
+    drawn = is_wintouched(newscr) ? nullptr : top;
+    if (top) {
+        wnoutrefresh(top);
+        return;
+    }
+    // Without a panel the panel library does not know the standard screen.
+    if (!panel_above(nullptr))
+        wnoutrefresh(stdscr);
+    update_panels();
+}
+
 bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows)
 {
     const int nAbove = getbegy(win);
@@ -382,8 +419,9 @@ bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows)
 void updateTerminal(Place to, bool forProgram)
 {
     scrolled = std::exchange(expected, {});
-    if (!updateByPen(target(to, forProgram)))
+    if (!updateByPen(target(to, forProgram), changedColumns()))
         updateByCurses(to);
+    drawn = nullptr;
     scrolled = {};
     pictured = false;
 }

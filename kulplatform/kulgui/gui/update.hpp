@@ -27,6 +27,9 @@ void expectScroll(int nTop, int nBottom, int nRows);
 // from there were not. False, and nothing done, where the terminal would not scroll.
 bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows);
 
+// Has curses compose the windows that were drawn into.
+void compose();
+
 // Updates the terminal and leaves its cursor at a cell of the screen, or anywhere. For a program
 // that gets a turn now, and may update the terminal by itself, it is left where curses takes it to
 // be instead.
