@@ -5,6 +5,7 @@
     xmlns:exsl="http://exslt.org/common" extension-element-prefixes="exsl">
   <xsl:output method="text"/>
   <xsl:param name="version"/>
+  <xsl:param name="date"/>
   <xsl:param name="folder"/>
 
   <xsl:template match="/doxygenindex">
@@ -80,7 +81,7 @@
     <xsl:param name="name"/>
     <xsl:param name="brief"/>
     <xsl:param name="title"/>
-    <xsl:value-of select="concat('.TH ', $name, ' 3 &quot;&quot; &quot;kulgui ', $version, '&quot; &quot;',
+    <xsl:value-of select="concat('.TH ', $name, ' 3 ', $date, ' &quot;kulgui ', $version, '&quot; &quot;',
         $title, '&quot;&#10;.SH NAME&#10;', $name, ' \- ')"/>
     <xsl:call-template name="text">
       <xsl:with-param name="text" select="normalize-space($brief)"/>

@@ -72,6 +72,12 @@ void blankOut(ScreenCell& cell)
     cell.attr &= ~A_CHARTEXT;
 }
 
+// Of what they may have the other half.
+Columns withNeighbours(const Columns& columns)
+{
+    return {std::max(columns.nFirst - 1, 0), std::min(columns.nLast + 1, COLS - 1)};
+}
+
 constexpr wchar_t kFirstWide = 0x1100; // no letter before it takes two columns
 
 attr_t attributesOf(const ScreenCell& cell)
@@ -129,9 +135,12 @@ ScreenCell blankCell()
 
 bool ScreenRow::read(WINDOW* win, int nY)
 {
-    if (mvwin_wchnstr(win, nY, begin(), cells_ + begin(), end() - begin()) == ERR)
+    const Columns read = withNeighbours(columns_);
+    ScreenCell* first = cells_ + read.nFirst;
+    const int nCount = read.nLast - read.nFirst + 1;
+    if (mvwin_wchnstr(win, nY, read.nFirst, first, nCount) == ERR)
         return false;
-    const bool narrow = std::all_of(cells_ + begin(), cells_ + end(), [](const ScreenCell& cell) {
+    const bool narrow = std::all_of(first, first + nCount, [](const ScreenCell& cell) {
         return cell.chars[0] > 0 && cell.chars[0] < kFirstWide;
     });
     return narrow || readEach(win, nY);
@@ -141,13 +150,14 @@ bool ScreenRow::read(WINDOW* win, int nY)
 // shown as a blank.
 bool ScreenRow::readEach(WINDOW* win, int nY)
 {
-    for (int x = begin(); x < end(); ++x) {
+    const auto [nFirst, nLast] = withNeighbours(columns_);
+    for (int x = nFirst; x <= nLast; ++x) {
         if (mvwin_wch(win, nY, x, &cells_[x]) == ERR)
             return false;
     }
-    for (int x = begin(); x < end(); ++x) {
+    for (int x = nFirst; x <= nLast; ++x) {
         const bool wide = letterOf(cells_[x]) >= kFirstWide && wcwidth(letterOf(cells_[x])) == 2;
-        const bool whole = x + 1 < end() && !isTail(cells_[x]) && isTail(cells_[x + 1]);
+        const bool whole = x < nLast && !isTail(cells_[x]) && isTail(cells_[x + 1]);
         if (wide && whole)
             ++x;
         else if (wide || isTail(cells_[x]))

@@ -15,10 +15,10 @@ using ScreenCell = cchar_t;
 using ScreenCell = chtype;
 #endif
 
-// Columns from the first one to the one behind the last.
+// Columns of a row; none if the last one is lower.
 struct Columns {
-    int nBegin;
-    int nEnd;
+    int nFirst;
+    int nLast;
 };
 
 // Some columns of a row of a window that is as wide as the screen. There are never more than two at
@@ -28,8 +28,8 @@ public:
     // Room for a row of the screen as it is now, of which these columns are read; false without
     // memory.
     bool prepare(Columns columns);
-    int begin() const { return columns_.nBegin; }
-    int end() const { return columns_.nEnd; }
+    int begin() const { return columns_.nFirst; }
+    int end() const { return columns_.nLast + 1; }
 
     // False where the row cannot be told, half of a wide letter being missing for instance.
     bool read(WINDOW* win, int nY);

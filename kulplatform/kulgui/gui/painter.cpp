@@ -98,10 +98,10 @@ int Layers::of(const ScreenCell& cell)
     while (i < nKnown_ && style != styles_[i] &&
            !(bare && styles_[i].attributes == 0 && style.background == styles_[i].background))
         ++i;
-    if (i == nNow_ && i == nKnown_)
-        styles_[nKnown_++] = style;
     nLast_ = std::min(i, kMost - 1);
-    more_ |= nLast_ > nNow_;
+    if (nLast_ == nKnown_)
+        styles_[nKnown_++] = style;
+    nMet_ |= 1U << nLast_;
     isAsked_ = true;
     last_ = cell;
     return nLast_;

@@ -16,19 +16,22 @@ namespace kul {
 class Layers {
 public:
     int now() const { return nNow_; }
-    bool next() // false after the last
+    bool next() { return ++nNow_ < nKnown_; } // false after the last
+    int of(const ScreenCell& cell);
+
+    // Those that were asked for since this was called last, bit by bit.
+    unsigned takeMet()
     {
         isAsked_ = false;
-        return std::exchange(more_, false) && ++nNow_ < kMost;
+        return std::exchange(nMet_, 0U);
     }
-    int of(const ScreenCell& cell);
 
 private:
     static constexpr int kMost = 8; // the last one takes all that is left
     Style styles_[kMost];
     int nKnown_ = 0;
     int nNow_ = 0;
-    bool more_ = false;    // cells for later ones were met
+    unsigned nMet_ = 0;
     bool isAsked_ = false; // for a cell, and in which layer that is
     ScreenCell last_{};
     int nLast_ = 0;

@@ -27,13 +27,8 @@ ScreenRow seen; // as the terminal shows it
 int nFirstDue;  // rows that were looked at
 int nLastDue;
 
-// Columns that differ for curses, row by row; those far below share them.
-struct Columns {
-    int nFirst;
-    int nLast;
-};
-constexpr int kRows = 64;
-Columns changed[kRows];
+constexpr int kRows = 64; // those below share what is known of the last one
+Columns changed[kRows];   // that differ for curses
 
 Place cursor = kNowhere;
 Place believed = kNowhere; // where curses takes it to be
@@ -73,9 +68,9 @@ bool isDue(int nY)
     return is_linetouched(newscr, nY) || is_linetouched(curscr, nY) || isNew(nY);
 }
 
-Columns& changedIn(int nY)
+int rowOf(int nY)
 {
-    return changed[std::min(nY, kRows - 1)];
+    return std::min(nY, kRows - 1);
 }
 
 void touchRows(WINDOW* win, const Scroll& rows, bool touched)
@@ -191,25 +186,22 @@ bool readSeen(int nY)
 bool paintCells(Layers* layers)
 {
     const bool cleared = isCleared();
-    static int nTop; // rows that differ
-    static int nBottom;
-    if (!layers || layers->now() == 0) {
-        nTop = LINES;
-        nBottom = -1;
-    }
+    const bool first = !layers || layers->now() == 0;
+    static unsigned found[kRows]; // layers of the rows
+    if (first)
+        std::fill_n(found, kRows, 0U);
     for (int y = 0; y < LINES; ++y) {
-        if (!(cleared || isDue(y)) || (layers && layers->now() > 0 && (y < nTop || y > nBottom)))
+        unsigned& nFound = found[rowOf(y)];
+        if (!(cleared || isDue(y)) || !(first || nFound >> layers->now() & 1))
             continue;
         nFirstDue = std::min(nFirstDue, y);
         nLastDue = std::max(nLastDue, y);
         Painter painter(pen, y, next, seen, layers);
         if (!next.read(newscr, y) || (!cleared && !readSeen(y)) || !painter.paint())
             return false;
-        if (painter.lastChanged() < painter.firstChanged())
-            continue;
-        nTop = std::min(nTop, y);
-        nBottom = std::max(nBottom, y);
-        Columns& columns = changedIn(y);
+        if (layers)
+            nFound |= layers->takeMet();
+        Columns& columns = changed[rowOf(y)];
         columns.nFirst = std::min(columns.nFirst, painter.firstChanged());
         columns.nLast = std::max(columns.nLast, painter.lastChanged());
     }
@@ -260,7 +252,7 @@ bool paintRows()
 void note()
 {
     for (int y = nFirstDue; y <= nLastDue; ++y) {
-        const auto [nFirst, nLast] = changedIn(y);
+        const auto [nFirst, nLast] = changed[rowOf(y)];
         if (nFirst <= nLast)
             copywin(newscr, curscr, y, nFirst, y, nFirst, y, nLast, FALSE);
     }
@@ -336,13 +328,13 @@ void updateByCurses(Place to)
         wattrset(curscr, kMark);
 }
 
-// Nothing can differ beside a window that alone was drawn into.
-Columns changedColumns()
+// Beside a window that alone was drawn into nothing can differ but the other half of a wide letter.
+Columns drawnColumns()
 {
     if (!drawn || scrolled.nRows != 0 || isCleared() || is_wintouched(curscr))
-        return {0, COLS};
-    const int nBegin = getbegx(drawn);
-    return {nBegin, std::min(nBegin + getmaxx(drawn), COLS)};
+        return {0, COLS - 1};
+    const int nX = getbegx(drawn);
+    return {std::max(nX - 1, 0), std::min(nX + getmaxx(drawn), COLS - 1)};
 }
 
 // The topmost panel's window if it is the only one that was drawn into, else null. Nothing lies
@@ -419,7 +411,7 @@ bool scrollPictures(WINDOW* win, int nTop, int nBottom, int nRows)
 void updateTerminal(Place to, bool forProgram)
 {
     scrolled = std::exchange(expected, {});
-    if (!updateByPen(target(to, forProgram), changedColumns()))
+    if (!updateByPen(target(to, forProgram), drawnColumns()))
         updateByCurses(to);
     drawn = nullptr;
     scrolled = {};
