@@ -319,6 +319,30 @@ TEST(Updates, ScrollWhatWasComposed)
     }
 }
 
+// Of a wide letter that comes to lie under a window's edge a half is left, outside of the window.
+TEST(Updates, BlankHalvesBesideAWindow)
+{
+    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
+    Side side("linux", true);
+    for (PANEL* panel : side.panels)
+        hide_panel(panel);
+    for (int y = 0; y < kRows; ++y)
+        mvaddstr(y, 0, "\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22");
+    kul::compose();
+    kul::updateTerminal(kul::kNowhere, false);
+    for (const int nX : {3, 2}) {
+        move_panel(side.panels[0], 2, nX);
+        show_panel(side.panels[0]);
+        kul::compose();
+        kul::updateTerminal(kul::kNowhere, false);
+        side.show();
+        EXPECT_EQ(side.emulator.cell(4, 2).glyph, " ");
+        EXPECT_EQ(side.emulator.cell(4, 33).glyph, nX == 3 ? " " : "");
+        hide_panel(side.panels[0]);
+    }
+    std::setlocale(LC_ALL, "C");
+}
+
 // A blank may have any foreground, but the Linux console gives it to a cursor that comes there.
 TEST(Updates, LeaveBlanksOnWhichACursorIsSeen)
 {
