@@ -51,12 +51,9 @@ TEST_F(DescrfieldTest, ExplainsTheSelectedElement)
     EXPECT_EQ(kuldescrfield_selElement(1, 1, 1) + add("far right", nullptr), 0);
     EXPECT_EQ(drawn(3, 1, 1, 13), ".│short     │|");
     EXPECT_EQ(shades(1, 1, 1, 8), "-c---ww-|");
-    const struct {
-        int nSelect, nResult, nSelected;
-    } rows[] = {{5, -1, 0}, {2, 0, 2}, {-7, 0, 0}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(kuldescrfield_selElement(1, 1, row.nSelect), row.nResult);
-        EXPECT_EQ(field().nSelect, row.nSelected);
+    for (const auto& [nSelect, nResult, nSelected] : {std::tuple(5, -1, 0), {2, 0, 2}, {-7, 0, 0}}) {
+        EXPECT_EQ(kuldescrfield_selElement(1, 1, nSelect), nResult);
+        EXPECT_EQ(field().nSelect, nSelected);
     }
 }
 
@@ -126,16 +123,13 @@ TEST_F(DescrfieldTest, RemovesElements)
 
 TEST_F(DescrfieldTest, TakesSmallBoxesAndMissingMemory)
 {
-    const struct {
-        int nWidth, nHeight;
-    } rows[] = {{2, 5}, {12, 2}, {-1, -1}, {INT_MIN, INT_MIN}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(config(row.nWidth, row.nHeight), 0);
+    for (const auto& [nWidth, nHeight] : {std::pair(2, 5), {12, 2}, {-1, -1}, {INT_MIN, INT_MIN}}) {
+        EXPECT_EQ(config(nWidth, nHeight), 0);
         EXPECT_EQ(add("one", "text"), 0);
-        EXPECT_STREQ(field().Element->szBoxText, "") << row.nWidth;
+        EXPECT_STREQ(field().Element->szBoxText, "") << nWidth;
         EXPECT_EQ(set(0, nullptr, "x"), -1);
         EXPECT_EQ(set(0, nullptr, ""), 0);
-        EXPECT_EQ(drawn(1, 1, 1, 5), ".one.|") << row.nWidth;
+        EXPECT_EQ(drawn(1, 1, 1, 5), ".one.|") << nWidth;
     }
     EXPECT_EQ(config(INT_MAX, INT_MAX), 0);
     EXPECT_EQ(add("one", "text"), -1) << "no such amount of memory";

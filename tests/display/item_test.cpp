@@ -161,10 +161,8 @@ TEST_F(ItemTest, UpdatesOnlyWhatChanged)
 
 TEST_F(ItemTest, DrawsBoxesAndLines)
 {
-    const struct {
-        int nType, nStyle, nOrient; // the style is the border or the ends
-        const char* cells;
-    } rows[] = {
+    const std::tuple<int, int, int, const char*> rows[] = {
+        // the style is the border or the ends
         {BOX, BORDER, 0, ".┌──┐..|.│  │..|.└──┘..|.......|"},
         {BOX, NOBORDER, 0, ".    ..|.    ..|.    ..|.......|"},
         {LINE, NOENDS, LATERAL, ".─────.|.......|.......|.......|"},
@@ -172,14 +170,14 @@ TEST_F(ItemTest, DrawsBoxesAndLines)
         {LINE, 7, VERTICAL, ".│.....|.│.....|.│.....|.│.....|"},
         {LINE, ENDS, VERTICAL, ".┬.....|.│.....|.│.....|.┴.....|"},
     };
-    for (const auto& row : rows) {
-        const Kind& kind = kKinds[row.nType];
+    for (const auto& [nType, nStyle, nOrient, cells] : rows) {
+        const Kind& kind = kKinds[nType];
         kind.create(1, kind.nType);
-        EXPECT_EQ(row.nType == BOX ? kulbox_config(1, BOX, RED_CYAN, 1, 1, 4, 3, row.nStyle)
-                                   : kulline_config(1, LINE, RED_CYAN, 1, 1, 4, row.nStyle, row.nOrient),
+        EXPECT_EQ(nType == BOX ? kulbox_config(1, BOX, RED_CYAN, 1, 1, 4, 3, nStyle)
+                               : kulline_config(1, LINE, RED_CYAN, 1, 1, 4, nStyle, nOrient),
                   0);
         clear();
-        EXPECT_EQ(drawn(1, 0, 4, 7), row.cells);
+        EXPECT_EQ(drawn(1, 0, 4, 7), cells);
         EXPECT_EQ(shades(1, 1, 1, 1), "c|");
         kind.hide(1, kind.nType);
         clear();

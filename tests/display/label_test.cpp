@@ -53,14 +53,10 @@ TEST_F(LabelTest, WrapsAndAlignsItsRows)
 
 TEST_F(LabelTest, TakesTextsUpToItsCapacity)
 {
-    const struct {
-        int nBorder;
-        std::size_t nCapacity;
-    } rows[] = {{BORDER, 4 * 2}, {NOBORDER, 6 * 4}};
-    for (const auto& row : rows) {
-        ASSERT_EQ(config(1, 1, 6, 4, LEFT, row.nBorder, "a"), 0);
+    for (const auto& [nBorder, fits] :
+         {std::pair(+BORDER, std::string(4 * 2, 'x')), {NOBORDER, std::string(6 * 4, 'x')}}) {
+        ASSERT_EQ(config(1, 1, 6, 4, LEFT, nBorder, "a"), 0);
         DI* di = GetDIComponentByRef(1, 1);
-        const std::string fits(row.nCapacity, 'x');
         di->nUpdate = -1;
         EXPECT_EQ(kullabel_setText(1, 1, (fits + "x").c_str()), -1);
         EXPECT_STREQ(label().szText, "a");

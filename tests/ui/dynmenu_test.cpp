@@ -31,11 +31,7 @@ protected:
 
 TEST_F(DynmenuTest, ScrollsWithTheSelection)
 {
-    const struct {
-        std::vector<int> keys;
-        Rows shown;
-        int nSelect;
-    } rows[] = {
+    const std::tuple<std::vector<int>, Rows, int> rows[] = {
         {{KS_DOWN, KS_DOWN}, {"a", "b", "c"}, 2},
         {{KS_DOWN}, {"b", "c", "d"}, 3},
         {{KS_UP, KS_UP}, {"b", "c", "d"}, 1},
@@ -46,10 +42,10 @@ TEST_F(DynmenuTest, ScrollsWithTheSelection)
         {{KS_DOWN, KS_LEFT, KS_RIGHT}, {"c", "d", "e"}, 5},
     };
     fill(2, 1, 1, 3, {"a", "b", "c", "d", "e"});
-    for (const auto& row : rows) {
-        press(row.keys);
-        EXPECT_EQ(menu().nSelect, row.nSelect);
-        EXPECT_EQ(shown(2, 3, 3, 1), row.shown);
+    for (const auto& [keys, view, nSelect] : rows) {
+        press(keys);
+        EXPECT_EQ(menu().nSelect, nSelect);
+        EXPECT_EQ(shown(2, 3, 3, 1), view);
     }
     // Without the last two the view is moved up to fill the box, and stays inside of the list.
     kuldynmenu_remElement(1, kRef, 0);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Edition 2: the way through a dialog and out of it, selections, and what tells the user where he is.
-#include <climits>
-#include <string>
+#include <cctype>
+#include <cstring>
 
 #include "gui/screen.hpp"
 #include "support/window_test.hpp"
@@ -69,18 +69,13 @@ TEST_F(Edition2Test, AMenuLongerThanItsRowShowsTheSelectedText)
 // by its record, 7 by the program.
 TEST_F(Edition2Test, TheFocusGoesByTabsAndArrows)
 {
-    const struct {
-        int nX, nY;
-    } places[] = {{2, 2}, {12, 2}, {2, 6}, {20, 10}, {30, 2}, {30, 6}, {30, 10}};
+    const std::pair<int, int> places[] = {{2, 2}, {12, 2}, {2, 6}, {20, 10}, {30, 2}, {30, 6}, {30, 10}};
     for (int i = 0; i < 7; ++i)
-        addButton(i + 1, places[i].nX, places[i].nY);
+        addButton(i + 1, places[i].first, places[i].second);
     kulbutton_hide(1, 5);
     static_cast<KULBUTTON*>(GetUIComponentByRef(1, 6)->Pointer)->nEnable = 0;
     EXPECT_EQ(kulgui_enable(1, 7, F), 0);
-    const struct {
-        std::vector<int> keys;
-        std::string_view events;
-    } rows[] = {
+    const std::pair<std::vector<int>, std::string_view> rows[] = {
         {{KS_TAB, KS_TAB, KS_TAB, KS_TAB}, "+1 -1 +2 -2 +3 -3 +4 -4 +1 -1 "},
         {{KS_BACKTAB, KS_BACKTAB}, "+1 -1 +4 -4 +3 -3 "},
         {{KS_LEFT, KS_UP, 'x'}, "+1 -1 "},
@@ -89,9 +84,9 @@ TEST_F(Edition2Test, TheFocusGoesByTabsAndArrows)
         {{KS_RIGHT, KS_RIGHT}, "+1 -1 +2 -2 +4 -4 "},
         {{-2, 0, KS_ENTER}, "+1 -1 +2 click -2 "},
     };
-    for (const auto& row : rows) {
+    for (const auto& [keys, expected] : rows) {
         kulgui_setFocus(1, 1);
-        EXPECT_EQ(run(row.keys, KUL_LEFT, {[] { kulgui_enable(1, 1, F); }}), row.events);
+        EXPECT_EQ(run(keys, KUL_LEFT, {[] { kulgui_enable(1, 1, F); }}), expected);
         kulgui_enable(1, 1, T);
     }
     GetChain(1)->Pointer->nCurrentUI = 77;
@@ -158,26 +153,12 @@ void addElements(int nType)
 
 TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
 {
-    constexpr int kBack = -10, kForward = -11;
-    const struct {
-        int nStart;
-        std::vector<int> keys;
-        int nSelect;
-    } rows[] = {{0, {kForward}, 2},
-                {0, {kBack}, 4},
-                {4, {kForward}, 0},
-                {2, {kBack}, 0},
-                {0, {KS_END}, 4},
-                {3, {KS_HOME}, 0},
-                {0, {'b'}, 2},
-                {0, {'b', 'B'}, 3},
-                {3, {'b'}, 2},
-                {4, {'a'}, 0},
-                {0, {'a', 'x'}, 0},
-                {0, {KS_PAGEDOWN, KS_PAGEDOWN, KS_PAGEDOWN}, 4},
-                {4, {KS_PAGEUP, KS_PAGEUP, KS_PAGEUP}, 0},
-                {1, {}, 2},
-                {4, {KS_END, KS_PAGEDOWN}, 4}};
+    // Keys: < back, > forward, [ Home, ] End, - Page Up, + Page Down, others as they are.
+    constexpr const char* kLetters = "<>[]-+";
+    const std::tuple<int, std::string_view, int> rows[] = {
+        {0, ">", 2}, {0, "<", 4}, {4, ">", 0},  {2, "<", 0},   {0, "]", 4},   {3, "[", 0}, {0, "b", 2},  {0, "bB", 3},
+        {3, "b", 2}, {4, "a", 0}, {0, "ax", 0}, {0, "+++", 4}, {4, "---", 0}, {1, "", 2},  {4, "]+", 4},
+    };
     for (const auto& kind : kKinds) {
         SCOPED_TRACE(kind.nType);
         renew();
@@ -185,14 +166,14 @@ TEST_F(Edition2Test, SelectionsGoByStepsPagesEndsAndLetters)
         EXPECT_EQ(kind.count(1, 1), 5);
         EXPECT_EQ(kind.count(1, 9), -1);
         EXPECT_EQ(kulgui_select(1, 1, 5) + kulgui_select(1, 1, -1) + kulgui_select(1, 9, 0), -3);
-        for (const auto& row : rows) {
-            std::vector<int> keys = row.keys;
-            for (int& nKey : keys)
-                nKey = nKey == kBack ? kind.nBack : nKey == kForward ? kind.nForward : nKey;
-            EXPECT_EQ(kulgui_select(1, 1, row.nStart), 0);
+        const int kKeys[] = {kind.nBack, kind.nForward, KS_HOME, KS_END, KS_PAGEUP, KS_PAGEDOWN};
+        for (const auto& [nStart, letters, nSelect] : rows) {
+            std::vector<int> keys;
+            for (const char letter : letters)
+                keys.push_back(std::isalpha(letter) ? letter : kKeys[std::strchr(kLetters, letter) - kLetters]);
+            EXPECT_EQ(kulgui_select(1, 1, nStart), 0);
             run(keys);
-            const int nSelect = kind.nType == OPTIONS ? current().nPosition : current().nSelect;
-            EXPECT_EQ(nSelect, row.nSelect) << "from " << row.nStart;
+            EXPECT_EQ(kind.nType == OPTIONS ? current().nPosition : current().nSelect, nSelect) << "from " << nStart;
         }
         run({KS_SPACE, -2, 'x'}, KUL_LEFT, {[] { SetUIVisibility(1, 1, F); }});
     }

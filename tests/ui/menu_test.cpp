@@ -200,21 +200,19 @@ TEST_F(MenuTest, ObeysNavigationFlagsTabbingAndVisibility)
 TEST_F(MenuTest, AddsAndRemovesAtTheEnd)
 {
     // For removal the counts and selections are of those that count, else 3.
-    const struct {
-        int nAdd, nStart, nResult, nSelect, nCount;
-    } rows[] = {
-        {1, -1, 0, 0, 1}, {1, 3, 0, 3, 2}, {1, 3, 0, 3, 3},  {0, 3, 0, 2, 2},
-        {0, 3, 0, 1, 1},  {0, 3, 1, 0, 0}, {0, 3, -1, 3, 0},
+    const std::tuple<bool, int, int, int, int> rows[] = {
+        {true, -1, 0, 0, 1}, {true, 3, 0, 3, 2},  {true, 3, 0, 3, 3},   {false, 3, 0, 2, 2},
+        {false, 3, 0, 1, 1}, {false, 3, 1, 0, 0}, {false, 3, -1, 3, 0},
     };
     forEach(kAll, [&](const Kind& kind) {
         EXPECT_EQ(kind.select(), kind.nType == DESCRMENU ? -1 : 0);
-        for (const auto& row : rows) {
-            kind.select() = row.nStart;
-            EXPECT_EQ(row.nAdd ? add(std::to_string(row.nCount)) : kind.remove(1, kRef, row.nStart - 1), row.nResult);
-            EXPECT_EQ(kind.select(), row.nAdd || kind.counts ? row.nSelect : 3);
-            EXPECT_EQ(kind.count(), row.nAdd || kind.counts ? row.nCount : 3);
+        for (const auto& [adds, nStart, nResult, nSelect, nCount] : rows) {
+            kind.select() = nStart;
+            EXPECT_EQ(adds ? add(std::to_string(nCount)) : kind.remove(1, kRef, nStart - 1), nResult);
+            EXPECT_EQ(kind.select(), adds || kind.counts ? nSelect : 3);
+            EXPECT_EQ(kind.count(), adds || kind.counts ? nCount : 3);
             for (int i = 0; i < 4; ++i)
-                EXPECT_EQ(kind.get(kRef, i), i < row.nCount ? std::to_string(i + 1) : "null");
+                EXPECT_EQ(kind.get(kRef, i), i < nCount ? std::to_string(i + 1) : "null");
         }
         const int nCount = kind.count();
         for (int nGood = 0; nGood < (kind.nType == DESCRMENU ? 3 : 2); ++nGood) {

@@ -142,23 +142,18 @@ TEST_F(TextboxTest, EditsAndDraws)
 
 TEST_F(TextboxTest, DrawsItsInsideInAnyColour)
 {
-    const struct {
-        Box box;
-        const char* szText;
-        int nCursor;
-        Rows rows, shades;
-    } boxes[] = {
+    const std::tuple<Box, const char*, int, Rows, Rows> boxes[] = {
         {{4, 3, BORDER}, "ab", SHOWCURSOR, {"┌──┐", "│ab ", "└──┘"}, {"ffff", "fuuU", "ffff"}},
         {{4, 3, BORDER, MASK}, "ab", HIDECURSOR, {"┌──┐", "│***", "└──┘"}, {"ffff", "fuuu", "ffff"}},
         {{3, 3}, "abc d", SHOWCURSOR, {"abc", " d ", "   "}, {"uuu", "uuU", "fff"}},
     };
-    for (const auto& row : boxes) {
-        config(row.box);
-        box().nCursor = row.nCursor;
-        press(keysOf(row.szText));
+    for (const auto& [size, szText, nCursor, rows, colours] : boxes) {
+        config(size);
+        box().nCursor = nCursor;
+        press(keysOf(szText));
         DrawTextBox(GetChain(1)->Pointer, &box(), RED_WHITE);
-        EXPECT_EQ(shown(2, 2, 3, row.box.nWidth), row.rows);
-        EXPECT_EQ(shades(2, 2, 3, row.box.nWidth), row.shades);
+        EXPECT_EQ(shown(2, 2, 3, size.nWidth), rows);
+        EXPECT_EQ(shades(2, 2, 3, size.nWidth), colours);
     }
 }
 
@@ -222,22 +217,17 @@ TEST_F(TextboxTest, HasBoxesOfAnySize)
 
 TEST_F(TextboxTest, SetsItsText)
 {
-    const struct {
-        const char* szText;
-        int nCursorPos, nResult;
-        const char* szAfter;
-        int nAfter;
-    } rows[] = {
+    const std::tuple<const char*, int, int, const char*, int> rows[] = {
         {"abcd", 4, 0, "abcd", 4}, {"xyz", 1, 0, "xyz", 1}, {"xy", 3, 0, "xy", 2},
         {nullptr, 1, -1, "xy", 1}, {"12345", 1, -1, "", 0},
     };
     config({5, 1});
-    for (const auto& row : rows) {
-        box().nCursorPos = row.nCursorPos;
-        EXPECT_EQ(kultextbox_setText(1, kRef, row.szText), row.nResult);
-        EXPECT_STREQ(kultextbox_getText(1, kRef), row.szAfter);
-        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(row.szAfter)));
-        EXPECT_EQ(box().nCursorPos, row.nAfter);
+    for (const auto& [szText, nCursor, nResult, szAfter, nAfter] : rows) {
+        box().nCursorPos = nCursor;
+        EXPECT_EQ(kultextbox_setText(1, kRef, szText), nResult);
+        EXPECT_STREQ(kultextbox_getText(1, kRef), szAfter);
+        EXPECT_EQ(box().nLength, static_cast<int>(std::strlen(szAfter)));
+        EXPECT_EQ(box().nCursorPos, nAfter);
     }
     kultextbox_setText(1, kRef, "abcd");
     EXPECT_EQ(kultextbox_setText(1, kRef, kultextbox_getText(1, kRef) + 1), 0) << "its own";
