@@ -73,14 +73,7 @@ TEST_F(DescrfieldTest, ChangesTextsThatFit)
     const std::string fits(10 * 2, 'x');
     const std::string more = fits + 'x';
     add("one", "box");
-    const struct {
-        const char* name;
-        int nElement;
-        const char* szText;
-        const char* szBoxText;
-        int nResult;
-        std::string text, boxText; // afterwards
-    } rows[] = {
+    const std::tuple<const char*, int, const char*, const char*, int, std::string, std::string> rows[] = {
         {"as long as before: not taken", 0, "two", nullptr, 0, "one", "box"},
         {"below the first one", -4, "three", nullptr, 0, "three", "box"},
         {"as much as fits", 0, nullptr, fits.c_str(), 0, "three", fits},
@@ -88,11 +81,10 @@ TEST_F(DescrfieldTest, ChangesTextsThatFit)
         {"no such element", INT_MAX, "none", "none", 0, "three", fits},
     };
     const KULDESCRFLDELEMENT& element = *field().Element;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(set(row.nElement, row.szText, row.szBoxText), row.nResult);
-        EXPECT_EQ(element.szText, row.text);
-        EXPECT_EQ(element.szBoxText, row.boxText);
+    for (const auto& [name, nElement, szText, szBoxText, nResult, text, boxText] : rows) {
+        EXPECT_EQ(set(nElement, szText, szBoxText), nResult) << name;
+        EXPECT_EQ(element.szText, text) << name;
+        EXPECT_EQ(element.szBoxText, boxText) << name;
     }
     {
         const kultest::FailingMemory failing(0);

@@ -24,11 +24,7 @@ protected:
 
 TEST_F(LabelTest, WrapsAndAlignsItsRows)
 {
-    const struct {
-        int nWidth, nHeight, nAlignment, nBorder;
-        const char* szText;
-        const char* cells;
-    } rows[] = {
+    const std::tuple<int, int, int, int, const char*, const char*> rows[] = {
         {8, 4, LEFT, BORDER, "Hello you", "┌──────┐|│Hello │|│you   │|└──────┘|"},
         {8, 4, RIGHT, BORDER, "Hello you", "┌──────┐|│ Hello│|│   you│|└──────┘|"},
         {8, 3, CENTER, NOBORDER, "Hello you", " Hello  |  you   |        |"},
@@ -42,12 +38,12 @@ TEST_F(LabelTest, WrapsAndAlignsItsRows)
         {1, 2, LEFT, NOBORDER, "text", " | |"}, // no room at all
         {6, 1, RIGHT, NOBORDER, nullptr, "      |"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [nWidth, nHeight, nAlignment, nBorder, szText, cells] : rows) {
         clear();
-        ASSERT_EQ(config(1, 1, row.nWidth, row.nHeight, row.nAlignment, row.nBorder, row.szText), 0);
-        EXPECT_EQ(drawn(1, 1, row.nHeight, row.nWidth), row.cells);
+        ASSERT_EQ(config(1, 1, nWidth, nHeight, nAlignment, nBorder, szText), 0);
+        EXPECT_EQ(drawn(1, 1, nHeight, nWidth), cells);
         EXPECT_EQ(shades(1, 0, 1, 2), "-c|");
-        EXPECT_EQ(drawn(row.nHeight + 1, 1, 1, 1) + drawn(1, row.nWidth + 1, 1, 1), ".|.|");
+        EXPECT_EQ(drawn(nHeight + 1, 1, 1, 1) + drawn(1, nWidth + 1, 1, 1), ".|.|");
     }
 }
 

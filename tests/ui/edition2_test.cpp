@@ -188,21 +188,18 @@ TEST_F(Edition2Test, ElementsBeyondTheThirtieth)
             addElement(1, "more");
         kulgui_select(1, 1, 49);
         run({KS_SPACE});
-        if (nType == CHECKBOX) {
-            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), 1);
-            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 48), 0);
-            EXPECT_EQ(kulcheckbox_check(1, 1, 48, T) + kulcheckbox_check(1, 1, 49, F), 0);
-            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 48), 1);
-            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), 0);
-            EXPECT_EQ(kulcheckbox_isChecked(1, 1, 50) + kulcheckbox_check(1, 1, -1, T), -2);
-        } else {
-            EXPECT_EQ(kuloptions_getChosen(1, 1), 49);
-            EXPECT_EQ(kuloptions_choose(1, 1, 50) + kuloptions_choose(1, 9, 0), -2);
-            EXPECT_EQ(kuloptions_choose(1, 1, 3), 0);
-            EXPECT_EQ(kuloptions_getChosen(1, 1), 3);
-            kuloptions_setClicked(1, 1, 99);
-            EXPECT_EQ(kuloptions_getChosen(1, 1), -1);
-        }
+        const bool checks = nType == CHECKBOX;
+        EXPECT_EQ(kuloptions_getChosen(1, 1), checks ? -1 : 49);
+        EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), checks ? 1 : -1);
+        EXPECT_EQ(kulcheckbox_check(1, 1, 48, T) + kulcheckbox_check(1, 1, 49, F), checks ? 0 : -2);
+        EXPECT_EQ(kulcheckbox_isChecked(1, 1, 48), checks ? 1 : -1);
+        EXPECT_EQ(kulcheckbox_isChecked(1, 1, 49), checks ? 0 : -1);
+        EXPECT_EQ(kulcheckbox_isChecked(1, 1, 50) + kulcheckbox_check(1, 1, -1, T), -2);
+        EXPECT_EQ(kuloptions_choose(1, 1, 50) + kuloptions_choose(1, 9, 0), -2);
+        EXPECT_EQ(kuloptions_choose(1, 1, 3), checks ? -1 : 0);
+        EXPECT_EQ(kuloptions_getChosen(1, 1), checks ? -1 : 3);
+        kuloptions_setClicked(1, 1, 99);
+        EXPECT_EQ(kuloptions_getChosen(1, 1), -1);
     }
 }
 

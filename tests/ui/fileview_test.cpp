@@ -290,8 +290,7 @@ TEST_F(FileviewTest, IsLaidOutAnewForAnotherWidth)
 // A letter's marks are in its cell, what has no picture in none, and the user is at the first row.
 TEST_F(FileviewTest, ShowsWholeLettersAndTheCursorInEdition2)
 {
-    ASSERT_NE(std::setlocale(LC_ALL, "C.UTF-8"), nullptr);
-    kulgui_setEdition(2);
+    const InColumns inColumns;
     load("\xef\xbb\xbf"
          "e\xcc\x81x\n" +
          lines(1, 9));
@@ -299,8 +298,6 @@ TEST_F(FileviewTest, ShowsWholeLettersAndTheCursorInEdition2)
     EXPECT_EQ(text()[0], "e\u0301x");
     EXPECT_EQ(getcury(newscr), getbegy(window(1)) + 3);
     EXPECT_EQ(getcurx(newscr), getbegx(window(1)) + 3);
-    std::setlocale(LC_ALL, "C");
-    kulgui_setEdition(1);
 }
 
 } // namespace

@@ -50,22 +50,18 @@ TEST_F(ToolbarTest, GivesAllButtonsTheirPlaces)
 {
     fill(VERTICAL, "1111");
     // The ones outside of the window follow what changes.
-    const struct {
-        int nOrient, nX, nY;
-        const char* added;
-        int nButton, nXAt, nYAt;
-    } rows[] = {
+    const std::tuple<int, int, int, const char*, int, int, int> rows[] = {
         {VERTICAL, 2, 2, "a", 1, 2, 6},       {VERTICAL, 2, 2, "a", 4, 2, 18}, {VERTICAL, 2, 3, "a", 5, 2, 23},
         {VERTICAL, 4, 3, "longer", 5, 4, 23}, {VERTICAL, 4, 3, "a", 7, 4, 31}, {LATERAL, 4, 3, "a", 7, 67, 3},
     };
-    for (const auto& row : rows) {
-        add(row.added);
-        toolbar().nOrient = row.nOrient;
-        toolbar().nX = row.nX;
-        toolbar().nY = row.nY;
+    for (const auto& [nOrient, nX, nY, added, nButton, nXAt, nYAt] : rows) {
+        add(added);
+        toolbar().nOrient = nOrient;
+        toolbar().nX = nX;
+        toolbar().nY = nY;
         kulgui_show(1);
-        EXPECT_EQ(kultoolbar_getButton(1, kRef, row.nButton)->nX, row.nXAt);
-        EXPECT_EQ(kultoolbar_getButton(1, kRef, row.nButton)->nY, row.nYAt);
+        EXPECT_EQ(kultoolbar_getButton(1, kRef, nButton)->nX, nXAt);
+        EXPECT_EQ(kultoolbar_getButton(1, kRef, nButton)->nY, nYAt);
     }
 }
 
