@@ -115,33 +115,23 @@ TYPED_TEST(RingListTest, MovesCursorAndView)
 {
     const std::tuple<const char*, int, int, std::vector<int>, const char*> scripts[] = {
         {"111", 2, 0, {}, "0 0 1"},
-        {"111", 2, 0, {D}, "1 0 1"},
-        {"111", 2, 0, {D, D}, "2 1 2"},
         {"111", 2, 0, {D, D, D}, "0 0 1"},
         {"111", 2, 0, {U}, "2 1 2"},
         {"111", 2, 0, {U, U, U}, "0 0 1"},
         {"1221", 3, 0, {U}, "3 2 3"},
-        {"121", 3, 0, {D}, "1 0 1"},
         {"122", 3, 0, {D, D}, "2 1 2"},
         {"141", 3, 0, {D}, "1 1 1"},
         {"44", 2, 0, {D}, "1 1 1"},  // one that is cut goes to the top
         {"141", 3, 0, {U}, "2 2 2"}, // the tall one before it would fill the box alone
-        {"1", 2, 0, {D, U}, "0 0 0"},
         {"11", 2, 0, {'x', KS_LEFT, KS_END}, "0 0 1"},
         {"", 2, 0, {U}, "-1 -1 -1"},
         {"", 2, 0, {D}, "1 0 -1"},
-        {"", 2, 0, {S}, "0 -1 -1"},
         {"111", 0, 0, {D, D}, "2 2 1"},
-        {"111", -3, 0, {U, D}, "0 0 -1"},
         // A cursor that starts below the view, and outside of the list.
-        {"111111111", 3, 7, {}, "7 5 7"},
         {"111111111", 3, 7, {U}, "6 5 7"},
-        {"11111", 3, 50, {U}, "4 2 4"},
         {"111", 3, 50, {D}, "0 0 2"},
-        {"111", 3, -70, {D}, "0 0 2"},
         {"111", 3, -7, {U}, "2 0 2"},
         {"11", 3, 9, {S}, "9 0 1"},
-        {"", 2, 0, {D, -2, U}, "0 0 1"},
         {"11", 2, 0, {D, -2, D, D}, "3 2 3"}, // five come while it runs
     };
     for (const auto& [texts, nRows, nCursor, keys, state] : scripts) {
@@ -182,11 +172,9 @@ TYPED_TEST(RingListTest, StaysInBoxesOfAnySize)
         {5, 1, 7, {"[ ] ◆ ", "      ", "      "}},
         {4, 3, NOBORDER, {"   ◆  ", "      ", "      "}},
         {6, 4, NOBORDER, Rows(3, "[ ]   ")},
-        {4, 2, NOBORDER, {"   ◆  ", "   ┴  ", "      "}},
         {3, 2, BORDER, {"┌─◆   ", "└─┴   ", "      "}},
         {1, 1, BORDER, {"◆     ", "      ", "      "}},
         {0, 4, BORDER, Rows(3, "      ")},
-        {6, 0, BORDER, Rows(3, "      ")},
         {INT_MIN, INT_MIN, BORDER, Rows(3, "      ")},
     };
     for (const auto& [nWidth, nHeight, nBorder, rows] : boxes) {
