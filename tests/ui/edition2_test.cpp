@@ -51,13 +51,12 @@ TEST_F(Edition2Test, AMenuLongerThanItsRowShowsTheSelectedText)
 {
     kulgui_destroy(1);
     makeDialog(1, 20, 5);
-    kulmenu_create(1, 1);
-    kulmenu_config(1, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr, nullptr);
+    addComponent(MENU, 1, 0, 0);
     for (const char* szText : {"<One>", "<Two>", "<Three>", "<Four>"})
-        kulmenu_addElement(1, 1, szText, 1, nullptr, nullptr);
+        addElement(1, szText);
     const auto shown = [this](std::vector<int> keys) {
         run(keys);
-        return kultest::picture(window(1), 2, 0, 1, 20)[0];
+        return picture(window(1), 2, 0, 1, 20)[0];
     };
     EXPECT_EQ(shown({}), "│ <One>   <Two>   <T");
     EXPECT_EQ(shown({KS_RIGHT, KS_RIGHT}), "│ <Two>   <Three>  │");
