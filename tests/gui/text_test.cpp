@@ -134,6 +134,9 @@ TEST(LineScanners, SwapAndCopyCharacters)
         SwapnChar(text, row.from, row.to, row.nLength);
         EXPECT_EQ(std::string(text, 8), std::string(row.result, 8)) << row.nLength;
     }
+    char all[] = "banana\0#";
+    SwapChar(all, '\0', '!');
+    EXPECT_STREQ(all, "banana!#");
     char copy[] = "......";
     CopyStrWithoutEOS(copy, "abcd", 3);
     CopyStrWithoutEOS(copy, "xy", 9);
