@@ -97,5 +97,4 @@
     K(AttachLineComponentToDI, ConfigLineComponent, WipeLineComponent)
     K(AttachLabelComponentToDI, ConfigLabelComponent, WipeLabelComponent)
     C(kulgui_setAsciiLines)
-    C(kulgui_setMarkerBars)
     // clang-format on

@@ -327,7 +327,9 @@ TEST(Updates, BlankHalvesBesideAWindow)
     for (PANEL* panel : side.panels)
         hide_panel(panel);
     for (int y = 0; y < kRows; ++y)
-        mvaddstr(y, 0, "\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22");
+        mvaddstr(y, 0,
+                 "\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22\u6f22"
+                 "\u6f22\u6f22");
     kul::compose();
     kul::updateTerminal(kul::kNowhere, false);
     for (const int nX : {3, 2}) {
