@@ -168,10 +168,9 @@ const Box* findBox(const char* szName)
 bool checkArguments(const Box& box, const Call& call)
 {
     const Shape& shape = kShapes[box.shape];
-    if (call.count < shape.least)
-        return wrong("too few arguments", box);
-    if (shape.most > 0 && call.count > shape.most && name != kWhiptail)
-        return wrong("too many arguments", box);
+    const bool tooMany = shape.most > 0 && call.count > shape.most && name != kWhiptail;
+    if (call.count < shape.least || tooMany)
+        return wrong("too few or too many", box);
     const int nFirst = shape.firstNumber < 0 ? call.count + shape.firstNumber : shape.firstNumber;
     for (int i = nFirst; i < nFirst + shape.numbers && i < call.count; ++i) {
         int nNumber;

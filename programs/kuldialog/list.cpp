@@ -388,6 +388,8 @@ Answer List::answer(Answer answer)
     beginAnswer(settings);
     if (helped)
         addHelpOf(nItem);
+    else if (oneChosen())
+        output.add(settings.text(kOutputSeparator, "")); // as before each of several
     if (!helped || settings.is(kHelpStatus)) {
         if (severalChecked()) {
             addChecked(!helped);

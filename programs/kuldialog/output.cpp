@@ -51,8 +51,10 @@ void addAsNeeded(const Settings& settings, const char* szText)
 
 void beginAnswer(const Settings& settings)
 {
-    if (output.size() > 0 && !settings.is(kSeparateOutput))
+    static bool begun = false;
+    if (begun && !settings.is(kSeparateOutput))
         output.add(settings.text(kSeparateWidget, "\t"));
+    begun = true;
 }
 
 void addAnswer(const Settings& settings, const char* szText)

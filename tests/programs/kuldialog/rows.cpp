@@ -130,6 +130,7 @@ const std::vector<Row> kRows = {
     {kOthers, "$D --checklist x 15 40 4 'c\"d' x on '$g\\' y on '' z on \"e'f\" w ON", "enter", 0,
      "\"c\\\"d\" \"\\$g\\\\\" \"\" e'f"},
     {kAll, RADIO(""), "down enter", 0, "a"},
+    {kOthers, RADIO("--print-size --output-separator ,"), "enter", 0, "Size: 15, 40\n,a"},
     {kAll, RADIO(""), "down space enter", 0, "b"},
     {kAll, "$D --radiolist x 15 40 4 a one off b two off", "enter", 0, ""},
     {kOthers, "$D --inputmenu x 20 40 8 a one b two", "down right enter end X enter", 3, "RENAMED b twoX"},
