@@ -362,6 +362,8 @@ int kulfileview_execKeys(int nChain, int nRef)
             kul::rowsMoved(kul::findDialog(nChain)->winMain, block, changed ? kul::kFar : nMoved);
             handler.selection.nPosition = percent(*view);
             SetCurrentSelection(&handler.selection);
+            if (nMoved == 0 && !changed)
+                continue; // at an end of the file there is nothing to draw
             if (view->top != before)
                 handler.call(&FileView::onSelect);
         }
