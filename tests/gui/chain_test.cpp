@@ -111,7 +111,7 @@ TEST_F(ChainTest, ConfiguringNeedsWhatItBuildsOn)
         (Numbers{RED_BLUE, RED_WHITE, RED_CYAN, BORDER, F, -1}));
     EXPECT_STREQ(gui.szLangFile, "words");
     EXPECT_EQ(CreateGUI(GetChain(1)), -10008);
-    EXPECT_EQ(WipeChain(nullptr) + WipeAllUIComponents(nullptr) + AttachComponentToUI(nullptr, BUTTON), -3);
+    EXPECT_EQ(WipeChain(nullptr) + WipeAllUIComponents(nullptr) + AttachMenuComponentToUI(nullptr), -3);
 }
 
 TEST_F(ChainTest, ComponentsTakeTheFocusAndTheirNumberOnce)
