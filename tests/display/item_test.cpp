@@ -138,7 +138,7 @@ TEST_F(ItemTest, IsWipedUpToTheFirstWithoutRecord)
         EXPECT_EQ(WipeAllDIComponents(&list[2]), -1);
     }
     EXPECT_EQ(WipeStatbarComponent(nullptr) + WipeDescrfieldComponent(nullptr), 0);
-    EXPECT_EQ(WipeLabelComponent(nullptr), -1);
+    EXPECT_EQ(WipeLabelComponent(nullptr) & WipeStatbarElements(nullptr) & WipeDescrfieldElements(nullptr), -1);
 }
 
 TEST_F(ItemTest, UpdatesOnlyWhatChanged)

@@ -57,6 +57,11 @@ TEST_F(ButtonTest, VariantsHaveDefaultsAndNoText)
         EXPECT_EQ(button.nWidth, 9);
         EXPECT_EQ(button.nColorUnfocus, RED_WHITE);
     }
+    for (const auto show : {kulokbutton_show, kulcancelbutton_show, kulexitbutton_show}) {
+        kulokbutton_hide(1, kRef);
+        show(1, kRef);
+        EXPECT_EQ(button.nVisible, T);
+    }
     // A text of its own may be given back, and one that cannot be copied leaves the defaults.
     plain(kulbutton_config, "own");
     plain(kulbutton_config, button.szText);
