@@ -29,10 +29,8 @@ protected:
 
 TEST_F(GaugeTest, PutsTheBarOnItsRail)
 {
-    const struct {
-        int nType, nOrient, nLength, nRange, nPosition;
-        const char* shades; // the bar is white, the rail cyan
-    } rows[] = {
+    // The bar is white, the rail cyan.
+    const std::tuple<int, int, int, int, int, const char*> rows[] = {
         {kScroll, LATERAL, 10, 100, 50, "-cccccWcccc--"},
         {kScroll, LATERAL, 10, 100, 90, "-cccccccccW--"},
         {kScroll, LATERAL, 10, 20, 4, "-ccWWWWWccc--"},
@@ -57,12 +55,11 @@ TEST_F(GaugeTest, PutsTheBarOnItsRail)
         {kScroll, LATERAL, INT_MAX, INT_MAX, 0, "-WWWWWWWWWWWW"},
         {kProgress, VERTICAL, INT_MAX, 10, -5, "-cccccccccccc"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [nType, nOrient, nLength, nRange, nPosition, expected] : rows) {
         clear();
-        const KULGAUGEBAR bar{RED_WHITE,  RED_CYAN,      2,           2, row.nLength,
-                              row.nRange, row.nPosition, row.nOrient, F, nullptr};
-        BarShow(gui_, &bar, row.nType);
-        EXPECT_EQ(line(row.nOrient, true), row.shades) << "row " << &row - rows;
+        const KULGAUGEBAR bar{RED_WHITE, RED_CYAN, 2, 2, nLength, nRange, nPosition, nOrient, F, nullptr};
+        BarShow(gui_, &bar, nType);
+        EXPECT_EQ(line(nOrient, true), expected) << nRange << ' ' << nPosition;
         EXPECT_EQ(getattrs(win_), static_cast<int>(A_NORMAL));
     }
     BarShow(nullptr, nullptr, kScroll);

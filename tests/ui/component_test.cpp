@@ -154,17 +154,12 @@ void make(char place)
 
 TEST_F(AnyComponentTest, CallbacksMayTakeAwayWhatRuns)
 {
-    const struct {
-        const char* name;
-        KULCALLBACK act;
-        int nResult;
-        int Kind::*result = nullptr;
-    } rows[] = {
-        {"destroy", [] { kulgui_destroy(1); }, kGone},
+    const std::tuple<const char*, KULCALLBACK, int, int Kind::*> rows[] = {
+        {"destroy", [] { kulgui_destroy(1); }, kGone, nullptr},
         {"empty", [] { kulgui_config(1, 0, 0, 0, 0, "", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr, nullptr); },
-         kGone},
-        {"leave", [] { kulgui_leave(1); }, KUL_LEFT},
-        {"focus", [] { kulgui_setFocus(1, kRef); }, 0},
+         kGone, nullptr},
+        {"leave", [] { kulgui_leave(1); }, KUL_LEFT, nullptr},
+        {"focus", [] { kulgui_setFocus(1, kRef); }, 0, nullptr},
         {"hide", [] { now->hide(1, kRef); }, 0, &Kind::nHiding},
         {"hide the dialog", [] { kulgui_hide(1); }, 0, &Kind::nDialogHiding},
         {"configure", [] { make(0); }, 0, &Kind::nTab},
@@ -177,17 +172,17 @@ TEST_F(AnyComponentTest, CallbacksMayTakeAwayWhatRuns)
          0, &Kind::nTab},
     };
     for (const Kind& kind : kKinds) {
-        for (const auto& row : rows) {
+        for (const auto& [name, action, nResult, result] : rows) {
             for (const char place : kind.places) {
-                SCOPED_TRACE(row.name + std::to_string(kind.nType) + place);
+                SCOPED_TRACE(name + std::to_string(kind.nType) + place);
                 renew();
                 now = &kind;
-                act = row.act;
+                act = action;
                 kind.create(1, kRef);
                 make(place);
                 EXPECT_EQ(press({KS_DOWN, KS_RIGHT, place == Poll ? -2 : 0, KS_ENTER, KS_UP, KS_TAB}, {act}),
-                          row.result ? kind.*row.result : row.nResult);
-                EXPECT_EQ(events.empty(), row.nResult == kGone);
+                          result ? kind.*result : nResult);
+                EXPECT_EQ(events.empty(), nResult == kGone);
             }
         }
     }

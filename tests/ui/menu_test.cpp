@@ -80,10 +80,8 @@ protected:
 
 TEST_F(MenuTest, ShowsWhatIsSelectedAndDisabled)
 {
-    // With the first element selected; after a step back; without the focus.
-    const struct {
-        Rows shown, first, back, unfocused;
-    } looks[] = {
+    // Its picture; colours with the first element selected; after a step back; without the focus.
+    const std::tuple<Rows, Rows, Rows, Rows> looks[] = {
         {{" one   seven   no         "},
          {".fff...uuuuu...dd........."},
          {".ddd...uuuuu...dd........."},
@@ -104,8 +102,8 @@ TEST_F(MenuTest, ShowsWhatIsSelectedAndDisabled)
          {".ddddddd.uuuuuuu.ddddddd."}},
     };
     forEach(kAll, [&](const Kind& kind) {
-        const auto& look = looks[&kind - kKinds];
-        const int nWidth = static_cast<int>(look.first[0].size());
+        const auto& [cells, first, back, unfocused] = looks[&kind - kKinds];
+        const int nWidth = static_cast<int>(first[0].size());
         const auto expectShades = [&](const Rows& rows) {
             EXPECT_EQ(shades(2, 1, static_cast<int>(rows.size()), nWidth), rows);
         };
@@ -113,15 +111,15 @@ TEST_F(MenuTest, ShowsWhatIsSelectedAndDisabled)
         add("seven");
         add("no", 0);
         press({});
-        EXPECT_EQ(shown(2, 1, static_cast<int>(look.shown.size()), nWidth), look.shown);
-        expectShades(look.first);
+        EXPECT_EQ(shown(2, 1, static_cast<int>(cells.size()), nWidth), cells);
+        expectShades(first);
         press({kind.nBack});
-        expectShades(look.back);
+        expectShades(back);
         kulgui_show(1);
-        expectShades(look.unfocused);
+        expectShades(unfocused);
         SetUIVisibility(1, kRef, F);
         kulgui_show(1);
-        expectShades(Rows(6, std::string(look.first[0].size(), '.')));
+        expectShades(Rows(6, std::string(first[0].size(), '.')));
     });
 }
 

@@ -69,14 +69,7 @@ TEST_F(ToolbarTest, Keys)
 {
     const int L = KS_LEFT, R = KS_RIGHT, U = KS_UP, D = KS_DOWN, E = KS_ENTER;
     const std::string farOne = std::string(30, '0') + "1" + std::string(9, '0');
-    const struct {
-        int nOrient;
-        std::string enabled;
-        int nStart;
-        std::vector<int> keys;
-        int nResult, nSelect, nCurrent;
-        const char* events;
-    } rows[] = {
+    const std::tuple<int, std::string, int, std::vector<int>, int, int, int, const char*> rows[] = {
         {LATERAL, "101", 0, {R, 0}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
         {LATERAL, "101", 0, {R, R}, KUL_LEFT, 0, 0, "focus0 unfocus0 "},
         {LATERAL, "1011", 0, {L, L, 'x'}, KUL_LEFT, 2, 2, "focus0 unfocus2 "},
@@ -95,16 +88,16 @@ TEST_F(ToolbarTest, Keys)
         {LATERAL, farOne, 0, {R, E}, KUL_LEFT, 30, 30, "focus0 click30 button30 unfocus30 "},
         {LATERAL, std::string(40, '1'), 35, {R, E}, KUL_LEFT, 36, 36, "focus35 click36 button36 unfocus36 "},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.enabled + ' ' + row.events);
-        fill(LATERAL, row.enabled);
-        toolbar().nOrient = row.nOrient;
-        toolbar().nSelect = row.nStart;
-        EXPECT_EQ(press(row.keys), row.nResult);
-        EXPECT_EQ(toolbar().nSelect, row.nSelect);
-        EXPECT_EQ(GetCurrentSelectedToolbarButton(), row.nCurrent);
+    for (const auto& [nOrient, enabled, nStart, keys, nResult, nSelect, nCurrent, noted] : rows) {
+        SCOPED_TRACE(enabled + ' ' + noted);
+        fill(LATERAL, enabled);
+        toolbar().nOrient = nOrient;
+        toolbar().nSelect = nStart;
+        EXPECT_EQ(press(keys), nResult);
+        EXPECT_EQ(toolbar().nSelect, nSelect);
+        EXPECT_EQ(GetCurrentSelectedToolbarButton(), nCurrent);
         EXPECT_EQ(GetCurrentComponentType(), TOOLBAR);
-        EXPECT_EQ(events, row.events);
+        EXPECT_EQ(events, noted);
     }
 }
 
