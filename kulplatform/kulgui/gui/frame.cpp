@@ -157,9 +157,6 @@ void DlgBox(GUI* thisGUI)
         kul::makeWindows(thisGUI);
     const int nColor = thisGUI->nColorStandard;
     WinFill(thisGUI->winMain, nColor);
-    // Nothing but this line draws into the shadow; untouched it still is what it was.
-    if (is_wintouched(thisGUI->winShadow))
-        WinFill(thisGUI->winShadow, kul::kShadowPair);
     DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);
     printFrameTitle(*thisGUI);
     kul::raisePanels(kul::panelsOf(*thisGUI));

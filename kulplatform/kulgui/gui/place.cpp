@@ -135,8 +135,9 @@ void setPanels(const Panels& panels, int (*action)(PANEL*))
 PANEL* newShadow(const Box& box)
 {
     WINDOW* win = newWindow(box);
-    PANEL* panel = win ? new_panel(win) : nullptr;
-    if (win && !panel)
+    WinFill(win, kShadowPair);
+    PANEL* panel = new_panel(win);
+    if (!panel && win)
         delwin(win);
     return panel;
 }
