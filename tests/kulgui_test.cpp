@@ -342,6 +342,26 @@ TEST_F(DialogTest, FrameTitleAndShadow)
     EXPECT_EQ(kulgui_hide(9), 0);
 }
 
+TEST_F(DialogTest, ProgramsDrawBesideTheLibrary)
+{
+    for (int nChain : {0, 1, 1}) // the last time nothing changes
+        kulgui_show(nChain);
+    WINDOW* win = newwin(1, 5, 20, 60);
+    waddstr(win, "mine");
+    wnoutrefresh(win);
+    {
+        const kul::Pass pass;
+    }
+    EXPECT_EQ(kultest::picture(curscr, 20, 60, 1, 4)[0], "mine");
+    GUI own{};
+    own.winMain = win;
+    own.winShadow = newwin(1, 5, 21, 61);
+    DlgBox(&own);
+    EXPECT_EQ(kultest::cellOf(own.winShadow, 0, 4).pair, GREEN_YELLOW) << "with windows of its own";
+    for (WINDOW* each : {own.winMain, own.winShadow})
+        delwin(each);
+}
+
 // Gives the terminal a size, and looks at it as a wait does.
 void resize(int nLines, int nColumns)
 {

@@ -381,10 +381,13 @@ void expectScroll(int nTop, int nBottom, int nRows)
 
 void compose()
 {
-    WINDOW* top = onlyTopTouched();
-    drawn = is_wintouched(newscr) ? nullptr : top;
-    if (top) {
+    const bool alone = !is_wintouched(newscr);
+    drawn = nullptr;
+    if (WINDOW* top = onlyTopTouched()) {
         wnoutrefresh(top);
+        // Where that changes nothing there may be no update, and the next one is not of it.
+        if (alone && is_wintouched(newscr))
+            drawn = top;
         return;
     }
     // Without a panel the panel library does not know the standard screen.
