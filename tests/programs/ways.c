@@ -121,8 +121,13 @@ static void click(void)
     ++clicks;
     label();
     if (strcmp(way, "run") == 0) {
+        short before = 0, after = 0, background = 0;
+        kulgui_keepScreen(T);
+        pair_content(0, &before, &background);
         const int status = kulgui_run("echo outside; read line; exit 7");
-        if (!WIFEXITED(status) || WEXITSTATUS(status) != 7 || kulgui_run(NULL) != -1 || kulgui_resume() != -1)
+        pair_content(0, &after, &background);
+        if (!WIFEXITED(status) || WEXITSTATUS(status) != 7 || kulgui_run(NULL) != -1 || kulgui_resume() != -1 ||
+            after != before)
             exit(9);
         return;
     }

@@ -184,16 +184,23 @@ bool hasOwnScreen()
 
 void endScreen(bool keeps)
 {
-    const bool stays = keeps && !ownScreen && codes().known && has_colors();
+    const bool stays = keeps && !ownScreen && codes().known;
     if (!keeps && !ownScreen)
         writeAll(leaving.text, nClearing);
-    // Where curses takes the terminal's colours for its own, it does not go to the last row twice.
-    if (stays)
+    // Where curses takes the terminal's colours for its own, it does not go to the last row twice;
+    // but that is not changed where the program has said what they are.
+    short nForeground = 0;
+    short nBackground = 0;
+    pair_content(0, &nForeground, &nBackground);
+    const bool assumes = stays && nForeground == COLOR_WHITE && nBackground == COLOR_BLACK;
+    if (assumes)
         assume_default_colors(-1, -1);
     endwin();
-    if (stays) {
+    if (stays)
         writeAll("\033[K", 3);
+    if (assumes) {
         assume_default_colors(COLOR_WHITE, COLOR_BLACK);
+        pairZeroTaken = true;
     }
 }
 

@@ -53,6 +53,9 @@ bool hasOwnScreen();
 // goes.
 void endScreen(bool keeps);
 
+// Since it has done so curses would define pair 0 as well, which it refused before.
+inline bool pairZeroTaken = false;
+
 // The bytes that enter it again.
 void enterScreen();
 

@@ -183,8 +183,11 @@ int InitializeColorSets()
     short nPair = 0;
     for (short foreground = COLOR_BLACK; foreground <= COLOR_WHITE; ++foreground) {
         for (short background = COLOR_BLACK; background <= COLOR_WHITE; ++background) {
-            if (foreground != background)
-                init_pair(nPair++, foreground, background);
+            if (foreground == background)
+                continue;
+            if (nPair > 0 || !kul::pairZeroTaken)
+                init_pair(nPair, foreground, background);
+            ++nPair;
         }
     }
     return 0;
