@@ -53,7 +53,7 @@ void drawBar(WINDOW* win, int nY, int nX, const Element* element, const Element*
              const MenuColors& colors)
 {
     constexpr long long kGap = 3;
-    const auto columns = [](const Element* each) {
+    const auto columns = [](const Element* each) -> long long {
         return widthOf(each->szText ? each->szText : "");
     };
     if (const Element* head = element; isEdition2() && selected) {
