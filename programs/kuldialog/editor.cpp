@@ -21,7 +21,8 @@ namespace kuldialog {
 
 namespace {
 
-constexpr int kLongestLine = 65534;
+// One that is longer in the file stays so, but takes no more letters.
+constexpr int kLongestLine = 2048;
 
 Field lineOf(const char* szText, std::size_t size, const Window& window)
 {

@@ -6,6 +6,8 @@
 #include "../gui/text.hpp"
 #include "handler.hpp"
 
+#include <cstdlib>
+
 namespace {
 
 // More cells than any screen has; a box beyond is a mistake.
@@ -30,13 +32,16 @@ void freeText(KULTEXTBOX& box)
 // then it is as it was.
 bool makeRoom(kul::TextBox& box, int nCharacters)
 {
-    const int nRoom = nCharacters * kul::textManners().nRoom;
+    const int nBytes = MB_CUR_MAX > 1 ? kul::textManners().nRoom : 1; // of a letter
+    const int nRoom = nCharacters * nBytes;
     if (!box.szText || nRoom > kul::roomOf(box)) {
         const std::string_view text = kul::textOf(box);
-        auto* szText = static_cast<char*>(std::calloc(static_cast<std::size_t>(nRoom) + 1, 1));
+        auto* szText = static_cast<char*>(std::malloc(static_cast<std::size_t>(nRoom) + 1));
         if (!szText)
             return false;
-        std::copy(text.begin(), text.end(), szText);
+        // Most texts are short: memory that they do not come to is not touched.
+        const int nEnd = static_cast<int>(text.copy(szText, static_cast<std::size_t>(nRoom)));
+        std::fill(szText + nEnd, szText + (nBytes > 1 ? nEnd : nRoom) + 1, '\0');
         freeText(box);
         box.szText = box.state.szOwn = szText;
         box.state.nRoom = nRoom;
