@@ -143,6 +143,11 @@ TEST_F(MenuTest, DescribesElementsBeyondTheWindow)
     kuldescrmenu_addElement(1, kRef, 1, "new", "here", nullptr, nullptr);
     press({KS_RIGHT});
     EXPECT_EQ(shown(4, 3, 1, 4), (Rows{"here"}));
+    configComponent(kRef, 2, 2);
+    kuldescrmenu_addElement(1, kRef, 1, "new", "here", nullptr, nullptr);
+    kuldescrmenu_addElement(1, kRef, 1, "\n\n    bb", "", nullptr, nullptr);
+    press({});
+    EXPECT_EQ(shown(4, 3, 1, 4), (Rows{" bbe"})) << "what follows is printed over it";
 }
 
 TEST_F(MenuTest, KeysGoRoundTheElementsAndOnePlaceMore)

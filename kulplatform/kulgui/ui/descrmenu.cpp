@@ -22,11 +22,17 @@ void draw(GUI* gui, const KULDESCRMENU& menu, kul::Finger<KULDESCRMENUELEMENT>& 
     Fill(win, nLine, menu.nX, 1, menu.nBarLength, nFrame);
     DrawBorder(win, nLine, menu.nX, kul::shifted(menu.nBoxHeight, 1), menu.nBoxWidth, nFrame);
     const auto* selected = place.find(menu.Element, menu.nSelect);
-    kul::drawBar(win, menu.nY, menu.nX, menu.Element, selected, kul::menuColors(menu, nFocus));
-    // One whose text lies outside of the window is described all the same.
-    if (selected)
+    bool described = !selected;
+    const auto describe = [&] {
+        described = true;
         NewStrToBox(win, kul::shifted(menu.nX, 1), nBox, kul::shifted(menu.nBoxWidth, -3),
                     kul::shifted(menu.nBoxHeight, -2), nFrame, LEFT, selected->szBoxText);
+    };
+    kul::drawBar(win, menu.nY, menu.nX, menu.Element, selected, kul::menuColors(menu, nFocus),
+                 describe);
+    // One whose text lies outside of the window is described all the same.
+    if (!described)
+        describe();
 }
 
 } // namespace

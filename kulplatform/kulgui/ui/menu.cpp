@@ -239,7 +239,7 @@ void ShowMenuComponent(GUI* thisGUI, KULMENU* thisMenu, int nFocus)
     auto& place = inner ? inner->place : start;
     kul::drawBar(thisGUI->winMain, thisMenu->nY, thisMenu->nX, thisMenu->Element,
                  place.find(thisMenu->Element, thisMenu->nSelect),
-                 kul::menuColors(*thisMenu, nFocus));
+                 kul::menuColors(*thisMenu, nFocus), [] {});
 }
 
 int kulmenu_execKeys(int nChain, int nRef)

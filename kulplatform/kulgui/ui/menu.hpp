@@ -47,10 +47,11 @@ int elementColor(const MenuColors& colors, const Element& element, bool selected
 }
 
 // Prints texts side by side, three columns apart, those that begin left of the window's right edge.
-// In edition 2 the first ones give way to the selected one, which ends left of a frame.
-template <typename Element>
+// In edition 2 the first ones give way to the selected one, which ends left of a frame. That one is
+// described once its text is there: newlines in others take them on to rows below.
+template <typename Element, typename Describe>
 void drawBar(WINDOW* win, int nY, int nX, const Element* element, const Element* selected,
-             const MenuColors& colors)
+             const MenuColors& colors, Describe describe)
 {
     constexpr long long kGap = 3;
     const auto columns = [](const Element* each) -> long long {
@@ -67,8 +68,11 @@ void drawBar(WINDOW* win, int nY, int nX, const Element* element, const Element*
                                   element == selected && colors.rests);
             print(win, nY, nX, element->szText ? element->szText : "");
         }
-        if (element == selected && colors.focused)
-            showCursorAt(win, nY, nX);
+        if (element == selected) {
+            if (colors.focused)
+                showCursorAt(win, nY, nX);
+            describe();
+        }
         nX = shifted(nX, columns(element) + kGap);
     }
 }
