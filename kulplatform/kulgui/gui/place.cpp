@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+#include "screen.hpp"
+
 namespace kul {
 
 namespace {
@@ -216,6 +218,7 @@ void makeWindows(GUI* thisGUI)
 
 void deleteWindows(Dialog& dialog)
 {
+    forgetWindow(dialog.winMain);
     dropWindows(dialog);
     WINDOW* side = panel_window(dialog.pnlSide);
     del_panel(dialog.pnlSide);

@@ -233,6 +233,12 @@ void forgetCursor()
     userTold = false;
 }
 
+void forgetWindow(const WINDOW* win)
+{
+    if (user.win == win)
+        forgetCursor();
+}
+
 void noteKey(int nKey)
 {
     nKeyRead = nKey;

@@ -91,6 +91,9 @@ void showCursorAt(WINDOW* win, int nY, int nX);
 // Before the dialog in focus is drawn: nobody has told yet, and the cursor is hidden.
 void forgetCursor();
 
+// Before a window is deleted: the next one may have its address.
+void forgetWindow(const WINDOW* win);
+
 // A key that goes to a component: where it changes nothing it may move the part that is shown.
 void noteKey(int nKey);
 
