@@ -155,7 +155,7 @@ void Fields::create()
 
 void Fields::go(int nPlace)
 {
-    if (nPlace < 0 || nPlace >= count_)
+    if (nPlace < 0 || nPlace >= count_ || !slotPlaces_) // without memory
         return;
     const int nRow = fields_[nPlace].y;
     current_ = nPlace;

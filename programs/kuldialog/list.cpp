@@ -328,8 +328,9 @@ void List::addChecked(bool first)
     int nLeft = 0;
     for (int i = 0; element && i < items.count(); ++i, element = element->Next)
         nLeft += element->nSelect == 1;
-    for (int i = items.count(), nNumber = -1; nLeft > 0; ++i, element = element->Next) {
-        if (i == items.count()) { // from the first one on for each number
+    element = nullptr;
+    for (int i = 0, nNumber = -1; nLeft > 0; ++i, element = element->Next) {
+        if (!element) { // from the first one on for each number
             i = 0;
             ++nNumber;
             element = list->Element;
