@@ -328,9 +328,8 @@ void List::addChecked(bool first)
     int nLeft = 0;
     for (int i = 0; element && i < items.count(); ++i, element = element->Next)
         nLeft += element->nSelect == 1;
-    element = nullptr;
-    for (int i = 0, nNumber = -1; nLeft > 0; ++i, element = element->Next) {
-        if (!element) { // from the first one on for each number
+    for (int i = items.count(), nNumber = -1; nLeft > 0; ++i, element = element->Next) {
+        if (i == items.count()) { // from the first one on for each number
             i = 0;
             ++nNumber;
             element = list->Element;
