@@ -58,7 +58,7 @@ flags() {
     harden="-D_FORTIFY_SOURCE=2 -fstack-protector-strong -Wformat -Wformat-security -Werror"
     CFLAGS="${CFLAGS:-} $harden" CXXFLAGS="${CXXFLAGS:-} $harden" \
         LDFLAGS="${LDFLAGS:-} -Wl,-z,relro,-z,now" try flags none
-    library=$(find build/machine-flags -name 'libkulgui.so.0.*' -type f)
+    library=$(find build/machine-flags/kulplatform -name 'libkulgui.so.0.*' -type f)
     readelf -d "$library" | grep -q BIND_NOW || return 1
     nm -D "$library" | grep -q __stack_chk_fail || return 1
 }
