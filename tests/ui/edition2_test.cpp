@@ -54,7 +54,7 @@ TEST_F(Edition2Test, AMenuLongerThanItsRowShowsTheSelectedText)
     addComponent(MENU, 1, 0, 0);
     for (const char* szText : {"<One>", "<Two>", "<Three>", "<Four>"})
         addElement(1, szText);
-    const auto shown = [this](std::vector<int> keys) {
+    const auto shown = [](std::vector<int> keys) {
         run(keys);
         return picture(window(1), 2, 0, 1, 20)[0];
     };

@@ -40,7 +40,8 @@ bool makeRoom(kul::TextBox& box, int nCharacters)
         if (!szText)
             return false;
         // Most texts are short: memory that they do not come to is not touched.
-        const int nEnd = static_cast<int>(text.copy(szText, static_cast<std::size_t>(nRoom)));
+        const int nEnd = std::min(static_cast<int>(text.size()), nRoom);
+        std::copy_n(text.data(), nEnd, szText);
         std::fill(szText + nEnd, szText + (nBytes > 1 ? nEnd : nRoom) + 1, '\0');
         freeText(box);
         box.szText = box.state.szOwn = szText;
