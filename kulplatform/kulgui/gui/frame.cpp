@@ -157,7 +157,7 @@ void DlgBox(GUI* thisGUI)
         kul::makeWindows(thisGUI);
     const int nColor = thisGUI->nColorStandard;
     WinFill(thisGUI->winMain, nColor);
-    // One of the program's own may come with windows; untouched it still is what it was.
+    // The program's own may come with windows, or be new; untouched it still is what it was.
     if (is_wintouched(thisGUI->winShadow))
         WinFill(thisGUI->winShadow, kul::kShadowPair);
     DrawBorder(thisGUI->winMain, 0, 0, thisGUI->nHeight, thisGUI->nWidth, nColor);

@@ -84,8 +84,9 @@ bool Painter::paint()
     return true;
 }
 
-// The number of the layer that a cell belongs to: of the first with its look, else a new one; 0 for
-// cells that only curses can show. Mostly that of the cell that was asked for before.
+// The number of the layer that a cell belongs to: of the first with its look, else a new one; the
+// one that is due for cells that only curses can show. Mostly that of the cell that was asked for
+// before.
 int Layers::of(const ScreenCell& cell)
 {
     if (isAsked_ && isSameLook(cell, last_) && (letterOf(cell) == ' ') == (letterOf(last_) == ' '))

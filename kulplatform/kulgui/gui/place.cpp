@@ -137,7 +137,6 @@ void setPanels(const Panels& panels, int (*action)(PANEL*))
 PANEL* newShadow(const Box& box)
 {
     WINDOW* win = newWindow(box);
-    WinFill(win, kShadowPair);
     PANEL* panel = new_panel(win);
     if (!panel && win)
         delwin(win);

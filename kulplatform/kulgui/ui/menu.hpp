@@ -59,7 +59,8 @@ void drawBar(WINDOW* win, int nY, int nX, const Element* element, const Element*
     };
     if (const Element* head = element; isEdition2() && selected) {
         long long nEnd = nX + columns(element = selected);
-        while (element != head && (nEnd += kGap + columns(element->Prev)) < getmaxx(win))
+        while (element != head && element->Prev &&
+               (nEnd += kGap + columns(element->Prev)) < getmaxx(win))
             element = element->Prev;
     }
     for (; element && nX < getmaxx(win); element = element->Next) {
