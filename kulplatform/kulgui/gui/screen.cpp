@@ -99,11 +99,10 @@ void update()
 {
     if (!stdscr || isendwin())
         return;
-    const bool anew = repaintDue || resumed(); // the terminal shows something else now
+    const bool anew = takeResumed() || repaintDue; // the terminal shows something else now
     raiseFocused();
     showParts(user, nKeyRead);
     nKeyRead = 0;
-    forgetResumed();
     repaintDue = false;
     if (anew) {
         clearok(curscr, TRUE);

@@ -134,6 +134,15 @@ void onSize(int)
     nResized = 1;
 }
 
+// What a signal has left, which can come at any moment: between the two lines it is taken as well.
+bool take(volatile sig_atomic_t& nNews)
+{
+    if (nNews == 0)
+        return false;
+    nNews = 0;
+    return true;
+}
+
 } // namespace
 
 void findSignals()
@@ -188,16 +197,14 @@ bool resumed()
     return nResumed != 0;
 }
 
-void forgetResumed()
+bool takeResumed()
 {
-    nResumed = 0;
+    return take(nResumed);
 }
 
 bool takeSizeSignal()
 {
-    const bool result = nResized != 0;
-    nResized = 0;
-    return result;
+    return take(nResized);
 }
 
 } // namespace kul

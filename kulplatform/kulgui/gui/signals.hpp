@@ -18,10 +18,10 @@ void giveBackSignals();
 // terminal is not the child's to give back.
 bool isOwner();
 
-// Whether the process was stopped and continued since this was last forgotten: the terminal shows
+// Whether the process was stopped and continued since this was last taken: the terminal shows
 // something else now.
 bool resumed();
-void forgetResumed();
+bool takeResumed();
 
 // Whether the terminal was told to have another size; forgets it.
 bool takeSizeSignal();
