@@ -7,6 +7,7 @@
 #include "signals.hpp"
 
 #include <cerrno>
+#include <climits>
 #include <csignal>
 #include <cstddef>
 #include <iterator>
@@ -30,6 +31,8 @@ bool ours[NSIG];
 volatile sig_atomic_t nResumed = 0;
 volatile sig_atomic_t nAway = 0; // given back to be stopped
 volatile sig_atomic_t nResized = 0;
+volatile sig_atomic_t nNews = 0;          // since the last wait began
+volatile int* volatile alarmed = nullptr; // by news
 volatile pid_t owner = 0;
 void* spareStack = MAP_FAILED; // in pages of its own: memory only once a handler has run
 
@@ -94,11 +97,20 @@ void actByDefault(int nSignal)
     sigprocmask(SIG_SETMASK, &before, nullptr);
 }
 
+// Ends the wait that is about to begin. Where one has, the signal does.
+void tell(volatile sig_atomic_t& nFlag)
+{
+    nFlag = 1;
+    nNews = 1;
+    if (alarmed)
+        *alarmed = INT_MAX;
+}
+
 void enter()
 {
     nAway = 0;
     enterLine();
-    nResumed = 1;
+    tell(nResumed);
 }
 
 void onEnding(int nSignal)
@@ -131,15 +143,15 @@ void onContinue(int)
 
 void onSize(int)
 {
-    nResized = 1;
+    tell(nResized);
 }
 
 // What a signal has left, which can come at any moment: between the two lines it is taken as well.
-bool take(volatile sig_atomic_t& nNews)
+bool take(volatile sig_atomic_t& nFlag)
 {
-    if (nNews == 0)
+    if (nFlag == 0)
         return false;
-    nNews = 0;
+    nFlag = 0;
     return true;
 }
 
@@ -205,6 +217,13 @@ bool takeResumed()
 bool takeSizeSignal()
 {
     return take(nResized);
+}
+
+void setAlarm(int* descriptor)
+{
+    alarmed = descriptor;
+    if (descriptor && take(nNews))
+        *descriptor = INT_MAX;
 }
 
 } // namespace kul

@@ -26,6 +26,11 @@ bool takeResumed();
 // Whether the terminal was told to have another size; forgets it.
 bool takeSizeSignal();
 
+// A descriptor of a poll() to come, until there is none (null). News of the two since the last one
+// was set makes it a number that is never open, so that poll() returns although the signal came
+// before it.
+void setAlarm(int* descriptor);
+
 } // namespace kul
 
 #endif

@@ -17,11 +17,13 @@
 #include "keys.hpp"
 #include "polling.hpp"
 #include "screen.hpp"
+#include "signals.hpp"
 
 namespace {
 
 constexpr long long kSecond = 1000000000; // nanoseconds
 constexpr long long kMillisecond = 1000000;
+constexpr int kNoDescriptor = -1; // which poll() passes over
 
 struct Timer {
     int nNumber; // 0: free
@@ -145,16 +147,19 @@ int kul::awaitKey()
     if (keyIsOpen())
         return readKey(0);
     forgetTypedAhead();
-    pollfd lines[1 + std::size(watches)] = {{STDIN_FILENO, POLLIN, 0}};
-    nfds_t nLines = 1;
+    constexpr int kOwn = 2;
+    pollfd lines[kOwn + std::size(watches)] = {{STDIN_FILENO, POLLIN, 0}, {kNoDescriptor, 0, 0}};
+    nfds_t nLines = kOwn;
     for (const Watch& watch : watches) {
         if (watch.onReady)
             lines[nLines++] = {watch.nFd, POLLIN, 0};
     }
+    setAlarm(&lines[1].fd);
     const int nReady = poll(lines, nLines, quietTime());
+    setAlarm(nullptr);
     const bool typed = lines[0].revents != 0 || (nReady < 0 && errno != EINTR);
     static bool keysTurn = false; // what is always ready must not keep keys away
-    keysTurn = !(typed && keysTurn) && runDue(lines + 1, nLines - 1);
+    keysTurn = !(typed && keysTurn) && runDue(lines + kOwn, nLines - kOwn);
     if (keysTurn || !typed || (isEdition2() && isPassDue()))
         return 0;
     return readKey(lines[0].revents != 0 ? kTyped : 0);
