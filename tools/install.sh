@@ -39,8 +39,9 @@ install)
         [ -d "$root$folder" ] || echo "$folder"
     done >"$build/installed"
     (cd "$build/stage" && find . ! -type d -printf '/%P\n') >>"$build/installed"
-    cmake --install "$build" --strip
+    cmake --install "$build" --strip >/dev/null
     mkdir -p "$(dirname "$list")"
     cp "$build/installed" "$list"
+    echo "$(grep -vc '/$' "$list") files are installed below $root$prefix; \"${DESTDIR:+DESTDIR=$DESTDIR }./dev uninstall $prefix\" takes them away."
     ;;
 esac

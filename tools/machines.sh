@@ -67,8 +67,10 @@ flags() {
 for name in "$@"; do
     case $name in
     narrow | small | static | flags) ;;
-    *) echo "machines.sh [narrow|small|static|flags]..." >&2 && exit 2 ;;
+    *) echo "There is no machine $name, but narrow, small, static and flags." >&2 && exit 2 ;;
     esac
+done
+for name in "$@"; do
     $name
     echo "$name: all is well"
 done

@@ -153,12 +153,15 @@ int torture(const std::string& folder, const std::string& shim, const Example& e
 
 int main(int argc, char** argv)
 {
-    int nFaults = 0;
+    int nFaults = 0, nTried = 0;
     for (const Example& example : examples()) {
         const std::string last = example.words.empty() ? example.name : example.words[0];
         if (argc > 3 && std::none_of(argv + 3, argv + argc, [&](const char* szName) { return last.ends_with(szName); }))
             continue;
         nFaults += torture(argv[2], argv[1], example);
+        ++nTried;
     }
-    return nFaults > 0 ? 1 : 0;
+    if (nTried == 0)
+        std::fprintf(stderr, "There is no such example.\n");
+    return nFaults > 0 || nTried == 0 ? 1 : 0;
 }
