@@ -26,7 +26,9 @@
  *     in the dialog is named by that number and one of its own (nRef), unique in the dialog. The
  *     program chooses both. Use 1 and up for nRef: ComponentTypeByRef cannot tell 0 from "none".
  *  2. Truth is 0. T is 0 and F is -1, and visibility, borders and flags follow: 0 is shown, -1 is
- *     hidden. Do not test them as C truth values.
+ *     hidden. Do not test them as C truth values; arguments whose names begin with b take T or F,
+ *     and 1 is not T. What marks elements is a number: nEnable, nSelect and kulcheckbox_isChecked
+ *     have 1 for yes.
  *  3. Results. KUL_OK, 0, is success and a negative number an error, where a call says nothing
  *     else; the chapter "Results" has the names. The calls print nothing, set no errno and never
  *     end the program. Unknown references, NULL and numbers out of range get the documented code or
@@ -350,9 +352,10 @@ KULGUI_API int kulgui_getRows(void);
 KULGUI_API int kulgui_create(int nChain);
 
 /** Gives the primary chain its full-screen dialog and the number nChain, in place of what it had.
- * Colour sets: KUL_KEEP takes BLACK_WHITE, CYAN_BLUE, BLUE_WHITE, CYAN_WHITE. szTitle stands in the
- * top row. szFilePath is kept as the language file's name. Returns KUL_OK, KUL_PRIMARY_BARRED when
- * a program has forbidden it (the inside), KUL_PRIMARY_FAILED without a primary chain or memory. */
+ * Colour sets: KUL_KEEP takes BLACK_WHITE, CYAN_BLUE, BLUE_WHITE, CYAN_WHITE in edition 1. szTitle
+ * stands in the top row. The callbacks are as those of kulgui_config. szFilePath is kept as the
+ * language file's name. Returns KUL_OK, KUL_PRIMARY_BARRED when a program has forbidden it (the
+ * inside), KUL_PRIMARY_FAILED without a primary chain or memory. */
 KULGUI_API int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocus,
                                   int nColorUnfocus, int nColorDisable, const char* szTitle,
                                   KULCALLBACK onFocus, KULCALLBACK onPoll, KULCALLBACK onUnfocus,
@@ -360,10 +363,13 @@ KULGUI_API int kulgui_configPrime(int nChain, int nColorStandard, int nColorFocu
 
 /** Gives chain nChain its dialog, not yet shown; one that is there already starts anew, without
  * components, but keeps its tabbing and the number of what has the focus (see kulgui_setFocus).
- * Colour sets: KUL_KEEP takes RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN. nBorder is a BORDERS. nX
- * and nY are the screen's column and row of the top left corner, nWidth and nHeight the size with
- * the frame; the shadow adds one of each. KUL_KEEP leaves nBorder at BORDER and a place or size as
- * it was, 0 at first. The primary chain must have its dialog first: without it nothing is set.
+ * Colour sets: KUL_KEEP takes RED_BLUE, RED_MAGENTA, RED_WHITE, RED_CYAN in edition 1; the chapter
+ * "Edition 2" has those of the other one. nBorder is a BORDERS. nX and nY are the screen's column
+ * and row of the top left corner, nWidth and nHeight the size with the frame; the shadow adds one
+ * of each. KUL_KEEP leaves nBorder at BORDER and a place or size as it was, 0 at first. szTitle
+ * stands in the middle of the frame; a blank at either end keeps it off the line. onPoll runs about
+ * once a second while the dialog is shown and some dialog waits for a key; the other three are kept
+ * and never run. The primary chain must have its dialog first: without it nothing is set.
  * szFilePath is not used. Returns KUL_OK, KUL_NO_CHAIN for an unknown chain, KUL_NO_MEMORY without
  * memory. */
 KULGUI_API int kulgui_config(int nChain, int nColorStandard, int nColorFocus, int nColorUnfocus,
@@ -564,9 +570,9 @@ typedef struct current {
     int nChain;         /* ro */
     int nUserInterface; /* ro: nRef of the component */
     int nType;          /* ro: UI_TYPE */
-    int nPosition;      /* ro */
-    int nSelect;        /* ro */
-    int nSubSelect;     /* ro */
+    int nPosition;      /* ro: of a list the cursor's element, of a file viewer 0 to 100 */
+    int nSelect;        /* ro: the selected element, from 0; of an option list the chosen one */
+    int nSubSelect;     /* ro: not used */
 } CURRENT;
 
 /** The record of what has the focus; always the same one, the library's. */
@@ -575,7 +581,7 @@ KULGUI_API CURRENT* GetCurrentSelection(void);
 /** The UI_TYPE of what has the focus. */
 KULGUI_API int GetCurrentComponentType(void);
 
-/** The selected element of what has the focus, counted from 0, whatever its kind. */
+/** All four: nSelect of the current selection, whatever its kind. */
 KULGUI_API int GetCurrentOptionSelection(void);
 KULGUI_API int GetCurrentCheckboxSelection(void);
 KULGUI_API int GetCurrentSelectedToolbarButton(void);
@@ -673,8 +679,9 @@ KULGUI_API int kuldialog_view(const char* szTitle, const char* szFileName, int b
 
 /** Long work of the program's: kuldialog_progress shows a text and a bar, kuldialog_advance moves
  * the bar to nPercent, 0 to 100, and changes the text unless it is NULL; kuldialog_done ends it.
- * None waits for a key. The title must stay until the end, and so must the first text. Without
- * kuldialog_progress before, KUL_ERROR. */
+ * None waits for a key: work that the user may cancel goes on by a timer, in a dialog of its own.
+ * The title must stay until the end, and so must the first text. Without kuldialog_progress before,
+ * KUL_ERROR. */
 KULGUI_API int kuldialog_progress(const char* szTitle, const char* szText);
 KULGUI_API int kuldialog_advance(int nPercent, const char* szText);
 KULGUI_API int kuldialog_done(void);
@@ -780,9 +787,9 @@ KULGUI_API int kulmenu_create(int nChain, int nRef);
  * the dialog's; in focus the selected element is in nColorFocus, the other ones in nColorUnfocus
  * or nColorDisable, without focus all are in nColorUnfocus; in edition 2 the selected one is told
  * then as well, black on cyan among black on white ones, else underlined, and where all do not fit
- * the first ones give way to it. onFocus and onUnfocus
- * run when the menu gets and loses the focus, onClick at Enter. Returns KUL_OK, KUL_ERROR for an
- * unknown component. */
+ * the first ones give way to it. onFocus and onUnfocus run when the menu gets and loses the focus,
+ * onSelect after a move in edition 2, onClick at Enter; so do those of other menus and toolbars.
+ * Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kulmenu_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus,
                               int nColorDisable, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                               KULCALLBACK onSelect, KULCALLBACK onClick);
@@ -1272,7 +1279,8 @@ KULGUI_API int kultextbox_setLimit(int nChain, int nRef, int nCharacters);
 /** What judges the text when the user goes on to another component or to the default button, until
  * the next kultextbox_config; NULL for none. 0 lets him go, anything else keeps the focus in the
  * box; onCheck can say why in a label or a dialog. It is not asked on Escape, for the cancel
- * button, by kulgui_leave or kulgui_setFocus, so that a wrong text traps nobody. szText is the
+ * button, by kulgui_leave or kulgui_setFocus, so that a wrong text traps nobody. The texts of the
+ * dialog's other boxes are not looked at then: a button's onClick does that. szText is the
  * library's own. Returns KUL_OK, KUL_ERROR for an unknown component. */
 KULGUI_API int kultextbox_setCheck(int nChain, int nRef, int (*onCheck)(const char* szText));
 
@@ -1307,7 +1315,8 @@ KULGUI_API int kulstatbar_create(int nChain, int nRef);
 KULGUI_API int kulstatbar_config(int nChain, int nRef, int nColor, KULCALLBACK onPoll);
 
 /** Adds a field at the end, at column nX and nWidth wide; the text is copied and cut to that.
- * Returns KUL_OK, KUL_ERROR for an unknown item, a negative width or without memory. */
+ * nAlignment is an ALIGN, anything else LEFT; onUpdate is not run. Returns KUL_OK, KUL_ERROR for an
+ * unknown item, a negative width or without memory. */
 KULGUI_API int kulstatbar_addElement(int nChain, int nRef, int nX, int nWidth, const char* szText,
                                      int nAlignment, KULCALLBACK onUpdate);
 
