@@ -60,7 +60,6 @@ void addUsage(Buffer& text, const Box& box)
 constexpr unsigned char kOthers = kDialog | kOwn;
 constexpr unsigned char kAll = kWhiptail | kOthers;
 
-// In the order of the runners below.
 enum Kind : unsigned char {
     kMessages,
     kEntries,
@@ -72,11 +71,6 @@ enum Kind : unsigned char {
     kCommands,
     kPicks,
     kRanges
-};
-
-constexpr Answer (*kRunners[])(const Call&) = {
-    runMessage, runEntry, runList,    runForm, runEditor,
-    runGauge,   runView,  runCommand, runPick, runRange,
 };
 
 constexpr Box kBoxes[] = {
@@ -142,7 +136,29 @@ int groupSize(const Box& box, const Settings& settings)
 
 Answer Box::run(const Call& call) const
 {
-    return kRunners[kind](call);
+    // No table: each address in one would be put right at the start.
+    switch (kind) {
+    case kMessages:
+        return runMessage(call);
+    case kEntries:
+        return runEntry(call);
+    case kLists:
+        return runList(call);
+    case kForms:
+        return runForm(call);
+    case kEditors:
+        return runEditor(call);
+    case kGauges:
+        return runGauge(call);
+    case kViews:
+        return runView(call);
+    case kCommands:
+        return runCommand(call);
+    case kPicks:
+        return runPick(call);
+    default:
+        return runRange(call);
+    }
 }
 
 int itemSize(const Settings& settings, int nVariant)

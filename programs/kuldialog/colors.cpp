@@ -20,46 +20,34 @@ unsigned char colors[kRoles] = {WHITE_BLUE, BLACK_WHITE, WHITE_BLUE, BLACK_WHITE
 
 namespace {
 
-template <std::size_t room>
-struct Word {
-    char text[room];
-    unsigned char role;
-};
+// Words of NEWT_COLORS and of the file, and what each one colours.
+constexpr char kNewtWords[] = "root\0roottext\0window\0textbox\0actlistbox\0actsellistbox\0actbutton\0"
+                              "actcheckbox\0button\0compactbutton\0entry\0";
+constexpr Role kNewtRoles[] = {kDesktop, kDesktop, kWindowColor, kWindowColor, kFocus, kFocus,
+                               kFocus,   kFocus,   kButtons,     kButtons,     kFieldsColor};
+constexpr char kFileWords[] = "screen_color\0dialog_color\0button_active_color\0"
+                              "item_selected_color\0button_inactive_color\0inputbox_color\0"
+                              "form_text_color\0";
+constexpr Role kFileRoles[] = {kDesktop, kWindowColor, kFocus,      kFocus,
+                               kButtons, kFieldsColor, kFieldsColor};
 
-constexpr Word<15> kNewtWords[] = {
-    {"root", kDesktop},          {"roottext", kDesktop},  {"window", kWindowColor},
-    {"textbox", kWindowColor},   {"actlistbox", kFocus},  {"actsellistbox", kFocus},
-    {"actbutton", kFocus},       {"actcheckbox", kFocus}, {"button", kButtons},
-    {"compactbutton", kButtons}, {"entry", kFieldsColor},
-};
-
-constexpr Word<23> kFileWords[] = {
-    {"screen_color", kDesktop},          {"dialog_color", kWindowColor},
-    {"button_active_color", kFocus},     {"item_selected_color", kFocus},
-    {"button_inactive_color", kButtons}, {"inputbox_color", kFieldsColor},
-    {"form_text_color", kFieldsColor},
-};
-
-struct Colour {
-    char text[8];
-    unsigned char number;
-};
-
-constexpr Colour kColours[] = {
-    {"black", COLOR_BLACK},     {"red", COLOR_RED},       {"green", COLOR_GREEN},
-    {"brown", COLOR_YELLOW},    {"yellow", COLOR_YELLOW}, {"blue", COLOR_BLUE},
-    {"magenta", COLOR_MAGENTA}, {"cyan", COLOR_CYAN},     {"white", COLOR_WHITE},
-    {"gray", COLOR_BLACK},
-};
+// In the order of their numbers, then other names.
+constexpr char kColours[] = "black\0red\0green\0yellow\0blue\0magenta\0cyan\0white\0"
+                            "gray\0brown\0lightgray\0";
+constexpr unsigned char kNumbers[] = {COLOR_BLACK, COLOR_RED,     COLOR_GREEN, COLOR_YELLOW,
+                                      COLOR_BLUE,  COLOR_MAGENTA, COLOR_CYAN,  COLOR_WHITE,
+                                      COLOR_BLACK, COLOR_YELLOW,  COLOR_WHITE};
 
 constexpr int kOthers = 7; // colours of the background beside each foreground
 
-const char* nameOf(int nColour)
+// The place of a word of that size in a row of texts, -1 for none.
+int placeOf(const char* szTexts, const char* szWord, std::size_t size)
 {
-    const Colour* colour = kColours;
-    while (colour->number != nColour)
-        ++colour;
-    return colour->text;
+    for (int i = 0; *szTexts; ++i, szTexts = textAt(szTexts, 1)) {
+        if (std::strlen(szTexts) == size && strncasecmp(szTexts, szWord, size) == 0)
+            return i;
+    }
+    return -1;
 }
 
 // The colour that a text of that size names; bright and light ones are the same. -1 for none.
@@ -69,13 +57,8 @@ int colourOf(const char* szText, std::size_t size)
         szText += 6;
         size -= 6;
     }
-    if (size == 9 && strncasecmp(szText, "lightgray", 9) == 0)
-        return COLOR_WHITE;
-    for (const Colour& colour : kColours) {
-        if (std::strlen(colour.text) == size && strncasecmp(colour.text, szText, size) == 0)
-            return colour.number;
-    }
-    return -1;
+    const int nPlace = placeOf(kColours, szText, size);
+    return nPlace < 0 ? nPlace : kNumbers[nPlace];
 }
 
 // Reads two colours with a comma between. Two that are the same cannot be read on a screen.
@@ -93,25 +76,15 @@ void take(Role role, const char* szText, const char* szStops)
                                               (nBackground > nForeground));
 }
 
-template <std::size_t room, std::size_t count>
-int roleOf(const Word<room> (&words)[count], const char* szText, std::size_t size)
-{
-    for (const auto& word : words) {
-        if (std::strlen(word.text) == size && std::memcmp(word.text, szText, size) == 0)
-            return word.role;
-    }
-    return -1;
-}
-
 void readVariable(const char* at)
 {
     constexpr char kBetween[] = " \t\n:;";
     for (; *at; at += std::strcspn(at, kBetween)) {
         at = skip(at, kBetween);
         const std::size_t size = std::strcspn(at, "=");
-        const int nRole = roleOf(kNewtWords, at, size);
-        if (nRole >= 0 && at[size])
-            take(static_cast<Role>(nRole), at + size + 1, kBetween);
+        const int nWord = placeOf(kNewtWords, at, size);
+        if (nWord >= 0 && at[size])
+            take(kNewtRoles[nWord], at + size + 1, kBetween);
     }
 }
 
@@ -120,10 +93,10 @@ void readLine(const char* szLine)
     constexpr char kBlanks[] = " \t";
     szLine = skip(szLine, kBlanks);
     const std::size_t size = std::strcspn(szLine, " \t=");
-    const int nRole = roleOf(kFileWords, szLine, size);
+    const int nWord = placeOf(kFileWords, szLine, size);
     const char* szPair = szLine + std::strcspn(szLine, "(\n");
-    if (nRole >= 0 && *szPair == '(')
-        take(static_cast<Role>(nRole), szPair + 1, ",)");
+    if (nWord >= 0 && *szPair == '(')
+        take(kFileRoles[nWord], szPair + 1, ",)");
 }
 
 // The file that is named, or the one at home, or the system's; -1 for none.
@@ -161,11 +134,13 @@ void readColors()
 bool writeColors(const char* szFile)
 {
     Buffer text;
-    for (const auto& word : kFileWords) {
-        const int nForeground = colors[word.role] / kOthers;
-        const int nBackground = colors[word.role] % kOthers;
-        text.add(word.text).add(" = (").add(nameOf(nForeground)).add(',');
-        text.add(nameOf(nBackground + (nBackground >= nForeground))).add(",OFF)\n");
+    const char* szWord = kFileWords;
+    for (const Role role : kFileRoles) {
+        const int nForeground = colors[role] / kOthers;
+        const int nBackground = colors[role] % kOthers;
+        text.add(szWord).add(" = (").add(textAt(kColours, nForeground)).add(',');
+        text.add(textAt(kColours, nBackground + (nBackground >= nForeground))).add(",OFF)\n");
+        szWord = textAt(szWord, 1);
     }
     const int nFd = open(szFile, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (nFd < 0 || !text.writeTo(nFd)) {

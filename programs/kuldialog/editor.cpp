@@ -50,7 +50,7 @@ bool read(const char* szFile, Fields& lines, const Window& window)
     bool complete = true;
     const char* end = file.text() + file.size();
     for (const char* at = file.text(); complete && (at < end || lines.count() == 0);) {
-        const char* stop = std::find(at, end, '\n');
+        const char* stop = lineEnd(at, end);
         complete = lines.add(lineOf(at, static_cast<std::size_t>(stop - at), window));
         at = stop + 1;
     }

@@ -130,7 +130,7 @@ void Reader::readMore()
     }
     const char* end = part + size;
     for (const char* at = part; at < end;) {
-        const char* stop = std::find(at, end, '\n');
+        const char* stop = lineEnd(at, end);
         if (line_.size() < kLongestLine)
             line_.add(at, static_cast<std::size_t>(stop - at));
         if (stop < end) {

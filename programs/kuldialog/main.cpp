@@ -39,25 +39,19 @@ void takeName(const char* szPath)
 // The exit status of an answer: the one that the environment has for it, or the usual one.
 int statusOf(Answer answer)
 {
-    struct Status {
-        char variable[20];
-        unsigned char usual;
-    };
-    constexpr Status kStatuses[kAnswers] = {
-        {"DIALOG_OK", 0},        {"DIALOG_CANCEL", 1},  {"DIALOG_HELP", 2},  {"DIALOG_EXTRA", 3},
-        {"DIALOG_ITEM_HELP", 4}, {"DIALOG_TIMEOUT", 5}, {"DIALOG_ESC", 255}, {"DIALOG_ERROR", 255},
-    };
-    const Status& status = kStatuses[answer];
+    constexpr char kVariables[] = "DIALOG_OK\0DIALOG_CANCEL\0DIALOG_HELP\0DIALOG_EXTRA\0"
+                                  "DIALOG_ITEM_HELP\0DIALOG_TIMEOUT\0DIALOG_ESC\0DIALOG_ERROR";
+    const int nUsual = answer < kEscaped ? answer : 255;
     if (name == kWhiptail)
-        return status.usual;
-    const char* szValue = std::getenv(status.variable);
+        return nUsual;
+    const char* szValue = std::getenv(textAt(kVariables, answer));
     if (!szValue && answer == kHelpedItem)
         return statusOf(kHelped);
     if (!szValue && answer == kTimedOut)
         return statusOf(kEscaped);
     char* end = nullptr;
     const long nValue = szValue ? std::strtol(szValue, &end, 0) : 0;
-    return end && end != szValue && !*end ? static_cast<int>(nValue & 255) : status.usual;
+    return end && end != szValue && !*end ? static_cast<int>(nValue & 255) : nUsual;
 }
 
 void printVersion()

@@ -178,7 +178,7 @@ bool anyOption(Option& option, Wanted wanted)
 {
     const char* next = kPacked.text;
     for (const char* at = next; *at; at = next) {
-        next = std::find(at + kHead, std::end(kPacked.text), '\0') + 1;
+        next = textAt(at + kHead, 1);
         option = {at + kHead, static_cast<unsigned char>(at[0]), static_cast<Take>(at[1]),
                   static_cast<unsigned char>(at[2]),
                   static_cast<std::size_t>(next - at) - kHead - 1};

@@ -71,6 +71,13 @@ const char* skip(const char* szText, const char* szCharacters)
     return szText;
 }
 
+const char* lineEnd(const char* szText, const char* end)
+{
+    while (szText < end && *szText != '\n')
+        ++szText;
+    return szText;
+}
+
 bool begins(const char* szText, const char* szStart)
 {
     while (*szStart && *szStart == *szText) {

@@ -25,6 +25,9 @@ const char* textAt(const char* szTexts, int nPlace);
 // Behind the characters at the start of a text that are among those.
 const char* skip(const char* szText, const char* szCharacters);
 
+// The end of the line at the start of a text that has an end, its newline or that.
+const char* lineEnd(const char* szText, const char* end);
+
 // Whether a text begins with another one.
 bool begins(const char* szText, const char* szStart);
 
