@@ -21,9 +21,10 @@ unsigned char colors[kRoles] = {WHITE_BLUE, BLACK_WHITE, WHITE_BLUE, BLACK_WHITE
 namespace {
 
 // Words of NEWT_COLORS and of the file, and what each one colours.
-constexpr char kNewtWords[] = "root\0roottext\0window\0textbox\0actlistbox\0actsellistbox\0actbutton\0"
-                              "actcheckbox\0button\0compactbutton\0entry\0";
-constexpr Role kNewtRoles[] = {kDesktop, kDesktop, kWindowColor, kWindowColor, kFocus, kFocus,
+constexpr char kNewtWords[] =
+    "root\0roottext\0window\0textbox\0actlistbox\0actsellistbox\0actbutton\0"
+    "actcheckbox\0button\0compactbutton\0entry\0";
+constexpr Role kNewtRoles[] = {kDesktop, kDesktop, kWindowColor, kWindowColor, kFocus,      kFocus,
                                kFocus,   kFocus,   kButtons,     kButtons,     kFieldsColor};
 constexpr char kFileWords[] = "screen_color\0dialog_color\0button_active_color\0"
                               "item_selected_color\0button_inactive_color\0inputbox_color\0"

@@ -9,6 +9,7 @@
 #include <kulgui.h>
 
 #include "boxes.hpp"
+#include "clamp.hpp"
 #include "output.hpp"
 
 namespace kuldialog {
@@ -53,7 +54,7 @@ void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int 
     kultextbox_create(window.nChain, nRef);
     kultextbox_config(window.nChain, nRef, colors[kFocus], colors[kFieldsColor], KUL_KEEP, nX, nY,
                       std::max(nWidth, 1), 1, NOBORDER, nMask, nullptr, nullptr, nullptr, nullptr);
-    kultextbox_setLimit(window.nChain, nRef, std::clamp(nLimit, std::max(nHas, 1), 65535));
+    kultextbox_setLimit(window.nChain, nRef, kul::clamp(nLimit, std::max(nHas, 1), 65535));
     kultextbox_setText(window.nChain, nRef, szText);
 }
 

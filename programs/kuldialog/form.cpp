@@ -8,6 +8,7 @@
 #include <kulgui.h>
 
 #include "boxes.hpp"
+#include "clamp.hpp"
 #include "entry.hpp"
 #include "options.hpp"
 #include "output.hpp"
@@ -161,7 +162,7 @@ void Fields::go(int nPlace)
     current_ = nPlace;
     if (!isInView(nRow)) {
         keep();
-        top_ = std::clamp(top_, std::max(nRow - window_.nBodyHeight + 1, 0), nRow);
+        top_ = kul::clamp(top_, std::max(nRow - window_.nBodyHeight + 1, 0), nRow);
         fill();
     }
     window_.nFocus = kFirst + slotOf(nPlace);

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "boxes.hpp"
+#include "clamp.hpp"
 #include "output.hpp"
 #include "terminal.hpp"
 #include "window.hpp"
@@ -79,7 +80,7 @@ constexpr std::size_t kLongestLine = 16384;
 bool Reader::takePercent(const char* szLine)
 {
     char* end;
-    const long nPercent = std::clamp(std::strtol(szLine, &end, 10), 0L, 100L);
+    const long nPercent = kul::clamp(std::strtol(szLine, &end, 10), 0L, 100L);
     if (end != szLine)
         meter_.set(static_cast<int>(nPercent), static_cast<int>(nPercent));
     return end != szLine;
@@ -158,7 +159,7 @@ Answer readGauge(const Call& call, Window& window)
 {
     const Meter meter{window, 100, " %"};
     meter.create();
-    const int nPercent = std::clamp(call.number(3), 0, 100);
+    const int nPercent = kul::clamp(call.number(3), 0, 100);
     meter.set(nPercent, nPercent);
     Reader script(meter, call.settings);
     reader = &script;
@@ -235,7 +236,7 @@ struct Range {
 
     void move(int nTo)
     {
-        nValue = std::clamp(nTo, nLeast, nMost);
+        nValue = kul::clamp(nTo, nLeast, nMost);
         meter.set(nValue - nLeast, nValue);
     }
 };
@@ -278,7 +279,7 @@ Answer runGauge(const Call& call)
     if (call.variant == kCountedGauge)
         return countSeconds(call, window);
     const Meter meter{window, 100, " %"};
-    const int nPercent = std::clamp(call.number(3), 0, 100);
+    const int nPercent = kul::clamp(call.number(3), 0, 100);
     meter.create();
     meter.set(nPercent, nPercent);
     window.show();

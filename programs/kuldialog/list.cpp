@@ -10,6 +10,7 @@
 #include <kulgui.h>
 
 #include "boxes.hpp"
+#include "clamp.hpp"
 #include "entry.hpp"
 #include "options.hpp"
 #include "output.hpp"
@@ -142,7 +143,7 @@ private:
     int marks() const { return 1 + hasText(); }
     int depth(int nItem) const
     {
-        return variant_ == kTree ? std::clamp(integer(tokens_[nItem * size_ + marks() + 1]), 0, 40)
+        return variant_ == kTree ? kul::clamp(integer(tokens_[nItem * size_ + marks() + 1]), 0, 40)
                                  : 0;
     }
 
@@ -211,7 +212,7 @@ void List::create()
     const bool marked = items.isMarked();
     const int nRoom = window_.nWidth - 2;
     const int nExtra = marked ? 5 + (items.count() > window_.nBodyHeight) : 2;
-    const int nText = std::clamp(items.widest(), 1, std::max(nRoom - nExtra, 1));
+    const int nText = kul::clamp(items.widest(), 1, std::max(nRoom - nExtra, 1));
     const int nX = std::max((window_.nWidth - nText - nExtra) / 2, 1);
     const int nY = window_.nBodyY;
     const int nHeight = window_.nBodyHeight;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "options.hpp"
 
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -10,6 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "clamp.hpp"
 #include "output.hpp"
 #include "terminal.hpp"
 #include "text.hpp"
@@ -260,7 +260,7 @@ void complain(const char* szWhat, const char* szAbout)
 int integer(const char* szText)
 {
     const long n = std::strtol(szText, nullptr, 10);
-    return static_cast<int>(std::clamp(n, -65535L, 65535L));
+    return static_cast<int>(kul::clamp(n, -65535L, 65535L));
 }
 
 bool readNumber(const char* szText, int& nNumber)
@@ -268,7 +268,7 @@ bool readNumber(const char* szText, int& nNumber)
     constexpr long kMost = 30000;
     char* end;
     const long read = std::strtol(szText, &end, 10);
-    nNumber = static_cast<int>(std::clamp(read, -1L, kMost));
+    nNumber = static_cast<int>(kul::clamp(read, -1L, kMost));
     return end != szText && *end == '\0';
 }
 

@@ -9,6 +9,7 @@
 #include <kulgui.h>
 
 #include "boxes.hpp"
+#include "clamp.hpp"
 #include "terminal.hpp"
 
 namespace kuldialog {
@@ -109,7 +110,7 @@ void Window::measure()
     if (nWidth <= 0)
         nWidth = nWidth < 0 ? screenWidth()
                             : std::min(nNeeded, std::max(bodyColumns_, kWidest)) + kMargins;
-    nWidth = std::clamp(nWidth, std::min(screenWidth(), std::max(buttonColumns(), 4) + kMargins),
+    nWidth = kul::clamp(nWidth, std::min(screenWidth(), std::max(buttonColumns(), 4) + kMargins),
                         screenWidth());
     area_.wrap(text_, nWidth);
 
@@ -119,13 +120,13 @@ void Window::measure()
     if (nHeight <= 0)
         nHeight = nHeight < 0 ? screenHeight() : nBest;
     // What is higher than the screen is shown in part, with what has the focus.
-    nHeight = std::clamp(nHeight, nLeast, std::max(screenHeight(), nLeast));
+    nHeight = kul::clamp(nHeight, nLeast, std::max(screenHeight(), nLeast));
 
     const int nRoom = nHeight - kFrame - nRow;
     const int nSpare = nRoom - bodyWanted_ - 1;
     const int nBody = std::max(bodyLeast_, std::min(bodyWanted_, nRoom / 2));
-    textRows_ = std::clamp(nRoom - nBody, 0, isForTexts ? std::max(nText, nSpare) : nText);
-    nBodyHeight = std::clamp(bodyWanted_, 0, std::max(nRoom - textRows_, 0));
+    textRows_ = kul::clamp(nRoom - nBody, 0, isForTexts ? std::max(nText, nSpare) : nText);
+    nBodyHeight = kul::clamp(bodyWanted_, 0, std::max(nRoom - textRows_, 0));
     // A row between text and body, if it is there for both.
     const int nLeft = nRoom - textRows_ - nBodyHeight;
     nBodyY = 1 + textRows_ + (nLeft > 1 && textRows_ > 0);
@@ -204,8 +205,8 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     // Below the next box it is still there, with its title.
     char* kept = copyOf(title.text(), title.size());
     if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      kept, BORDER, std::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
-                      std::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
+                      kept, BORDER, kul::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
+                      kul::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
                       nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
         std::free(kept);
         return false;

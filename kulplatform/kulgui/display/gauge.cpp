@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Scroll bars and progress bars: a rail with a bar on it. The lists draw their scroll bars here.
+#include "../clamp.hpp"
 #include "../gui/draw.hpp"
 #include "item.hpp"
 
@@ -28,7 +29,7 @@ void drawThumb(WINDOW* win, const KULGAUGEBAR& bar)
         thumb = std::max(length * length / bar.nRange, 1LL);
         const bool atEnd = static_cast<long long>(bar.nRange) - bar.nPosition == length;
         offset = atEnd ? length : bar.nPosition / (bar.nRange / length);
-        offset = std::clamp(offset, 0LL, length - thumb);
+        offset = kul::clamp(offset, 0LL, length - thumb);
     }
     wattr_on(win, A_REVERSE, nullptr);
     drawCells(win, bar, static_cast<int>(offset), static_cast<int>(thumb));
@@ -40,7 +41,7 @@ void drawThumb(WINDOW* win, const KULGAUGEBAR& bar)
 void drawProgress(WINDOW* win, const KULGAUGEBAR& bar)
 {
     const double part = bar.nRange != 0 ? static_cast<double>(bar.nPosition) / bar.nRange : 0;
-    const int nFill = static_cast<int>(std::clamp<double>(bar.nLength * part, -1, bar.nLength));
+    const int nFill = static_cast<int>(kul::clamp<double>(bar.nLength * part, -1, bar.nLength));
     const int nFrom = bar.nOrient == LATERAL ? 0 : kul::shifted(bar.nLength, -nFill);
     drawCells(win, bar, nFrom, kul::shifted(nFill, 1));
 }

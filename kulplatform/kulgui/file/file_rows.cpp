@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cwchar>
 
+#include "../clamp.hpp"
 #include "../gui/draw.hpp"
 #include "../gui/edition.hpp"
 #include "../gui/text.hpp"
@@ -42,7 +43,7 @@ Letter character(std::string_view bytes, int nColumns)
 } // namespace
 
 FileRows::FileRows(FileText& text, int nColumns)
-    : text_(text), nColumns_(std::clamp(nColumns, 1, kMaxColumns)), marks_(isEdition2())
+    : text_(text), nColumns_(kul::clamp(nColumns, 1, kMaxColumns)), marks_(isEdition2())
 {
 }
 
@@ -185,7 +186,7 @@ FileRows::Row FileRows::wrappedRow(FilePlace start, FilePlace edge)
 
 FilePlace FileRows::rowOf(FilePlace place)
 {
-    place = std::clamp<FilePlace>(place, 0, std::max<FilePlace>(text_.size() - 1, 0));
+    place = kul::clamp<FilePlace>(place, 0, std::max<FilePlace>(text_.size() - 1, 0));
     FilePlace start = text_.pieceStart(place);
     while (true) {
         const FilePlace next = row(start).next;

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "../clamp.hpp"
 #include "byte_search.hpp"
 
 namespace kul {
@@ -91,7 +92,7 @@ bool FileText::look()
     if (now == seen_)
         return false;
     seen_ = now;
-    size_ = std::clamp<FilePlace>(now.size, 0, kLargest);
+    size_ = kul::clamp<FilePlace>(now.size, 0, kLargest);
     // Some files of the system say that they are empty; reading tells.
     ssize_t n;
     while (now.size == 0 && size_ < kProbed &&
@@ -186,7 +187,7 @@ bool FileText::turnTo(FilePlace place)
     last_ = bytesOf(*page);
     lastPlace_ = number * kPage;
     lastSize_ =
-        static_cast<std::uint64_t>(std::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));
+        static_cast<std::uint64_t>(kul::clamp<FilePlace>(size_ - lastPlace_, 0, page->nBytes));
     return place - lastPlace_ < static_cast<FilePlace>(lastSize_);
 }
 
@@ -199,7 +200,7 @@ void FileText::meetEnd(FilePlace place)
     // A file that was cut off may end far above; it is not followed up page by page.
     struct stat status;
     if (seen_.size > 0 && fstat(nDescriptor_, &status) == 0)
-        size_ = std::clamp<FilePlace>(status.st_size, 0, size_);
+        size_ = kul::clamp<FilePlace>(status.st_size, 0, size_);
 }
 
 FilePlace FileText::newlineBefore(FilePlace place, FilePlace from)
@@ -308,7 +309,7 @@ std::string_view FileText::chunk(FilePlace place)
 
 FileText::Counted FileText::markAt(std::int64_t nMark) const
 {
-    nMark = std::clamp<std::int64_t>(nMark, 0, nMarks_ - 1);
+    nMark = kul::clamp<std::int64_t>(nMark, 0, nMarks_ - 1);
     return {nMark * stride_, marks_[nMark]};
 }
 

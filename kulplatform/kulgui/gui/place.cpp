@@ -12,6 +12,7 @@
 
 #include <algorithm>
 
+#include "../clamp.hpp"
 #include "screen.hpp"
 
 namespace kul {
@@ -33,14 +34,14 @@ struct Box {
 // and memory is bounded.
 int limited(int nSize)
 {
-    return std::clamp(nSize, 1, std::max({512, LINES, COLS}));
+    return kul::clamp(nSize, 1, std::max({512, LINES, COLS}));
 }
 
 // As near to the place that is wanted as all of it is on the screen, or from the edge on.
 int placed(int nWanted, int nSize, int nScreen)
 {
     const int nRoom = std::max(nScreen - limited(nSize), 0);
-    return nWanted == KUL_CENTER ? nRoom / 2 : std::clamp(nWanted, 0, nRoom);
+    return nWanted == KUL_CENTER ? nRoom / 2 : kul::clamp(nWanted, 0, nRoom);
 }
 
 // What is shown of a dialog.

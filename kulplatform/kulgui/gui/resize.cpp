@@ -14,6 +14,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include "../clamp.hpp"
 #include "../kulgui.h"
 #include "chain.hpp"
 #include "frame.hpp"
@@ -34,7 +35,7 @@ time_t lastLook = 0;
 int positive(const char* szName)
 {
     const char* szValue = std::getenv(szName);
-    return szValue ? static_cast<int>(std::clamp(std::strtol(szValue, nullptr, 10), 0L, 65535L))
+    return szValue ? static_cast<int>(kul::clamp(std::strtol(szValue, nullptr, 10), 0L, 65535L))
                    : 0;
 }
 

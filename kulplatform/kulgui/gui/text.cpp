@@ -20,6 +20,7 @@
 #include <clocale>
 #include <cstring>
 
+#include "../clamp.hpp"
 #include "columns.hpp"
 #include "edition.hpp"
 #include "print.hpp"
@@ -205,7 +206,7 @@ int widthOf(std::string_view text)
 std::string_view cutText(const char* szText, long long nColumns)
 {
     const std::string_view text = viewOf(szText);
-    const auto nMost = static_cast<std::size_t>(std::clamp(nColumns, 0LL, 1LL * INT_MAX));
+    const auto nMost = static_cast<std::size_t>(kul::clamp(nColumns, 0LL, 1LL * INT_MAX));
     const std::string_view first(text.data(), std::min(text.size(), nMost));
     // A mark may stand behind.
     const std::string_view looked(text.data(), std::min(text.size(), nMost + 1));

@@ -8,8 +8,7 @@
 // moves the part, until the user does something else.
 #include "view.hpp"
 
-#include <algorithm>
-
+#include "../clamp.hpp"
 #include "draw.hpp"
 
 namespace kul {
@@ -33,7 +32,7 @@ int following(int nStart, int nPart, int nCell, Range range, int nSize)
 {
     for (const Range wanted : {withFrame(range, nSize), range, Range{nCell, nCell + 1}}) {
         if (wanted.nEnd - wanted.nFirst <= nPart && wanted.nFirst <= nCell && nCell < wanted.nEnd)
-            return std::clamp(nStart, wanted.nEnd - nPart, wanted.nFirst);
+            return kul::clamp(nStart, wanted.nEnd - nPart, wanted.nFirst);
     }
     return nStart;
 }
@@ -79,8 +78,8 @@ Cell moved(const Dialog& dialog, int nKey)
 
 Cell within(const Dialog& dialog, Cell part)
 {
-    return {std::clamp(part.nY, 0, getmaxy(dialog.winMain) - getmaxy(dialog.view)),
-            std::clamp(part.nX, 0, getmaxx(dialog.winMain) - getmaxx(dialog.view))};
+    return {kul::clamp(part.nY, 0, getmaxy(dialog.winMain) - getmaxy(dialog.view)),
+            kul::clamp(part.nX, 0, getmaxx(dialog.winMain) - getmaxx(dialog.view))};
 }
 
 bool isMove(int nKey)

@@ -12,6 +12,7 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include "../clamp.hpp"
 #include "edition.hpp"
 #include "find.hpp"
 #include "keys.hpp"
@@ -133,7 +134,7 @@ int quietTime()
     constexpr long long kBehind = 5 * kMillisecond;
     long long quiet = kSecond - clockOf(CLOCK_REALTIME) % kSecond + kBehind;
     if (const Timer* timer = nextTimer())
-        quiet = std::clamp(timer->due - clockOf(CLOCK_MONOTONIC), 0LL, quiet);
+        quiet = kul::clamp(timer->due - clockOf(CLOCK_MONOTONIC), 0LL, quiet);
     return static_cast<int>((quiet + kMillisecond - 1) / kMillisecond);
 }
 

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "../clamp.hpp"
+
 namespace kulready {
 
 namespace {
@@ -67,7 +69,7 @@ bool Area::scroll(int nKey)
                                             : 0;
     if (nRows == 0 || last() == 0)
         return false;
-    const int nFirst = std::clamp(nFirst_ + nRows, 0, last());
+    const int nFirst = kul::clamp(nFirst_ + nRows, 0, last());
     if (nFirst != nFirst_) {
         nFirst_ = nFirst;
         show(false);

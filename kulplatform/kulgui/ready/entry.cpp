@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "../clamp.hpp"
 #include "frame.hpp"
 
 namespace {
@@ -62,7 +63,7 @@ void reveal(const Frame& frame, int nLine)
 {
     Form& form = formOf(frame);
     const int nHeight = std::max(frame.bodyHeight(), 1);
-    form.nTop = std::clamp(form.nTop, std::max(nLine - nHeight + 1, 0), nLine);
+    form.nTop = kul::clamp(form.nTop, std::max(nLine - nHeight + 1, 0), nLine);
     arrange(frame);
 }
 
@@ -116,7 +117,7 @@ void addLine(const Frame& frame, int nLine)
                       frame.bodyY(), std::max(frame.bodyWidth() - form.nLabels, 1), 1, NOBORDER,
                       field.nMask == MASK ? MASK : NOMASK, field.szCharSet, nullptr, nullptr,
                       nullptr);
-    kultextbox_setLimit(nChain, nRef, std::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
+    kultextbox_setLimit(nChain, nRef, kul::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
     kultextbox_setText(nChain, nRef, field.szText ? field.szText : "");
     kultextbox_setCheck(nChain, nRef, field.onCheck);
 }
@@ -149,7 +150,7 @@ int runForm(Frame& frame, Form& form)
 int kuldialog_form(const char* szTitle, const char* szText, KULFIELD* Fields, int nFields)
 {
     Form form = {Fields,
-                 Fields ? std::clamp(nFields, 0, static_cast<int>(kulready::BUTTONS) - BODY) : 0, 0,
+                 Fields ? kul::clamp(nFields, 0, static_cast<int>(kulready::BUTTONS) - BODY) : 0, 0,
                  0};
     for (int i = 0; i < form.nFields; ++i) {
         if (Fields[i].szLabel && *Fields[i].szLabel != '\0')

@@ -5,6 +5,7 @@
 
 #include <cwchar>
 
+#include "../clamp.hpp"
 #include "../gui/edition.hpp"
 #include "menu.hpp"
 
@@ -18,9 +19,9 @@ constexpr int kScrollBar = 1;
 void follow(kul::MenuView& view, const KULDYNMENU& menu)
 {
     const int nLast = std::max(view.place.count(menu.Element) - 1, 0);
-    const int nShown = std::clamp(menu.nSelect, 0, nLast);
+    const int nShown = kul::clamp(menu.nSelect, 0, nLast);
     const int nBottom = std::max(menu.nHeight, 1) - 1;
-    view.nFirst = std::clamp(view.nFirst, std::max(nShown - nBottom, 0), nShown);
+    view.nFirst = kul::clamp(view.nFirst, std::max(nShown - nBottom, 0), nShown);
     view.nFirst = std::min(view.nFirst, std::max(nLast - nBottom, 0));
 }
 

@@ -3,6 +3,7 @@
 // What a file viewer looks like.
 #include <algorithm>
 
+#include "../clamp.hpp"
 #include "../file/file_rows.hpp"
 #include "../gui/draw.hpp"
 #include "../gui/screen.hpp"
@@ -21,12 +22,12 @@ FileBox fileBox(const KULFILEVIEW& view)
 
 int fileColumns(const KULFILEVIEW& view)
 {
-    return std::clamp(fileBox(view).nWidth, 1, FileRows::kMaxColumns);
+    return kul::clamp(fileBox(view).nWidth, 1, FileRows::kMaxColumns);
 }
 
 int fileRows(const KULFILEVIEW& view)
 {
-    return std::clamp(fileBox(view).nHeight, 1, kMaxFileRows);
+    return kul::clamp(fileBox(view).nHeight, 1, kMaxFileRows);
 }
 
 bool isLaidOut(const FileView& view)
@@ -128,7 +129,7 @@ void drawScrollBar(GUI* gui, const FileView& view, FilePlace bottom)
     bar.nX = kul::shifted(view.nX, view.nWidth - 1LL);
     bar.nY = view.nY;
     bar.nLength = std::min(view.nHeight, kMaxFileRows);
-    bar.nRange = static_cast<int>(std::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
+    bar.nRange = static_cast<int>(kul::clamp(bar.nLength * size / shown, bar.nLength + 1.0, 1e6));
     bar.nPosition = bar.nRange - bar.nLength; // the end
     if (!view.atEnd)
         bar.nPosition = static_cast<int>(

@@ -6,6 +6,8 @@
 #include <cwchar>
 #include <cwctype>
 
+#include "../clamp.hpp"
+
 namespace kul {
 
 namespace {
@@ -57,14 +59,14 @@ int settled(int nSelect, const Steps& steps)
 {
     if (!isEdition2())
         return nSelect;
-    const int nNear = std::clamp(nSelect, 0, std::max(steps.nCount - 1, 0));
+    const int nNear = kul::clamp(nSelect, 0, std::max(steps.nCount - 1, 0));
     const int nFound = seekRound(nNear, 1, steps);
     return nFound >= 0 ? nFound : nNear;
 }
 
 int stepped(int nSelect, int nKey, const StepKeys& keys, const Steps& steps)
 {
-    const int nFrom = std::clamp(nSelect, -1, steps.nCount); // programs may have set any
+    const int nFrom = kul::clamp(nSelect, -1, steps.nCount); // programs may have set any
     const int nLast = steps.nCount - 1;
     int nTo = -1;
     if (nKey == keys.nBack) {

@@ -3,6 +3,7 @@
 // Text boxes: a text that is typed, in a box of one or more rows, with a cursor in it.
 #include "textbox.hpp"
 
+#include "../clamp.hpp"
 #include "../gui/text.hpp"
 #include "handler.hpp"
 
@@ -188,10 +189,10 @@ int kultextbox_setText(int nChain, int nRef, const char* szText)
     const std::string_view text = kul::viewOf(szText);
     const bool fits = kul::textManners().fits(*box, text);
     const int nCursor = box->nCursorPos;
-    box->nLength = std::clamp(box->nLength, 0, kul::roomOf(*box));
+    box->nLength = kul::clamp(box->nLength, 0, kul::roomOf(*box));
     kul::replaceText(*box, 0, box->nLength, fits ? text : std::string_view());
     if (!kul::textManners().behind)
-        box->nCursorPos = std::clamp(nCursor, 0, box->nLength);
+        box->nCursorPos = kul::clamp(nCursor, 0, box->nLength);
     box->state.nFirst = 0;
     return fits ? 0 : -1;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The text box of edition 1: a character is a byte in a cell, and is typed over what is there.
+#include "../clamp.hpp"
 #include "../gui/text.hpp"
 #include "textbox.hpp"
 
@@ -106,7 +107,7 @@ kul::Spot spot(KULTEXTBOX& box)
     int nRow = 0;
     for (int nNext = nCount; nRow < nLast && nNext <= box.nCursorPos; ++nRow)
         nNext = kul::shifted(kul::lineStart(text, nNext, nCount - 1), nCount);
-    const int nEnd = std::clamp(box.nLength / nCount, nRow, nLast);
+    const int nEnd = kul::clamp(box.nLength / nCount, nRow, nLast);
     return {{nRow, nEnd + 1}, 0};
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // The steps of editing a text box, and the searches. They change the record and draw nothing.
+#include "../clamp.hpp"
 #include "../gui/text.hpp"
 #include "textbox.hpp"
 
@@ -28,7 +29,7 @@ bool hasCursor(KULTEXTBOX* box)
     const TextState* state = stateOf(*box);
     if (state && state->szOwn == box->szText)
         box->nLength = std::min(box->nLength, state->nRoom);
-    box->nCursorPos = std::clamp(box->nCursorPos, 0, box->nLength);
+    box->nCursorPos = kul::clamp(box->nCursorPos, 0, box->nLength);
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <climits>
 #include <cwchar>
 
+#include "../clamp.hpp"
 #include "../gui/screen.hpp"
 #include "textbox.hpp"
 #include "textbox_rows.hpp"
@@ -236,7 +237,7 @@ void drawRow(WINDOW* win, int nY, int nX, const kul::TextRows& rows, int nFrom, 
 int drawRows(WINDOW* win, const KULTEXTBOX& box, int nFirst, bool cursor)
 {
     const kul::TextRows rows(box);
-    const int nCursor = std::clamp(box.nCursorPos, 0, rows.length());
+    const int nCursor = kul::clamp(box.nCursorPos, 0, rows.length());
     const int nEdge = box.nBorder == BORDER ? 1 : 0;
     const int nX = kul::shifted(box.nX, nEdge);
     const int nTop = kul::shifted(box.nY, nEdge);
@@ -266,7 +267,7 @@ kul::Spot spot(KULTEXTBOX& box)
 {
     const kul::TextRows rows(box);
     const kul::TextState* state = kul::stateOf(box);
-    const int nCursor = std::clamp(box.nCursorPos, 0, rows.length());
+    const int nCursor = kul::clamp(box.nCursorPos, 0, rows.length());
     const int nFirst = rows.follow(state ? state->nFirst : 0, nCursor);
     return {rows.reachable(nCursor, nFirst), nFirst};
 }

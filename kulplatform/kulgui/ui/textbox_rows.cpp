@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "../clamp.hpp"
 #include "textbox.hpp"
 
 namespace kul {
@@ -109,7 +110,7 @@ TextRows::Cell TextRows::cellOf(int nPlace, int nFirst) const
 
 int TextRows::follow(int nFirst, int nCursor) const
 {
-    nFirst = std::clamp(nFirst, 0, length());
+    nFirst = kul::clamp(nFirst, 0, length());
     return nHeight_ == 1 ? followColumns(nFirst, nCursor) : followRows(nFirst, nCursor);
 }
 
