@@ -331,7 +331,6 @@ bool openTerminal(const char* szTerm)
     std::FILE* input = std::fopen("/dev/null", "r");
     if (!output || !input || !kul::openScreen(szTerm, output, input))
         return false;
-    start_color();
     InitializeColorSets();
     return true;
 }

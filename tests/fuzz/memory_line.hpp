@@ -80,7 +80,6 @@ inline bool openMemory(const char* szLines, const char* szColumns)
     std::FILE* nothing = std::fopen("/dev/null", "r+");
     isMemoryOpen = std::freopen("/dev/null", "r", stdin) && std::freopen("/dev/null", "w", stdout) &&
                    std::setlocale(LC_CTYPE, "C.UTF-8") && kul::openScreen("xterm-256color", nothing, nothing);
-    start_color();
     InitializeColorSets();
     return isMemoryOpen;
 }

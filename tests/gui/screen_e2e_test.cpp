@@ -3,6 +3,7 @@
 // What dialogs cost on the line and look like on the screen of a terminal.
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <fstream>
 #include <initializer_list>
 #include <string>
@@ -31,6 +32,15 @@ void press(Terminal& terminal, std::string_view key)
     terminal.mark();
     terminal.send(key);
     ASSERT_TRUE(terminal.waitFor([&] { return !terminal.received().empty(); }));
+    ASSERT_TRUE(terminal.settle());
+}
+
+// Has a program at rest paint all of the screen.
+void repaint(Terminal& terminal)
+{
+    terminal.mark();
+    terminal.kill(SIGCONT);
+    ASSERT_TRUE(terminal.waitFor([&] { return terminal.received().size() > 200; }));
     ASSERT_TRUE(terminal.settle());
 }
 
@@ -175,6 +185,10 @@ TEST(Screen, ShowsWhatWasTypedAhead)
         ASSERT_NO_FATAL_FAILURE(press(together, all));
         ASSERT_TRUE(single.settle());
         EXPECT_EQ(look(together, 0, 0, 20, 60), look(single, 0, 0, 20, 60));
+        // All of it painted anew has the same colours.
+        ASSERT_NO_FATAL_FAILURE(repaint(single));
+        for (int cell = 0; cell < 20 * 60; ++cell)
+            EXPECT_EQ(seen(together.cell(cell / 60, cell % 60)), seen(single.cell(cell / 60, cell % 60))) << cell;
         EXPECT_EQ(together.cursor().row, single.cursor().row);
         EXPECT_EQ(together.cursor().column, single.cursor().column);
     }

@@ -40,7 +40,6 @@ void startCurses()
     FILE* nothing = std::fopen("/dev/null", "r+");
     screen = kul::openScreen("xterm-256color", nothing, nothing);
     ASSERT_NE(screen, nullptr);
-    start_color();
     InitializeColorSets();
 }
 

@@ -313,6 +313,7 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     setOutput(output);
     ask();
     settleLines();
+    start_color(); // has bytes of its own, which must not come late
     flushCurses();
     beginUpdates();
     return screen;

@@ -71,7 +71,6 @@ bool startCurses()
         !kul::openScreen(nullptr, stdout, stdin))
         return false;
     kul::startSize();
-    start_color();
     kul::notePalette();
     makeHiddenPanel();
     return def_prog_mode() == OK;
