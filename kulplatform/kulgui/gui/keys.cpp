@@ -51,6 +51,27 @@ bool hasInput(int nMilliseconds)
     return poll(&input, 1, nMilliseconds) == 1;
 }
 
+long long milliseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000LL + now.tv_nsec / 1000000;
+}
+
+// Whether the rest of a key comes in so long. A signal ends no more than a sleep: the rest would
+// seem late.
+bool hasRest(int nMilliseconds)
+{
+    const long long end = milliseconds() + nMilliseconds;
+    do {
+        errno = 0;
+        if (hasInput(nMilliseconds))
+            return true;
+        nMilliseconds = static_cast<int>(end - milliseconds());
+    } while (errno == EINTR && nMilliseconds > 0);
+    return false;
+}
+
 void drain()
 {
     char chunk[50];
@@ -80,7 +101,7 @@ std::size_t readBytes(char* bytes, std::size_t nMost, int nMilliseconds)
 // Reads the bytes that still belong to an open sequence; the first of them fill up the key.
 std::size_t readRest(kul::SequenceReader& reader, char* key, std::size_t size)
 {
-    for (int i = 0; i < kLongestSequence && reader.isOpen() && hasInput(kSequenceMilliseconds);
+    for (int i = 0; i < kLongestSequence && reader.isOpen() && hasRest(kSequenceMilliseconds);
          ++i) {
         char byte = 0;
         if (read(STDIN_FILENO, &byte, 1) != 1)
@@ -148,9 +169,10 @@ int nextKey(int nMilliseconds)
     int nKey = decoder.next();
     for (int i = 0; nKey == 0 && (i == 0 || decoder.patience() > 0) && i < kMostReads; ++i) {
         const int nPatience = decoder.patience();
+        if (nPatience > 0)
+            nMilliseconds = hasRest(nPatience) ? kul::kTyped : 0;
         char bytes[kul::KeyDecoder::kMostBytes];
-        const std::size_t size =
-            readBytes(bytes, sizeof bytes, nPatience > 0 ? nPatience : nMilliseconds);
+        const std::size_t size = readBytes(bytes, sizeof bytes, nMilliseconds);
         decoder.feed({bytes, size});
         if (size == 0)
             decoder.timePassed();
