@@ -148,7 +148,7 @@ TEST_P(Ways, LeaveTheTerminalAsItWasFound)
         {"exit() in a callback", "exit", enter, exited(3)},
         {"return without closing", "return", enter, exited(4)},
         {"kulgui_destroyAll", "close", enter, exited(5), true},
-        {"opened twice", "again", twice(enter), exited(5), true},
+        {"opened twice, and continued as it is closed", "continued again", twice(enter), exited(5), true},
         {"TERM", "count", send(SIGTERM), SIGTERM},
         {"TERM with a handler", "handler count", send(SIGTERM), exited(6)},
         {"TERM with a handler set later", "late", twice(send(SIGTERM)), exited(6)},

@@ -20,6 +20,7 @@
  *   ignore    INT is ignored
  * or what it has:
  *   starved   no memory from the time on when the terminal is to be opened
+ *   continued CONT comes when the terminal is just given back
  * When the dialog ends by itself the program returns 10, without a usable terminal 11.
  */
 #include <kulgui.h>
@@ -77,6 +78,19 @@ void* malloc(size_t size)
     return starved ? NULL : allocate(size);
 }
 #endif
+
+static int continued;
+
+/* In place of curses'. */
+int endwin(void)
+{
+    int (*end)(void);
+    *(void**)&end = dlsym(RTLD_NEXT, "endwin");
+    const int result = end();
+    if (continued)
+        raise(SIGCONT);
+    return result;
+}
 
 static void onTerminate(int number)
 {
@@ -158,6 +172,8 @@ int main(int argc, char** argv)
             signal(SIGINT, SIG_IGN);
         else if (strcmp(argv[i], "starved") == 0)
             hungry = 1;
+        else if (strcmp(argv[i], "continued") == 0)
+            continued = 1;
         else
             way = argv[i];
     }

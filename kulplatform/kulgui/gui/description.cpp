@@ -313,7 +313,8 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
     setOutput(output);
     ask();
     settleLines();
-    start_color(); // has bytes of its own, which must not come late
+    start_color();  // has bytes of its own, which must not come late
+    prepareBytes(); // from now on the terminal is to be given back
     flushCurses();
     beginUpdates();
     return screen;

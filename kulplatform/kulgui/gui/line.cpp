@@ -17,6 +17,7 @@
 #include <unistd.h>
 
 #include "description.hpp"
+#include "signals.hpp"
 
 namespace kul {
 
@@ -163,18 +164,23 @@ void noteInside()
     prepareBytes();
 }
 
+// An update that was under way may have left any look, and rows that scroll by themselves.
 void prepareBytes()
 {
+    const HandlersWait wait(HandlersWait::Which::All);
+    const char* szAllRows = codes().scrolls ? "\033[r" : nullptr;
     ownScreen = isString(tigetstr("rmcup"));
     leaving.size = entering.size = 0;
     // Where the codes are known, all attributes are switched off with the colours.
-    captureAll(leaving, {"sgr0", codes().known ? "" : "op", ownScreen ? "rmcup" : "clear"});
+    captureAll(leaving, {"sgr0", codes().known ? "" : "op", ownScreen ? "" : "clear"});
     nClearing = leaving.size;
-    captureAll(leaving, {"cnorm"});
+    captureString(szAllRows);
+    captureAll(leaving, {ownScreen ? "rmcup" : "", "cnorm"});
     // Without a second screen to leave, what was drawn is cleared away.
     if (!ownScreen)
         captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
-    captureAll(entering, {"smcup", "enacs", "civis"});
+    captureAll(entering, {"smcup", "sgr0", "enacs", "civis"});
+    captureString(szAllRows);
 }
 
 bool hasOwnScreen()
@@ -213,15 +219,11 @@ void takeQuietly(int (*take)())
 {
     const int nLine = dup(nOutput);
     const int nNothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    sigset_t all;
-    sigset_t before;
-    sigfillset(&all);
-    sigprocmask(SIG_SETMASK, &all, &before); // handlers give the line back
+    const HandlersWait wait(HandlersWait::Which::All); // they give the line back
     const bool quiet = nLine != -1 && nNothing != -1 && dup2(nNothing, nOutput) == nOutput;
     take();
     if (quiet)
         dup2(nLine, nOutput);
-    sigprocmask(SIG_SETMASK, &before, nullptr);
     close(nLine);
     close(nNothing);
 }

@@ -8,7 +8,6 @@
 
 #include <cerrno>
 #include <climits>
-#include <csignal>
 #include <cstddef>
 #include <iterator>
 
@@ -27,7 +26,6 @@ constexpr std::size_t kSpareStack = 16384;
 // process in the background to keep off the terminal.
 constexpr int kLeftAlone[] = {SIGKILL, SIGSTOP, SIGCHLD, SIGURG, SIGTTIN, SIGTTOU};
 
-bool ours[NSIG];
 volatile sig_atomic_t nResumed = 0;
 volatile sig_atomic_t nAway = 0; // given back to be stopped
 volatile sig_atomic_t nResized = 0;
@@ -57,14 +55,26 @@ Action actionOf(int nSignal)
     return nSignal == SIGCONT ? onContinue : onEnding;
 }
 
+// The set of the signals that stop and continue the process, or of all.
+void fill(sigset_t& signals, bool all)
+{
+    if (all) {
+        sigfillset(&signals);
+        return;
+    }
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTSTP);
+    sigaddset(&signals, SIGCONT);
+}
+
+// Nothing comes between giving the terminal back and the end, and a stop and a continuation one
+// after the other.
 void setHandler(int nSignal, Action handler)
 {
     struct sigaction action {};
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART | SA_ONSTACK;
-    // Nothing comes between giving the terminal back and the end.
-    if (handler == onEnding)
-        sigfillset(&action.sa_mask);
+    fill(action.sa_mask, handler == onEnding);
     sigaction(nSignal, &action, nullptr);
 }
 
@@ -84,16 +94,14 @@ void giveBack()
         leaveLine();
 }
 
-// The default action, although the signal is blocked while its handler runs.
-void actByDefault(int nSignal)
+// Lets a signal come that is blocked while a handler runs.
+void letCome(int nSignal)
 {
-    setHandler(nSignal, SIG_DFL);
-    sigset_t self;
+    sigset_t signals;
     sigset_t before;
-    sigemptyset(&self);
-    sigaddset(&self, nSignal);
-    raise(nSignal);
-    sigprocmask(SIG_UNBLOCK, &self, &before);
+    sigemptyset(&signals);
+    sigaddset(&signals, nSignal);
+    sigprocmask(SIG_UNBLOCK, &signals, &before);
     sigprocmask(SIG_SETMASK, &before, nullptr);
 }
 
@@ -106,6 +114,17 @@ void tell(volatile sig_atomic_t& nFlag)
         *alarmed = INT_MAX;
 }
 
+// Gives the terminal back, and acts by default. The signal is raised first, and waits: where the
+// process is continued before it has stopped, it does not stop any more.
+void giveBackFor(int nSignal)
+{
+    raise(nSignal);
+    giveBack();
+    nAway = 1;
+    setHandler(nSignal, SIG_DFL);
+    letCome(nSignal);
+}
+
 void enter()
 {
     nAway = 0;
@@ -115,17 +134,15 @@ void enter()
 
 void onEnding(int nSignal)
 {
-    giveBack();
-    actByDefault(nSignal);
+    giveBackFor(nSignal);
 }
 
 void onStop(int nSignal)
 {
     const int nError = errno;
-    giveBack();
-    nAway = 1;
-    actByDefault(nSignal);
+    giveBackFor(nSignal);
     setHandler(nSignal, onStop);
+    letCome(SIGCONT);
     // Where the program handles its continuation itself.
     if (nAway && isOwner())
         enter();
@@ -157,12 +174,6 @@ bool take(volatile sig_atomic_t& nFlag)
 
 } // namespace
 
-void findSignals()
-{
-    for (int nSignal = 1; nSignal < NSIG; ++nSignal)
-        ours[nSignal] = actionOf(nSignal) && isHandledBy(nSignal, SIG_DFL);
-}
-
 void takeSignals()
 {
     owner = getpid();
@@ -179,8 +190,9 @@ void takeSignals()
         sigaltstack(&own, nullptr);
     }
     for (int nSignal = 1; nSignal < NSIG; ++nSignal) {
-        if (ours[nSignal])
-            setHandler(nSignal, actionOf(nSignal));
+        const Action action = actionOf(nSignal);
+        if (action && isHandledBy(nSignal, SIG_DFL))
+            setHandler(nSignal, action);
     }
 }
 
@@ -197,6 +209,18 @@ void giveBackSignals()
         now.ss_flags = SS_DISABLE;
         sigaltstack(&now, nullptr);
     }
+}
+
+HandlersWait::HandlersWait(Which which)
+{
+    sigset_t signals;
+    fill(signals, which == Which::All);
+    sigprocmask(SIG_BLOCK, &signals, &before_);
+}
+
+HandlersWait::~HandlersWait()
+{
+    sigprocmask(SIG_SETMASK, &before_, nullptr);
 }
 
 bool isOwner()

@@ -5,14 +5,28 @@
 #ifndef KUL_GUI_SIGNALS_HPP
 #define KUL_GUI_SIGNALS_HPP
 
+#include <csignal>
+
 namespace kul {
 
-// Notes which signals the program leaves to us; to be asked before curses takes some for itself.
-void findSignals();
-
-// Takes them for this process, and gives them back.
+// Takes those for this process, before curses takes some for itself; and gives them back.
 void takeSignals();
 void giveBackSignals();
+
+// While it lives, handlers wait: all, or those that stop and continue the process. What is done
+// meanwhile is whole before one of them looks. All of them wait only for what is over soon.
+class HandlersWait {
+public:
+    enum class Which { OfStops, All };
+
+    explicit HandlersWait(Which which);
+    ~HandlersWait();
+    HandlersWait(const HandlersWait&) = delete;
+    HandlersWait& operator=(const HandlersWait&) = delete;
+
+private:
+    sigset_t before_;
+};
 
 // Whether this process took them last. A child that was forked has its parent's handlers, but the
 // terminal is not the child's to give back.

@@ -26,9 +26,12 @@ State state = State::Closed;
 bool keepsScreen = false;
 bool opening = false; // curses may end the process meanwhile, when it has no memory
 
-// Ends curses' hold on the terminal; the descriptor's flags are the caller's.
+// Ends curses' hold on the terminal. A stop comes when all of it is as it was found: the handlers
+// do not know of half of it.
 void leaveScreen(State next)
 {
+    const kul::HandlersWait wait(kul::HandlersWait::Which::OfStops);
+    kul::restoreFlags();
     const kul::Blocking blocking;
     state = next;
     echo();
@@ -49,7 +52,6 @@ void closeAtExit()
     if (opening ? !stdscr : state != State::Open || !kul::isOwner())
         return;
     closeScreen();
-    kul::restoreFlags();
     nEnvSetting = F;
 }
 
@@ -73,7 +75,7 @@ bool startCurses()
     kul::startSize();
     kul::notePalette();
     makeHiddenPanel();
-    return def_prog_mode() == OK;
+    return true;
 }
 
 // Has curses take the terminal again. It would reset the palette although nothing has changed it.
@@ -100,11 +102,35 @@ bool beginScreen()
         wclear(stdscr);
     leaveok(stdscr, TRUE);
     noecho();
-    raw();
     curs_set(0);
     InitializeColorSets();
     kul::defineShadow();
     return true;
+}
+
+// Has the line in our modes: curses keeps them, so that it does not matter if a shell has changed
+// them while the process was stopped.
+void takeLine()
+{
+    raw();
+    fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK);
+    kul::noteInside();
+}
+
+// Whether curses is ready on the terminal and the line is ours. A stop comes when all of it is.
+bool begin(bool wasOpen)
+{
+    const kul::HandlersWait wait(kul::HandlersWait::Which::OfStops);
+    if (!wasOpen)
+        kul::takeSignals();
+    opening = true;
+    const bool begun = beginScreen();
+    opening = false;
+    if (begun)
+        takeLine();
+    else if (!wasOpen)
+        kul::giveBackSignals();
+    return begun;
 }
 
 } // namespace
@@ -137,29 +163,24 @@ int SetupGUIEnvironment()
     const bool wasOpen = state == State::Open;
     if (state == State::Closed)
         kul::noteOutside();
-    if (!wasOpen)
-        kul::findSignals();
     if (!atExit)
         atExit = std::atexit(closeAtExit) == 0;
-    opening = true;
-    const bool begun = beginScreen();
-    opening = false;
-    if (!begun)
+    if (!begin(wasOpen))
         return -1;
-    fcntl(STDIN_FILENO, F_SETFL, O_NONBLOCK);
-    kul::noteInside();
     state = State::Open;
-    if (!wasOpen)
-        kul::takeSignals();
+    while (kul::takeResumed()) {
+        takeLine();
+        kul::paintAnew();
+    }
     return 0;
 }
 
 int EndGUIEnvironment()
 {
-    fcntl(STDIN_FILENO, F_SETFL, O_APPEND);
     if (state == State::Open)
         closeScreen();
     state = State::Closed;
+    fcntl(STDIN_FILENO, F_SETFL, O_APPEND);
     return 0;
 }
 
@@ -197,7 +218,6 @@ int kulgui_suspend()
     if (state != State::Open)
         return -1;
     leaveScreen(State::Suspended);
-    kul::restoreFlags();
     nEnvSetting = F;
     return 0;
 }
