@@ -4,25 +4,21 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
-#include <fstream>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
+#include "support/temporary_file.hpp"
 #include "terminal.hpp"
 
 using namespace kultools;
 
 namespace {
 
-Launch program(const std::string& name, const std::vector<std::string>& words = {})
+Launch program(const std::string& name, std::vector<std::string> words, const std::string& term = "xterm-256color")
 {
-    Launch launch;
-    launch.argv = {KULGUI_TEST_PROGRAMS "/" + name};
-    launch.argv.insert(launch.argv.end(), words.begin(), words.end());
-    launch.columns = 60;
-    launch.rows = 20;
-    return launch;
+    words.insert(words.begin(), KULGUI_TEST_PROGRAMS "/" + name);
+    return {.argv = words, .columns = 60, .rows = 20, .term = term};
 }
 
 // Sends a key to a program at rest, and looks at nothing but what follows.
@@ -79,9 +75,7 @@ TEST(Screen, MovesTheFocusForFewBytes)
     for (const char* term : {"linux", "vt100", "xterm-256color"}) {
         for (const Row& row : rows) {
             SCOPED_TRACE(std::string(term) + (row.words.empty() ? " buttons" : " list"));
-            Launch launch = program("dialogs", row.words);
-            launch.term = term;
-            Terminal terminal(launch);
+            Terminal terminal(program("dialogs", row.words, term));
             ASSERT_TRUE(terminal.waitForText("Main") && terminal.settle());
             EXPECT_LE(terminal.received().size(), row.nScreen);
             for (int step = 0; step < 3; ++step) {
@@ -99,9 +93,7 @@ TEST(Screen, ShowsTheCursorWhereTheUserIs)
 {
     for (const char* term : {"linux", "vt100", "xterm-256color"}) {
         SCOPED_TRACE(term);
-        Launch launch = program("dialogs", {"desktop", "behind", "second"});
-        launch.term = term;
-        Terminal terminal(launch);
+        Terminal terminal(program("dialogs", {"desktop", "behind", "second"}, term));
         ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
         for (const int column : {15, 27, 38}) {
             EXPECT_EQ(terminal.cursor().row, 10);
@@ -166,10 +158,12 @@ TEST(Screen, KeepsTheOrderOfDialogsWhoeverIsDrawn)
 // Keys that come together are drawn when they are used up, as if each had been.
 TEST(Screen, ShowsWhatWasTypedAhead)
 {
+    const std::vector<std::string_view> many = {"\x1b[B", "a",  "\x1b[B", " ",     "\t",
+                                                "\x1b[H", "\r", "\t",     "\x1b[I"}; // which is no key
     const std::pair<const char*, std::vector<std::string_view>> rows[] = {
-        {"list", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}}, // which is no key
-        {"text", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}},
-        {"behind", {"\x1b[B", "a", "\x1b[B", " ", "\t", "\x1b[H", "\r", "\t", "\x1b[I"}},
+        {"list", many},
+        {"text", many},
+        {"behind", many},
         {"list", {"\x1b[B", " ", "\x1b[A"}}, // what has changed is neither where the cursor was nor where it is
     };
     for (const auto& [kind, keys] : rows) {
@@ -197,11 +191,9 @@ TEST(Screen, ShowsWhatWasTypedAhead)
 // What moves on the screen is not drawn again, whether keys come alone or together.
 TEST(Screen, ScrollsAFile)
 {
-    const std::string name = testing::TempDir() + "kulgui_scrolled";
-    std::ofstream file(name);
+    const kultest::TemporaryFile file;
     for (int i = 0; i < 100; ++i)
-        file << "line " << i << '\n';
-    file.close();
+        file.append("line " + std::to_string(i) + '\n');
     const std::string up = "\x1b[A";
     const std::string down = "\x1b[B";
     const struct {
@@ -213,9 +205,7 @@ TEST(Screen, ScrollsAFile)
         {"\x1b[6~", 21, 400}, {down + up + down + down, 23, 130}, {"\x1b[F" + up, 79, 400},
     };
     for (const char* term : {"linux", "vt220"}) {
-        Launch launch = program("dialogs", {"second", name});
-        launch.term = term;
-        Terminal terminal(launch);
+        Terminal terminal(program("dialogs", {"second", file.path()}, term));
         ASSERT_TRUE(terminal.waitForText("line 19"));
         for (const auto& step : steps) {
             ASSERT_NO_FATAL_FAILURE(press(terminal, step.keys));
@@ -252,10 +242,7 @@ TEST(Screen, TakesAPasteWhole)
 
 TEST(Screen, SendsWholeScreensToASlowReader)
 {
-    Launch launch = program("keys", {"flood"});
-    launch.columns = 300;
-    launch.rows = 80;
-    Terminal terminal(launch);
+    Terminal terminal({.argv = {KULGUI_TEST_PROGRAMS "/keys", "flood"}, .columns = 300, .rows = 80});
     const auto expected = [](int y, int x) { return std::string(1, static_cast<char>('a' + (x + y) % 26)); };
     EXPECT_TRUE(terminal.waitFor([&] { return terminal.cell(79, 299).glyph == expected(79, 299); }));
     ASSERT_TRUE(terminal.settle());

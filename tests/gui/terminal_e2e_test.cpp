@@ -26,20 +26,16 @@ using namespace kultools;
 
 namespace {
 
-constexpr const char* kPrograms = KULGUI_TEST_PROGRAMS "/";
-
 // Runs a script with a test program and its words as "$@".
 Launch script(const std::string& text, const std::string& words, const std::string& term = "linux")
 {
-    Launch launch;
-    launch.argv = {"sh", "-c", "set -- " + (kPrograms + words) + "; " + text};
-    launch.columns = 40;
-    launch.rows = 14;
-    launch.term = term;
-    // A sanitizer would take crashes for itself.
-    launch.environment = {"ASAN_OPTIONS=detect_leaks=0:use_sigaltstack=0:handle_segv=0:handle_abort=0:"
-                          "handle_sigbus=0:handle_sigill=0:handle_sigfpe=0:handle_sigtrap=0"};
-    return launch;
+    return {.argv = {"sh", "-c", "set -- " KULGUI_TEST_PROGRAMS "/" + words + "; " + text},
+            .columns = 40,
+            .rows = 14,
+            .term = term,
+            // A sanitizer would take crashes for itself.
+            .environment = {"ASAN_OPTIONS=detect_leaks=0:use_sigaltstack=0:handle_segv=0:handle_abort=0:"
+                            "handle_sigbus=0:handle_sigill=0:handle_sigfpe=0:handle_sigtrap=0"}};
 }
 
 // What a program finds, and has to leave.

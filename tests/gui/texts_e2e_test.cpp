@@ -13,10 +13,7 @@ namespace {
 
 Launch texts(const std::string& locale, int edition, const std::string& term = "xterm-256color")
 {
-    Launch launch;
-    launch.argv = {KULGUI_TEST_PROGRAMS "/texts", locale, std::to_string(edition)};
-    launch.term = term;
-    return launch;
+    return {.argv = {KULGUI_TEST_PROGRAMS "/texts", locale, std::to_string(edition)}, .term = term};
 }
 
 TEST(Texts, DoNothingToTheTerminal)

@@ -9,13 +9,13 @@ namespace {
 
 using namespace kultools;
 
-Launch demo(const char* term)
+Launch demo(const char* term, int columns = 80, int rows = 24, const char* script = "exec " KULGUI_DEMO)
 {
-    Launch launch;
-    launch.argv = {KULGUI_DEMO};
-    launch.environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC, "LC_ALL=C.UTF-8"};
-    launch.term = term;
-    return launch;
+    return {.argv = {"sh", "-c", script},
+            .columns = columns,
+            .rows = rows,
+            .term = term,
+            .environment = {"KULGUI_DEMO_PROC=" KULGUI_DEMO_PROC, "LC_ALL=C.UTF-8"}};
 }
 
 void press(Terminal& terminal, std::initializer_list<const char*> keys)
@@ -28,10 +28,7 @@ void press(Terminal& terminal, std::initializer_list<const char*> keys)
 
 TEST(Demo, FitsItsPagesToASmallScreen)
 {
-    Launch launch = demo("linux");
-    launch.columns = 40;
-    launch.rows = 12;
-    Terminal terminal(launch);
+    Terminal terminal(demo("linux", 40, 12));
     press(terminal, {"A", "enter"});
     EXPECT_TRUE(terminal.waitForText("Host name")) << terminal.text();
     EXPECT_NE(terminal.text().find("│ Back │ │ Quit │"), std::string::npos) << terminal.text();
@@ -73,9 +70,7 @@ TEST(Demo, QuitsFromAPageInAFewBytes)
 // As on a serial line.
 TEST(Demo, NoticesANewSizeWithoutASignal)
 {
-    Launch launch = demo("linux");
-    launch.argv = {"sh", "-c", "trap '' WINCH; exec " KULGUI_DEMO};
-    Terminal terminal(launch);
+    Terminal terminal(demo("linux", 80, 24, "trap '' WINCH; exec " KULGUI_DEMO));
     ASSERT_TRUE(terminal.waitForText("Quit") && terminal.settle());
     terminal.resize(100, 30);
     EXPECT_TRUE(terminal.waitFor([&] { return terminal.cell(1, 99).glyph == "─"; })) << "the line below the title";

@@ -56,13 +56,11 @@ class Kinds : public testing::TestWithParam<const char*> {
 protected:
     static Launch launch(const char* term, int columns, int rows)
     {
-        Launch launch;
-        launch.argv = {std::string(KULGUI_KINDS "/") + GetParam(), KULGUI_LICENSE};
-        launch.term = term;
-        launch.columns = columns;
-        launch.rows = rows;
-        launch.environment = {"LC_ALL=C.UTF-8"};
-        return launch;
+        return {.argv = {std::string(KULGUI_KINDS "/") + GetParam(), KULGUI_LICENSE},
+                .columns = columns,
+                .rows = rows,
+                .term = term,
+                .environment = {"LC_ALL=C.UTF-8"}};
     }
 };
 

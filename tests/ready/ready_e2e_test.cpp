@@ -17,30 +17,12 @@ struct Row {
     std::string result;
 };
 
-Launch launch(const std::vector<std::string>& words, int columns, int rows)
-{
-    Launch start;
-    start.argv = {KULGUI_TEST_PROGRAMS "/ready"};
-    start.argv.insert(start.argv.end(), words.begin(), words.end());
-    start.columns = columns;
-    start.rows = rows;
-    start.environment = {"LC_ALL=C.UTF-8"};
-    return start;
-}
-
-void press(Terminal& terminal, const std::string& key)
-{
-    const auto bytes = keyBytes(key);
-    terminal.press(bytes ? std::string(*bytes) : key);
-}
-
 class Ready : public testing::TestWithParam<std::pair<int, int>> {};
 
 TEST_P(Ready, GivesResults)
 {
     const auto [columns, height] = GetParam();
     const kultest::TemporaryFile file("first\nsecond line\nthird\n");
-    const std::vector<std::string> many(12, "down");
     const Row rows[] = {
         {"tell", {"tell"}, {"enter"}, "=0="},
         {"tell, left", {"tell"}, {"esc"}, "=-1="},
@@ -80,9 +62,11 @@ TEST_P(Ready, GivesResults)
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Terminal terminal(launch(row.words, columns, height));
+        std::vector<std::string> words = row.words;
+        words.insert(words.begin(), KULGUI_TEST_PROGRAMS "/ready");
+        Terminal terminal({.argv = words, .columns = columns, .rows = height, .environment = {"LC_ALL=C.UTF-8"}});
         for (const std::string& key : row.keys)
-            press(terminal, key);
+            terminal.press(keyBytes(key).value_or(key));
         EXPECT_EQ(terminal.wait(), 0) << terminal.text();
         const std::string& out = terminal.received();
         EXPECT_NE(out.find(row.result), std::string::npos)
