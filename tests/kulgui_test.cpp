@@ -14,17 +14,10 @@
 
 namespace {
 
-using kultest::typeKeys;
+using namespace kultest;
 
 constexpr int kPoll = 0;    // a wait without a key
 constexpr int kSecond = -2; // a second passes
-
-std::string events;
-
-void note(const std::string& event)
-{
-    events += event + ' ';
-}
 
 // Configures a dialog in colours that are not the default ones; it has no components then.
 void configure(int nChain, int nX = 0, int nWidth = 40)
@@ -33,7 +26,7 @@ void configure(int nChain, int nX = 0, int nWidth = 40)
 }
 
 // Dialog 1, and buttons that note when they take and lose the focus.
-class DialogTest : public kultest::WindowTest {
+class DialogTest : public WindowTest {
 protected:
     void SetUp() override
     {
@@ -47,17 +40,14 @@ protected:
         ASSERT_EQ(kulbutton_create(nChain, nRef), 0);
         kulbutton_config(
             nChain, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, nRef * 10, 2, 8, 1, "B",
-            [] { note("+" + std::to_string(GetCurrentSelection()->nUserInterface)); },
-            [] { note("-" + std::to_string(GetCurrentSelection()->nUserInterface)); }, nullptr, onClick);
+            [] { say("+" + std::to_string(GetCurrentSelection()->nUserInterface)); },
+            [] { say("-" + std::to_string(GetCurrentSelection()->nUserInterface)); }, nullptr, onClick);
     }
     static KULBUTTON& button(int nRef) { return *static_cast<KULBUTTON*>(GetUIComponentByRef(1, nRef)->Pointer); }
 
     static std::string run(const std::vector<int>& keys, int nExpected)
     {
-        events.clear();
-        typeKeys(keys, {[] { kultest::advanceClock(1); }});
-        EXPECT_EQ(kulgui_exec(1), nExpected);
-        return events;
+        return kultest::run(keys, nExpected, {[] { advanceClock(1); }});
     }
 };
 
@@ -84,7 +74,7 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
         int nResult;
         std::string_view events;
     } rows[] = {
-        {"leaves after its onUnfocus", [] { EXPECT_EQ(kulgui_leave(1), 0); note("click"); },
+        {"leaves after its onUnfocus", [] { EXPECT_EQ(kulgui_leave(1), 0); say("click"); },
          KUL_LEFT, "+1 click -1 "},
         {"leaves, and says where to begin the next time", [] { kulgui_leave(1); kulgui_setFocus(1, 2); },
          KUL_LEFT, "+1 -1 "},
@@ -107,7 +97,7 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
         {"leaves, and runs the dialog again before it is left",
          [] {
              kulgui_leave(1);
-             button(1).onClick = [] { note("click"); kulgui_leave(1); };
+             button(1).onClick = [] { say("click"); kulgui_leave(1); };
              typeKeys({KS_ENTER, KS_ENTER});
              kulgui_exec(1);
          },
@@ -128,7 +118,7 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
              configure(2, 3, 30);
              addButton(7, [] {
                  EXPECT_EQ(GetActiveChain(), 2);
-                 EXPECT_EQ(kultest::cellOf(window(1), 3, 12).pair, RED_WHITE) << "unfocused";
+                 EXPECT_EQ(cellOf(window(1), 3, 12).pair, RED_WHITE) << "unfocused";
              }, 2);
              typeKeys({KS_ENTER});
              EXPECT_EQ(kulgui_exec(2), KUL_LEFT);
@@ -217,7 +207,7 @@ TEST_F(DialogTest, WithComponentsThatDoNotWait)
         button(1).onFocus = end;
         makeDialog(2);
         kulgui_show(2);
-        GetChain(2)->Pointer->onPoll = [] { note("poll"); };
+        GetChain(2)->Pointer->onPoll = [] { say("poll"); };
         const bool left = end == ends[0];
         EXPECT_EQ(run({kSecond, 'x'}, left ? KUL_LEFT : -10000), left ? "-1 " : "")
             << "no wait for a dialog that is over";
@@ -227,8 +217,8 @@ TEST_F(DialogTest, WithComponentsThatDoNotWait)
 TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
 {
     makeDialog(2);
-    GetChain(1)->Pointer->onPoll = [] { note("poll"); };
-    GetChain(2)->Pointer->onPoll = [] { note("not shown"); };
+    GetChain(1)->Pointer->onPoll = [] { say("poll"); };
+    GetChain(2)->Pointer->onPoll = [] { say("not shown"); };
     for (int nChain : {3, 4}) {
         makeDialog(nChain);
         kulgui_show(nChain);
@@ -242,12 +232,12 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
     EXPECT_EQ(run({kPoll, kPoll, kSecond, kPoll, kSecond, kSecond, kPoll}, KUL_LEFT), "+1 poll poll -1 ")
         << "the wait after a pass starts the next second";
     EXPECT_EQ(GetChain(3)->Pointer->nVisible, F) << "stays hidden";
-    EXPECT_EQ(kultest::cellOf(window(4), 1, 1).pair, RED_CYAN) << "drawn by the same pass";
+    EXPECT_EQ(cellOf(window(4), 1, 1).pair, RED_CYAN) << "drawn by the same pass";
     EXPECT_EQ(Poll(0), 1);
     EXPECT_EQ(Poll(1), 0);
-    kultest::advanceClock(-100);
+    advanceClock(-100);
     EXPECT_EQ(Poll(1), 0);
-    kultest::advanceClock(1);
+    advanceClock(1);
     EXPECT_EQ(Poll(1), 1) << "a clock that was set back does not stop the polling";
 }
 
@@ -257,13 +247,13 @@ TEST_F(DialogTest, PollsOnceInAPassThatRunsADialogItself)
     addButton(1, nullptr, 2);
     addButton(1);
     GetChain(1)->Pointer->onPoll = [] {
-        note("poll");
+        say("poll");
         kulgui_exec(2);
     };
     static int nPolls;
     nPolls = 0;
     GetChain(2)->Pointer->onPoll = [] {
-        note("alarm");
+        say("alarm");
         if (++nPolls == 2)
             kulgui_leave(2);
     };
@@ -278,7 +268,7 @@ TEST_F(DialogTest, PollsMayDestroyAnything)
         for (int nChain : {2, 3}) {
             makeDialog(nChain);
             kulgui_show(nChain);
-            GetChain(nChain)->Pointer->onPoll = [] { note("poll"); };
+            GetChain(nChain)->Pointer->onPoll = [] { say("poll"); };
         }
         GetChain(2)->Pointer->onPoll = [] { kulgui_destroy(nVictim); };
         addButton(1);
@@ -325,15 +315,15 @@ TEST_F(DialogTest, FrameTitleAndShadow)
     for (const auto& row : rows) {
         makeDialog(2, row.nWidth, 3)->szTitle = row.szTitle;
         kulgui_show(2);
-        EXPECT_EQ(kultest::picture(window(2), 0, 0, 1, row.nWidth)[0], row.top);
+        EXPECT_EQ(picture(window(2), 0, 0, 1, row.nWidth)[0], row.top);
         kulgui_destroy(2);
     }
     GUI& gui = *GetChain(1)->Pointer;
     gui.nColorStandard = WHITE_RED;
     gui.nBorder = NOBORDER;
     kulgui_show(1);
-    EXPECT_EQ(kultest::cellOf(window(1), 1, 0).glyph, "│") << "a frame in any case";
-    EXPECT_EQ(kultest::cellOf(window(1), 1, 0).pair, WHITE_RED);
+    EXPECT_EQ(cellOf(window(1), 1, 0).glyph, "│") << "a frame in any case";
+    EXPECT_EQ(cellOf(window(1), 1, 0).pair, WHITE_RED);
     kulgui_hide(1);
     EXPECT_TRUE(panel_hidden(gui.pnlMain) && panel_hidden(gui.pnlShadow));
     kulgui_show(1);
@@ -352,12 +342,12 @@ TEST_F(DialogTest, ProgramsDrawBesideTheLibrary)
     {
         const kul::Pass pass;
     }
-    EXPECT_EQ(kultest::picture(curscr, 20, 60, 1, 4)[0], "mine");
+    EXPECT_EQ(picture(curscr, 20, 60, 1, 4)[0], "mine");
     GUI own{};
     own.winMain = win;
     own.winShadow = newwin(1, 5, 21, 61);
     DlgBox(&own);
-    EXPECT_EQ(kultest::cellOf(own.winShadow, 0, 4).pair, GREEN_YELLOW) << "with windows of its own";
+    EXPECT_EQ(cellOf(own.winShadow, 0, 4).pair, GREEN_YELLOW) << "with windows of its own";
     for (WINDOW* each : {own.winMain, own.winShadow})
         delwin(each);
 }
@@ -403,8 +393,8 @@ TEST_F(DialogTest, KeepItsPlaceAndPictureOnScreensOfEverySize)
     for (int nChain : {0, 3, 2})
         kulgui_show(nChain);
     mvwaddch(window(2), 6, 13, 'm');
-    kulgui_setOnResize(1, [] { note("hidden"); });
-    kulgui_setOnResize(3, [] { note(std::to_string(LINES)); });
+    kulgui_setOnResize(1, [] { say("hidden"); });
+    kulgui_setOnResize(3, [] { say(std::to_string(LINES)); });
     const struct {
         int nLines, nColumns;
         std::vector<int> places; // of dialogs 2 and 3
@@ -417,14 +407,14 @@ TEST_F(DialogTest, KeepItsPlaceAndPictureOnScreensOfEverySize)
         const GUI& second = *GetChain(2)->Pointer;
         const GUI& third = *GetChain(3)->Pointer;
         EXPECT_EQ((std::vector{second.nX, second.nY, third.nX, third.nY}), row.places);
-        EXPECT_EQ(kultest::cellOf(window(2), 6, 13).glyph, "m");
+        EXPECT_EQ(cellOf(window(2), 6, 13).glyph, "m");
         EXPECT_EQ(getbegx(panel_window(second.pnlMain)), row.places[0]);
         EXPECT_EQ(panel_above(third.pnlMain), second.pnlShadow) << "the order stays";
         EXPECT_EQ(GetChain(0)->Pointer->nWidth, row.nColumns);
         EXPECT_EQ(events, "hidden " + std::to_string(row.nLines) + ' ');
     }
     kulgui_place(2, 70, KUL_KEEP, 20, 4);
-    EXPECT_EQ(kultest::picture(newscr, 13, 60, 1, 20)[0], "└──────────────────┘");
+    EXPECT_EQ(picture(newscr, 13, 60, 1, 20)[0], "└──────────────────┘");
     GetChain(2)->Pointer->nX = 3; // a program may write it as well
     resize(30, 80);
     EXPECT_EQ(getbegx(window(2)), 3);
@@ -447,9 +437,9 @@ TEST_F(DialogTest, LargerThanTheScreenShowsWhereTheUserIs)
     typeKeys({-2, KS_TAB, -2, KS_UP, -2, 'x', -2, KS_PAGEUP, KS_LEFT, -2, KS_TAB, -2}, {[] {
                  WINDOW* shown = panel_window(GetChain(1)->Pointer->pnlMain);
                  std::string text;
-                 for (std::string row : kultest::picture(shown, 0, 0, 5, 20))
+                 for (std::string row : picture(shown, 0, 0, 5, 20))
                      text += row.erase(row.find_last_not_of(' ') + 1) + '|';
-                 note(text);
+                 say(text);
              }});
     kulgui_exec(1);
     EXPECT_EQ(events, "+1 ┌───────────────────|│|│ ┌──────┐|│ │  B   │|│ └──────┘| -1 +4 "
@@ -465,13 +455,13 @@ TEST_F(DialogTest, PrimaryBackground)
 {
     GetChain(0)->Pointer->szTitle = "alone";
     kulgui_show(0);
-    EXPECT_EQ(kultest::picture(newscr, 0, 0, 1, 7)[0], "alone  ") << "without any panel";
-    EXPECT_EQ(kultest::picture(stdscr, 0, 0, 3, 10), (kultest::Rows{"alone     ", "──────────", "          "}));
+    EXPECT_EQ(picture(newscr, 0, 0, 1, 7)[0], "alone  ") << "without any panel";
+    EXPECT_EQ(picture(stdscr, 0, 0, 3, 10), (Rows{"alone     ", "──────────", "          "}));
     // The line has attributes made of the colour set's number, twice shifted, and no colour.
-    const kultest::Cell line = kultest::cellOf(stdscr, 1, 79);
+    const Cell line = cellOf(stdscr, 1, 79);
     EXPECT_EQ(line.pair, 0);
     EXPECT_EQ(line.attributes, static_cast<attr_t>(BLACK_WHITE) << 16);
-    EXPECT_EQ(kultest::cellOf(stdscr, 23, 79).pair, BLACK_WHITE);
+    EXPECT_EQ(cellOf(stdscr, 23, 79).pair, BLACK_WHITE);
     EXPECT_EQ(GetWindowWidth(nullptr), -1);
 }
 

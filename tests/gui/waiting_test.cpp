@@ -16,12 +16,7 @@ extern "C" int __real__ZN3kul8awaitKeyEv(); // the tests of dialogs have another
 
 namespace {
 
-std::string events;
-
-void note(const char* event)
-{
-    events += event;
-}
+using namespace kultest;
 
 // A pipe, its two ends until it goes.
 struct Pipe {
@@ -49,7 +44,7 @@ void readSource()
     events += byte;
 }
 
-class WaitingTest : public kultest::WindowTest {
+class WaitingTest : public WindowTest {
 protected:
     void SetUp() override
     {
@@ -80,12 +75,12 @@ protected:
 
 TEST_F(WaitingTest, RunsTimersOnceWhenTheyAreDue)
 {
-    const int nLate = kulgui_setTimer(INT_MAX, [] { note("late "); });
+    const int nLate = kulgui_setTimer(INT_MAX, [] { say("late"); });
     const int nNow = kulgui_setTimer(INT_MIN, [] {
-        note("now ");
-        kulgui_setTimer(0, [] { note("again "); });
+        say("now");
+        kulgui_setTimer(0, [] { say("again"); });
     });
-    const int nNever = kulgui_setTimer(0, [] { note("never "); });
+    const int nNever = kulgui_setTimer(0, [] { say("never"); });
     EXPECT_TRUE(nLate > 0 && nNow > 0 && nNever > 0 && nLate != nNow && nNow != nNever);
     EXPECT_EQ(kulgui_stopTimer(nNever), 0);
     for (const int nNone : {nNever, 0, -1, INT_MAX})
@@ -94,7 +89,7 @@ TEST_F(WaitingTest, RunsTimersOnceWhenTheyAreDue)
     EXPECT_EQ(events, "now ");
     EXPECT_EQ(wait(), 0);
     EXPECT_EQ(events, "now again ");
-    kulgui_setTimer(1, [] { note("soon "); });
+    kulgui_setTimer(1, [] { say("soon"); });
     while (events == "now again ")
         EXPECT_EQ(wait(), 0); // which a second that is over ends as well
     EXPECT_EQ(events, "now again soon ");
@@ -116,9 +111,9 @@ TEST_F(WaitingTest, RunsWhatWatchesADescriptor)
     theSource = &source;
     source.put("abc");
     other.put("x");
-    EXPECT_EQ(kulgui_watch(source.reader(), [] { note("not this"); }), 0);
+    EXPECT_EQ(kulgui_watch(source.reader(), [] { say("not this"); }), 0);
     EXPECT_EQ(kulgui_watch(source.reader(), readSource), 0);
-    EXPECT_EQ(kulgui_watch(other.reader(), [] { note("-"); }), 0);
+    EXPECT_EQ(kulgui_watch(other.reader(), [] { say("-"); }), 0);
     for (const int nFd : {INT_MIN, -1, STDIN_FILENO})
         EXPECT_EQ(kulgui_watch(nFd, readSource), -1);
     EXPECT_EQ(wait(), 0);
@@ -130,15 +125,15 @@ TEST_F(WaitingTest, RunsWhatWatchesADescriptor)
     keyboard_.put("k");
     EXPECT_EQ(wait(), 'k');
     EXPECT_EQ(wait(), 0);
-    EXPECT_EQ(events, "a-bc");
+    EXPECT_EQ(events, "a- bc");
     close(source.ends[1]);
-    kulgui_watch(source.reader(), [] { note(" end"); });
+    kulgui_watch(source.reader(), [] { say(" end"); });
     wait();
     source.ends[1] = source.ends[0]; // what is closed is no longer watched
     close(source.ends[0]);
     waitShortly();
     EXPECT_EQ(kulgui_watch(source.reader(), nullptr), -1);
-    EXPECT_EQ(events, "a-bc end");
+    EXPECT_EQ(events, "a- bc end ");
     source.ends = {dup(0), dup(0)};
 
     int nWatched = 0;
@@ -165,7 +160,7 @@ TEST_F(WaitingTest, ShowsWhatTimersChangeInAnyDialog)
         kulgui_hide(3);
     });
     EXPECT_EQ(wait(), 0);
-    EXPECT_EQ(kultest::picture(window(2), 2, 2, 1, 3), kultest::Rows{"see"});
+    EXPECT_EQ(picture(window(2), 2, 2, 1, 3), Rows{"see"});
     EXPECT_EQ(panel_window(panel_below(nullptr)), window(1)) << "the order of dialogs is kept";
     EXPECT_EQ(GetChain(3)->Pointer->nVisible, F);
     EXPECT_EQ(GetChain(0)->Pointer->winMain, nullptr) << "what was never shown is not shown by this";
@@ -193,7 +188,7 @@ TEST_F(WaitingTest, KeepsOrForgetsWhatIsTypedAheadByEdition)
     EXPECT_EQ(kulgui_dropKeys(), 0);
     EXPECT_EQ(Inkeys(), 0);
     keyboard_.put("d");
-    kultest::advanceClock(1);
+    advanceClock(1);
     EXPECT_EQ(wait(), 0) << "a pass that is due comes before a key";
     ExecPolling();
     EXPECT_EQ(wait(), 'd');

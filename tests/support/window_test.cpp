@@ -326,6 +326,14 @@ int addElement(int nRef, const char* szText, int nEnable, KULCALLBACK select, KU
                      kuloptions_addElement(1, nRef, szText, nEnable, select, click)});
 }
 
+std::string run(const std::vector<int>& keys, int nExpected, const std::vector<KULCALLBACK>& actions)
+{
+    events.clear();
+    typeKeys(keys, actions);
+    EXPECT_EQ(kulgui_exec(1), nExpected);
+    return events;
+}
+
 void ComponentTest::SetUp()
 {
     WindowTest::SetUp();

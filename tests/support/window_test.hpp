@@ -166,13 +166,21 @@ bool refuse(int nChain, int nRef)
     return (refused(ask(Calls, nChain, nRef)) && ...);
 }
 
-// What callbacks noted, each with what was selected: "focus0 click2 ".
+// What callbacks noted, by itself or with what was selected: "focus0 click2 ".
 inline std::string events;
+
+inline void say(const std::string& event)
+{
+    events += event + ' ';
+}
 
 inline void note(const char* event)
 {
-    events += event + std::to_string(GetCurrentSelection()->nSelect) + ' ';
+    say(event + std::to_string(GetCurrentSelection()->nSelect));
 }
+
+// Runs dialog 1 with these keys, and gives what was noted.
+std::string run(const std::vector<int>& keys, int nExpected = KUL_LEFT, const std::vector<KULCALLBACK>& actions = {});
 
 // Dialog 1, shown and without components.
 class ComponentTest : public WindowTest {

@@ -11,11 +11,6 @@ namespace {
 
 using namespace kultest;
 
-void say(const std::string& event)
-{
-    events += event + ' ';
-}
-
 const CURRENT& current()
 {
     return *GetCurrentSelection();
@@ -35,15 +30,6 @@ protected:
         addComponent(BUTTON, nRef, nX, nY,
                      {[] { say("+" + std::to_string(current().nUserInterface)); },
                       [] { say("-" + std::to_string(current().nUserInterface)); }, nullptr, onClick});
-    }
-
-    static std::string run(const std::vector<int>& keys, int nExpected = KUL_LEFT,
-                           const std::vector<KULCALLBACK>& actions = {})
-    {
-        events.clear();
-        typeKeys(keys, actions);
-        EXPECT_EQ(kulgui_exec(1), nExpected);
-        return events;
     }
 };
 
