@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <climits>
-#include <clocale>
 
 #include "support/window_test.hpp"
 
@@ -55,17 +54,6 @@ TEST_F(DescrfieldTest, ExplainsTheSelectedElement)
         EXPECT_EQ(kuldescrfield_selElement(1, 1, nSelect), nResult);
         EXPECT_EQ(field().nSelect, nSelected);
     }
-}
-
-TEST_F(DescrfieldTest, CutsTextsByCellsAndNotByBytes)
-{
-    ASSERT_TRUE(std::setlocale(LC_ALL, "C.UTF-8"));
-    std::string text;
-    for (int nLength = 0; nLength < 20; ++nLength)
-        text += "\303\251";
-    add((text + "and a long tail").c_str(), "");
-    EXPECT_EQ(drawn(1, 1, 2, 29), "." + text + "and a lo|.┌──────────┐        ........|");
-    std::setlocale(LC_ALL, "C");
 }
 
 TEST_F(DescrfieldTest, ChangesTextsThatFit)

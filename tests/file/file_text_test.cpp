@@ -106,61 +106,6 @@ TEST(FileRowsTest, LaysOutAwkwardText)
     }
 }
 
-// Words, blanks, characters of several bytes, and lines of all lengths around the sizes that count.
-std::string randomText(std::mt19937& random)
-{
-    const char* const parts[] = {"a",  "word",         " ",        "   ",          "\t",           "\r",  "\0", "\xff",
-                                 "\n", "\xe2\x82\xac", "\xcc\x81", "\xe4\xb8\xad", "\xe2\x80\x8b", "\r\n"};
-    const std::size_t sizes[] = {3, 200, FileText::kPiece - 5, FileText::kPiece * 5 / 2};
-    std::string text;
-    const std::size_t nLines = random() % 12;
-    for (std::size_t i = 0; i < nLines; ++i) {
-        const std::size_t end = text.size() + sizes[random() % 4] + random() % 8;
-        const std::size_t nParts = random() % 8 == 0 ? 2 : std::size(parts);
-        while (text.size() < end)
-            text += parts[random() % nParts];
-        text += random() % 3 == 0 ? "\r\n" : "\n";
-    }
-    return random() % 2 ? text : text + "end";
-}
-
-TEST(FileRowsTest, RowsAreTheSameOnAllWays)
-{
-    for (unsigned seed = 0; seed < 16; ++seed) {
-        SCOPED_TRACE(seed);
-        const InColumns locale(1 + static_cast<int>(seed % 2));
-        std::mt19937 random(seed);
-        const std::string bytes = randomText(random);
-        const TemporaryFile file(bytes);
-        const Text text = open(file);
-        FileRows rows(*text, 1 + static_cast<int>(random() % 120));
-        std::vector<FilePlace> starts;
-        FilePlace shownUpTo = 0;
-        for (FilePlace place = 0; place < text->size();) {
-            const FileRows::Row row = rows.row(place);
-            ASSERT_GT(row.next, place);
-            ASSERT_LE(row.end, row.next);
-            for (; shownUpTo < row.start; ++shownUpTo)
-                ASSERT_NE(std::string(" \t\r\n\xe2\x80\x8b").find(bytes[static_cast<std::size_t>(shownUpTo)]),
-                          std::string::npos);
-            shownUpTo = row.end;
-            starts.push_back(place);
-            place = row.next;
-        }
-        for (std::size_t sample = 0; sample < 30 && !starts.empty(); ++sample) {
-            const std::size_t i = random() % starts.size();
-            const FilePlace place = starts[i];
-            const FilePlace next = i + 1 < starts.size() ? starts[i + 1] : text->size();
-            ASSERT_EQ(rows.rowOf(place + static_cast<FilePlace>(random()) % (next - place)), place);
-            for (const std::size_t n : {1U, 23U, 70U})
-                ASSERT_EQ(rows.up(place, static_cast<int>(n)), starts[i > n ? i - n : 0]);
-            ASSERT_EQ(rows.down(place, 7), i + 7 < starts.size() ? starts[i + 7] : text->size());
-        }
-        ASSERT_EQ(rows.up(text->size(), 5),
-                  starts.empty() ? 0 : starts[starts.size() - std::min<std::size_t>(5, starts.size())]);
-    }
-}
-
 TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
 {
     constexpr FilePlace kEdge = FileText::kPiece;

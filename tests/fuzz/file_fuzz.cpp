@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <clocale>
 #include <ctime>
+#include <vector>
 
 #include "changing_file.hpp"
 #include "file/file_rows.hpp"
@@ -53,10 +54,16 @@ void compare(kul::FileText& file, int nColumns, FilePlace place, const std::stri
     const bool isThere = found != text.npos && wanted.find('\n') == text.npos;
     check(file.find(wanted, nLine).place == (isThere ? static_cast<FilePlace>(found) : -1));
     kul::FileRows rows(file, nColumns);
-    const FilePlace start = rows.rowOf(place);
-    const FilePlace next = rows.row(start).next;
-    check(text.empty() || (start <= place && place < next && rows.rowOf(next - 1) == start));
-    check(start == 0 || rows.down(rows.up(start, 1), 1) == start);
+    std::vector<FilePlace> starts = {0};
+    for (FilePlace next; (next = rows.row(starts.back()).next) <= place && next < file.size();) {
+        check(next > starts.back());
+        starts.push_back(next);
+    }
+    const auto nRows = static_cast<int>(starts.size()) - 1;
+    check(text.empty() || rows.rowOf(place) == starts.back());
+    for (const int n : {1, 23, 70})
+        check(rows.up(starts.back(), n) == starts[static_cast<std::size_t>(std::max(nRows - n, 0))]);
+    check(rows.down(0, nRows) == starts.back());
 }
 
 bool makeViewer()

@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT
  *
- * Shows texts that would do things to a terminal, in each way in which the library draws one, and
- * then a dialog titled "Done". On the command line: the locale and the edition.
+ * Shows texts that would do things to a terminal, as titles, labels, texts and buttons, and then a
+ * dialog titled "Done". On the command line: the locale and the edition.
  */
 #include <kulgui.h>
 
@@ -27,16 +27,6 @@ static void show(const char* szText)
     kullabel_create(1, 1);
     kullabel_config(1, 1, KUL_KEEP, KUL_KEEP, 1, 1, 16, 3, CENTER, BORDER, "");
     kullabel_setText(1, 1, szText);
-    kulstatbar_create(1, 2);
-    kulstatbar_config(1, 2, KUL_KEEP, NULL);
-    kulstatbar_addElement(1, 2, 0, 20, "", LEFT, NULL);
-    kulstatbar_setElement(1, 2, 0, szText);
-    kulmenu_create(1, 3);
-    kulmenu_config(1, 3, KUL_KEEP, KUL_KEEP, KUL_KEEP, NULL, NULL, NULL, NULL);
-    kulmenu_addElement(1, 3, szText, 1, NULL, NULL);
-    kultextbox_create(1, 4);
-    kultextbox_config(1, 4, KUL_KEEP, KUL_KEEP, KUL_KEEP, 40, 10, 16, 3, BORDER, NOMASK, NULL, NULL, NULL, NULL);
-    kultextbox_setText(1, 4, szText);
     kulgui_show(1);
     WINDOW* win = GetChain(1)->Pointer->winMain;
     WrapText(win, 60, 1, 12, WHITE_BLUE, szText);
