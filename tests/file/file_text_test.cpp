@@ -76,7 +76,7 @@ TEST(FileRowsTest, LaysOutAwkwardText)
         {"inside of a word", "abc defghi", 9, {"abc ", "defghi"}},
         {"runs of blanks", "abc    d  ", 5, {"abc", "d  "}},
         {"runs of blanks longer than a row", "abc      d", 5, {"abc", "     ", "d"}},
-        {"blanks that do not fit at the end", "abcd   ", 4, {"abcd"}},
+        {"blanks that do not fit at the end", "ab         c\n\xc3\xa4" "bcd   \nx", 4, {"ab", "    ", "    ", "c", "#bcd", "x"}},
         {"indentation stays", "    ab cd", 7, {"    ab ", "cd"}},
         {"more blanks than fit", "       ab", 4, {"    ", "ab"}},
         {"a word too long", "abcdefghij klm", 4, {"abcd", "efgh", "ij ", "klm"}},
@@ -104,6 +104,19 @@ TEST(FileRowsTest, LaysOutAwkwardText)
             EXPECT_EQ(got, nEdition == 1 ? test.rows : test.rowsOfEdition2);
         }
     }
+}
+
+TEST(FileRowsTest, LettersLieAcrossTheBuffersThatAreRead)
+{
+    const InColumns locale;
+    std::string bytes;
+    while (bytes.size() < 2 * FileText::kChunk)
+        bytes += "\u20ac\u20ac\u20ac\n";
+    const TemporaryFile file(bytes);
+    const Text text = open(file);
+    FileRows rows(*text, 9);
+    for (FilePlace place = 0; place < text->size(); place += 10)
+        ASSERT_EQ(shown(rows, rows.row(place)), "###") << place;
 }
 
 TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)

@@ -54,16 +54,19 @@ void compare(kul::FileText& file, int nColumns, FilePlace place, const std::stri
     const bool isThere = found != text.npos && wanted.find('\n') == text.npos;
     check(file.find(wanted, nLine).place == (isThere ? static_cast<FilePlace>(found) : -1));
     kul::FileRows rows(file, nColumns);
-    std::vector<FilePlace> starts = {0};
-    for (FilePlace next; (next = rows.row(starts.back()).next) <= place && next < file.size();) {
-        check(next > starts.back());
-        starts.push_back(next);
+    std::vector<FilePlace> starts;
+    for (FilePlace at = 0; at < file.size(); at = rows.row(at).next) {
+        check(starts.empty() || at > starts.back());
+        starts.push_back(at);
     }
-    const auto nRows = static_cast<int>(starts.size()) - 1;
-    check(text.empty() || rows.rowOf(place) == starts.back());
-    for (const int n : {1, 23, 70})
-        check(rows.up(starts.back(), n) == starts[static_cast<std::size_t>(std::max(nRows - n, 0))]);
-    check(rows.down(0, nRows) == starts.back());
+    const std::size_t nApart = starts.size() / 16 + 1; // of the rows that are looked at
+    for (std::size_t i = static_cast<std::size_t>(place) % nApart; i < starts.size(); i += nApart) {
+        const FilePlace next = i + 1 < starts.size() ? starts[i + 1] : file.size();
+        check(rows.rowOf(starts[i]) == starts[i] && rows.rowOf(next - 1) == starts[i]);
+        check(rows.down(starts[i], 1) == next);
+        for (const std::size_t n : {1U, 23U, 65U})
+            check(rows.up(starts[i], static_cast<int>(n)) == starts[i > n ? i - n : 0]);
+    }
 }
 
 bool makeViewer()
