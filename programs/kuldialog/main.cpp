@@ -7,7 +7,6 @@
 #include <cstring>
 
 #include <kulgui.h>
-#include <poll.h>
 #include <unistd.h>
 
 #include "boxes.hpp"
@@ -61,6 +60,13 @@ void printVersion()
     text.writeTo(STDOUT_FILENO);
 }
 
+// A background without a title is not shown as a dialog is, nor shown again on another screen.
+void fillDesktop()
+{
+    if (desktop()->nVisible == F)
+        WinFill(desktop()->winMain, desktop()->nColorStandard);
+}
+
 // The background, with a title if there is one; without, it is a colour alone.
 void showDesktop(const Settings& settings)
 {
@@ -69,7 +75,8 @@ void showDesktop(const Settings& settings)
         desktop()->szTitle = settings.text(kBacktitle, "");
         kulgui_show(kDesktopChain);
     } else if (!shown) {
-        WinFill(desktop()->winMain, desktop()->nColorStandard);
+        fillDesktop();
+        kulgui_setOnResize(kDesktopChain, fillDesktop);
     }
     shown = true;
 }
@@ -135,8 +142,9 @@ Answer Program::runBox()
     stays_ = nullptr;
     if (std::strcmp(line_.box()->name, "infobox") == 0)
         stays_ = prepareText(call.settings, call.argument(0));
-    if (call.settings.numbers[kSleep] > 0)
-        poll(nullptr, 0, 1000 * call.settings.numbers[kSleep]);
+    int nSeconds = call.settings.numbers[kSleep];
+    while (nSeconds > 0) // a signal ends less than all of it
+        nSeconds = static_cast<int>(sleep(static_cast<unsigned>(nSeconds)));
     return answer;
 }
 
