@@ -540,8 +540,9 @@ KULGUI_API int kulgui_watch(int nFd, KULCALLBACK onReady);
  *   arrow keys        on a button go to the nearest button in that direction.
  *   menus and lists   have no empty place; Home, End, PageUp and PageDown move as well; a letter
  *                     goes to the next element that begins with it; disabled elements are passed
- *                     over. A menu runs onSelect after a move, and at Enter its own onClick, then
- *                     that of the element. Check lists end when they are hidden.
+ *                     over. Scroll bars tell where the view is. A menu runs onSelect after a move,
+ *                     and at Enter its own onClick, then that of the element. Check lists end when
+ *                     they are hidden.
  *   text boxes        insert letters and scroll; what counts are characters. See their chapter.
  *   focus             a dialog whose component in focus is gone begins with its first one.
  *   texts             are laid out by columns, in the language of the program's locale. A word of
@@ -1347,7 +1348,8 @@ KULGUI_API int kulscrollbar_create(int nChain, int nRef);
 KULGUI_API int kulprogbar_create(int nChain, int nRef);
 
 /** Set a bar up: colour sets of the bar and of its rail, place and length of the rail, position,
- * range, ORIENTATION. KUL_KEEP takes the dialog's nColorUnfocus and nColorStandard, 1, 10 and
+ * range, ORIENTATION. A scroll bar's position is the first row in view, its range all rows, its
+ * length those in view. KUL_KEEP takes the dialog's nColorUnfocus and nColorStandard, 1, 10 and
  * VERTICAL. Return KUL_OK, KUL_ERROR for an unknown item. */
 KULGUI_API int kulscrollbar_config(int nChain, int nRef, int nColorBar, int nColorRail, int nX,
                                    int nY, int nLength, int nPosition, int nRange, int nOrient);

@@ -199,7 +199,7 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     WINDOW* win = window(1);
     EXPECT_EQ(picture(win, 1, 1, 8, 18),
               (Rows{"┌──────────────── ", "│[ ] Ab           ", "│[ ] ac           ", "│[ ] ba           ",
-                    "└──────────────── ", "┌──────┐ ┌──────┐ ", "│> OK <│ │  OK  │ ", "└──────┘ └──────┘ "}));
+                    "└────────────────┴", "┌──────┐ ┌──────┐ ", "│> OK <│ │  OK  │ ", "└──────┘ └──────┘ "}));
     EXPECT_EQ(colors(win, 2, 1, 6, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}, {'d', BLUE_WHITE}}),
               (Rows{"..................", ".ddd.dd...........", ".ffffffffffffffff.", "..................",
                     ".........dddddddd.", ".........dddddddd."}));

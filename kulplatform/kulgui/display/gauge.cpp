@@ -3,6 +3,7 @@
 // Scroll bars and progress bars: a rail with a bar on it. The lists draw their scroll bars here.
 #include "../clamp.hpp"
 #include "../gui/draw.hpp"
+#include "../gui/edition.hpp"
 #include "item.hpp"
 
 namespace {
@@ -19,7 +20,8 @@ void drawCells(WINDOW* win, const KULGAUGEBAR& bar, int nFrom, int nCount)
         kul::vRun(win, kul::shifted(bar.nY, nFrom), bar.nX, nCount, ' ');
 }
 
-// The thumb is to the rail as the rail is to the range, and never leaves the rail.
+// The thumb is to the rail as the rail is to the range, and never leaves the rail. In edition 2 it
+// is as far down as the position is on its way to the end.
 void drawThumb(WINDOW* win, const KULGAUGEBAR& bar)
 {
     const long long length = bar.nLength;
@@ -27,8 +29,10 @@ void drawThumb(WINDOW* win, const KULGAUGEBAR& bar)
     long long offset = 0;
     if (bar.nRange > length) {
         thumb = std::max(length * length / bar.nRange, 1LL);
-        const bool atEnd = static_cast<long long>(bar.nRange) - bar.nPosition == length;
-        offset = atEnd ? length : bar.nPosition / (bar.nRange / length);
+        const long long last = bar.nRange - length;
+        offset = kul::isEdition2()       ? bar.nPosition * (length - thumb) / last
+                 : bar.nPosition == last ? length
+                                         : bar.nPosition / (bar.nRange / length);
         offset = kul::clamp(offset, 0LL, length - thumb);
     }
     wattr_on(win, A_REVERSE, nullptr);

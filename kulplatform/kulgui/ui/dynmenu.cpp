@@ -99,14 +99,14 @@ void drawRows(WINDOW* win, const KULDYNMENU& menu, kul::MenuView& view,
     }
 }
 
-// Whether there is a scroll bar that tells where the selection is.
+// Whether there is a scroll bar that tells where the view is.
 bool barTells(const KULDYNMENU& menu)
 {
     return kul::isEdition2() && menu.nHeight < menu.nElements;
 }
 
 // One that tells stands beside the rows, the other one from corner to corner.
-void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
+void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nFirst, int nColor)
 {
     const bool tells = barTells(menu);
     KULGAUGEBAR bar{};
@@ -115,7 +115,7 @@ void drawScrollBar(GUI* gui, const KULDYNMENU& menu, int nColor)
     bar.nY = kul::shifted(menu.nY, tells ? 1 : 0);
     bar.nLength = kul::shifted(menu.nHeight, tells ? 0 : 2);
     bar.nRange = menu.nElements;
-    bar.nPosition = tells ? menu.nSelect : 1;
+    bar.nPosition = tells ? nFirst : 1;
     bar.nOrient = VERTICAL;
     BarShow(gui, &bar, kScrollBar);
 }
@@ -132,7 +132,7 @@ void draw(GUI* gui, const KULDYNMENU& menu, kul::MenuView& view, int nFocus)
     follow(view, menu);
     drawRows(gui->winMain, menu, view, kul::menuColors(menu, nFocus));
     if (menu.nHeight < menu.nElements)
-        drawScrollBar(gui, menu, nFrame);
+        drawScrollBar(gui, menu, view.nFirst, nFrame);
 }
 
 } // namespace
@@ -143,7 +143,7 @@ Spot spotOf(DynMenu& menu)
 {
     follow(menu.view, menu);
     const int nY = shifted(menu.nY, 1LL + menu.nSelect - menu.view.nFirst);
-    return {{nY, shifted(nY, 1)}, barTells(menu) ? -1 : menu.view.nFirst};
+    return {{nY, shifted(nY, 1)}, menu.view.nFirst};
 }
 
 void dropDynmenu(KULDYNMENU& menu)

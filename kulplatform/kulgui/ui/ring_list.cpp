@@ -55,14 +55,19 @@ void setListDefaults(const GUI& gui, const List& list)
 
 namespace {
 
+// In edition 2 the bar tells where the view is, and that there is more.
 void drawScrollbar(GUI& gui, const List& list)
 {
     const int nColor = list.box.colors.nUnfocus;
     const int nRight = shifted(list.box.nX, list.box.nWidth - 1LL);
     const int nLast = lastIndex(list);
     const int nCursor = list.nCursor;
-    const KULGAUGEBAR bar = {nColor, nColor,  nRight,   list.box.nY, list.box.nHeight,
-                             nLast,  nCursor, VERTICAL, T,           nullptr};
+    KULGAUGEBAR bar = {nColor, nColor,  nRight,   list.box.nY, list.box.nHeight,
+                       nLast,  nCursor, VERTICAL, T,           nullptr};
+    if (isEdition2()) {
+        bar.nRange = shifted(std::max(nLast, list.box.nHeight), 1);
+        bar.nPosition = list.box.nFirstShowed;
+    }
     BarShow(&gui, &bar, 1);
     if (nCursor != 0 && nCursor != nLast)
         return;
