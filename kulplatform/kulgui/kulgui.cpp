@@ -85,19 +85,22 @@ int moveFocus(int nChain, int nRef, bool forward)
 }
 
 // Shows what the loop starts with: the dialog if it never was shown, and the components of the
-// dialog that was active without focus.
-void showFirst(int nChain, int nBefore)
+// dialog that was active without focus. False without memory for its windows.
+bool showFirst(int nChain, int nBefore)
 {
     CHAIN* chain = GetChain(nChain);
     if (chain->Pointer->nVisible == F) {
         chain->Pointer->nVisible = T;
         if (chain != GetPrimaryChain())
             DlgBox(chain->Pointer);
+        if (!chain->Pointer->winMain && chain != GetPrimaryChain())
+            return false;
     }
     ExecuteFocusFunction(chain->Pointer);
     GUI* before = kul::findDialog(nBefore);
     for (UI* ui = before ? before->UserInterface : nullptr; ui; ui = ui->Next)
         ShowUIComponentUnfocused(before, ui);
+    return true;
 }
 
 // What ends a loop whatever its handler returned; 0 for nothing.
@@ -297,12 +300,13 @@ int kulgui_exec(int nChain)
     const kul::Pass pass(kul::Pass::End::Later);
     const kul::Loop loop(nChain);
     SetActiveChain(nChain);
-    showFirst(nChain, nBefore);
-    int nResult = 0;
-    int nStill = 0;
-    while (!isEnd(nResult))
-        nResult = runFocused(nChain, nResult, nStill);
-    ExecuteUnfocusFunction(kul::findDialog(nChain));
+    int nResult = KUL_ERROR;
+    if (showFirst(nChain, nBefore)) {
+        nResult = 0;
+        for (int nStill = 0; !isEnd(nResult);)
+            nResult = runFocused(nChain, nResult, nStill);
+        ExecuteUnfocusFunction(kul::findDialog(nChain));
+    }
     SetActiveChain(nBefore);
     SetCurrentSelection(selection);
     showBelow(below);

@@ -391,9 +391,9 @@ KULGUI_API int kulgui_setOnResize(int nChain, KULCALLBACK onResize);
  * focus gets the keys until the dialog is left. May be called from a callback. Returns KUL_LEFT
  * after kulgui_leave; in edition 2 KUL_CANCELLED after Escape; KUL_GONE when the dialog has no
  * component to focus, its component or itself was destroyed, or the line was hung up; KUL_ERROR for
- * an unknown chain, one without dialog, or without a usable terminal. The primary dialog is not
- * drawn first: kulgui_show does that. What changes at its end is shown with the next call that
- * draws or waits, so that a program that ends does not paint what is gone at once. */
+ * an unknown chain, one without dialog, without a usable terminal or memory to show it. The primary
+ * dialog is not drawn first: kulgui_show does that. What changes at its end is shown with the next
+ * call that draws or waits, so that a program that ends does not paint what is gone at once. */
 KULGUI_API int kulgui_exec(int nChain);
 
 /** Shows a dialog with all that is in it; the terminal must be open. Always KUL_OK. */

@@ -8,9 +8,15 @@
 
 namespace kuldialog {
 
+void made(int nResult)
+{
+    if (nResult < 0)
+        isWhole = false;
+}
+
 Buffer& Buffer::add(const char* szText, std::size_t size)
 {
-    Text::add(szText, size);
+    made(Text::add(szText, size) - 1);
     return *this;
 }
 

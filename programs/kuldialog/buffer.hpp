@@ -9,6 +9,13 @@
 
 namespace kuldialog {
 
+// Whether there was memory for all that the boxes are made of. What lacks a part is not shown as if
+// it were whole, and has no answer.
+inline bool isWhole = true;
+
+// Takes the result of a call that needs memory, negative without.
+void made(int nResult);
+
 class Buffer : public kulready::Text {
 public:
     Buffer& add(const char* szText, std::size_t size);

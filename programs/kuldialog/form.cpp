@@ -92,6 +92,8 @@ void Fields::keep()
             explicit_bzero(text, std::strlen(text));
             std::free(text);
             text = entry;
+        } else {
+            made(-1);
         }
     }
     bound_ = 0;
@@ -107,9 +109,10 @@ void Fields::fill()
         text.add(' ');
         const int nRef = kItem + labels_++;
         kullabel_create(window_.nChain, nRef);
-        kullabel_config(window_.nChain, nRef, colors[kWindowColor], KUL_KEEP, 2 + nX,
-                        window_.nBodyY + nY - top_, std::min(nWidth + 1, window_.nWidth - 3 - nX),
-                        1, LEFT, NOBORDER, text.text());
+        made(kullabel_config(window_.nChain, nRef, colors[kWindowColor], KUL_KEEP, 2 + nX,
+                             window_.nBodyY + nY - top_,
+                             std::max(std::min(nWidth + 1, window_.nWidth - 3 - nX), 0), 1, LEFT,
+                             NOBORDER, text.text()));
     };
     for (int i = 0; i < count_; ++i) {
         const Field& field = fields_[i];
@@ -143,7 +146,7 @@ void Fields::create()
     slotPlaces_ = static_cast<int*>(
         std::malloc((static_cast<std::size_t>(window_.nBodyHeight) * 4 + 1) * sizeof(int)));
     if (!slotPlaces_)
-        return;
+        return made(-1);
     // All that will ever be there come first, before the buttons.
     for (; slots_ < std::min(window_.nBodyHeight * 4, count_); ++slots_) {
         kultextbox_create(window_.nChain, kFirst + slots_);

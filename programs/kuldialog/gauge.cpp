@@ -40,11 +40,11 @@ struct Meter {
         text.addNumber(nValue);
         text.add(szUnit);
         const int nLength = std::max(window.innerWidth() - kValueColumns - 1, 1);
-        kulprogbar_config(window.nChain, kBar, colors[kFocus], colors[kWindowColor], 2,
-                          window.nBodyY, nLength, nPosition, std::max(nRange, 1), LATERAL);
-        kullabel_config(window.nChain, kValue, colors[kWindowColor], KUL_KEEP,
-                        window.nWidth - 3 - kValueColumns, window.nBodyY, kValueColumns + 1, 1,
-                        RIGHT, NOBORDER, text.text());
+        made(kulprogbar_config(window.nChain, kBar, colors[kFocus], colors[kWindowColor], 2,
+                               window.nBodyY, nLength, nPosition, std::max(nRange, 1), LATERAL));
+        made(kullabel_config(window.nChain, kValue, colors[kWindowColor], KUL_KEEP,
+                             window.nWidth - 3 - kValueColumns, window.nBodyY, kValueColumns + 1, 1,
+                             RIGHT, NOBORDER, text.text()));
     }
 };
 
@@ -90,7 +90,7 @@ void Reader::showText()
 {
     char* text = prepareText(settings_, text_.text());
     if (!text)
-        return;
+        return made(-1);
     meter_.window.setText(text);
     std::free(shown_);
     shown_ = text;
@@ -282,8 +282,7 @@ Answer runGauge(const Call& call)
     const int nPercent = kul::clamp(call.number(3), 0, 100);
     meter.create();
     meter.set(nPercent, nPercent);
-    window.show();
-    return kAccepted;
+    return window.show();
 }
 
 Answer runRange(const Call& call)

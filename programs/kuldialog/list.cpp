@@ -235,11 +235,12 @@ void List::create()
     for (int i = 0, nOn = -1; i < items.count(); ++i) {
         items.row(i, nText, row);
         if (severalChecked())
-            kulcheckbox_addElement(nChain, kBody, row.text(), items.on(i), 1, nullptr, nullptr);
+            made(kulcheckbox_addElement(nChain, kBody, row.text(), items.on(i), 1, nullptr,
+                                        nullptr));
         else if (oneChosen())
-            kuloptions_addElement(nChain, kBody, row.text(), 1, nullptr, nullptr);
+            made(kuloptions_addElement(nChain, kBody, row.text(), 1, nullptr, nullptr));
         else
-            kuldynmenu_addElement(nChain, kBody, row.text(), nullptr, nullptr, 1);
+            made(kuldynmenu_addElement(nChain, kBody, row.text(), nullptr, nullptr, 1));
         if (oneChosen() && nOn < 0 && items.on(i))
             kuloptions_setClicked(nChain, kBody, nOn = i);
     }
@@ -269,8 +270,8 @@ void List::showHelp()
     row.add(nItem >= 0 ? items.help(nItem) : "");
     for (int i = columns(row.text()); i < screenWidth(); ++i)
         row.add(' ');
-    kullabel_config(kDesktopChain, kHelpBar, colors[kWindowColor], KUL_KEEP, 0, screenHeight() - 1,
-                    screenWidth(), 1, LEFT, NOBORDER, row.text());
+    made(kullabel_config(kDesktopChain, kHelpBar, colors[kWindowColor], KUL_KEEP, 0,
+                         screenHeight() - 1, screenWidth(), 1, LEFT, NOBORDER, row.text()));
     UpdateDisplayComponents(desktop());
 }
 

@@ -168,7 +168,7 @@ int Program::noBox(bool any)
 int Program::finish(Answer answer)
 {
     closeScreen(answer == kAccepted ? stays_ : nullptr, clears_);
-    if (!output.isWhole() || !output.writeTo(descriptor_))
+    if (!isWhole || !output.writeTo(descriptor_))
         answer = kFailed;
     return statusOf(answer);
 }

@@ -12,10 +12,7 @@ Answer runMessage(const Call& call)
     Window window(call, call.argument(0));
     if (!window.open(kButtonsOf[call.variant]))
         return kFailed;
-    if (call.variant != kInformation)
-        return window.run();
-    window.show();
-    return kAccepted;
+    return call.variant == kInformation ? window.show() : window.run();
 }
 
 } // namespace kuldialog

@@ -2,6 +2,7 @@
 //
 // Files and directories to pick: a line with the path, above it the entries of its directory.
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 
@@ -95,8 +96,10 @@ void Picker::fill()
     listed_.clear();
     listed_.add(path_.text(), directorySize());
     dropEntries();
-    count_ =
-        std::max(scandir(listed_.size() ? listed_.text() : ".", &entries_, wanted, inOrder), 0);
+    const int nFound = scandir(listed_.size() ? listed_.text() : ".", &entries_, wanted, inOrder);
+    if (nFound < 0 && errno == ENOMEM)
+        made(-1);
+    count_ = std::max(nFound, 0);
     kuldynmenu_config(window_.nChain, kEntries, colors[kFocus], colors[kWindowColor], KUL_KEEP, 1,
                       window_.nBodyY, window_.nWidth - 4, window_.nBodyHeight - 3, nullptr, nullptr,
                       nullptr, nullptr);
@@ -113,7 +116,7 @@ void Picker::fill()
         if (directory)
             name.add('/');
         entries_[nKept++] = entries_[i];
-        kuldynmenu_addElement(window_.nChain, kEntries, name.text(), nullptr, nullptr, 1);
+        made(kuldynmenu_addElement(window_.nChain, kEntries, name.text(), nullptr, nullptr, 1));
     }
     count_ = nKept;
 }

@@ -93,9 +93,9 @@ Answer runView(const Call& call)
     if (!window.open(name == kWhiptail ? kOk : kExit, screenHeight(), 1, screenWidth()))
         return kFailed;
     kulfileview_create(window.nChain, kBody);
-    kulfileview_config(window.nChain, kBody, colors[kWindowColor], colors[kWindowColor], KUL_KEEP,
-                       1, 1, window.nWidth - 2, window.nBodyHeight, NOBORDER, file.text(), nullptr,
-                       nullptr, nullptr, nullptr);
+    made(kulfileview_config(window.nChain, kBody, colors[kWindowColor], colors[kWindowColor],
+                            KUL_KEEP, 1, 1, window.nWidth - 2, window.nBodyHeight, NOBORDER,
+                            file.text(), nullptr, nullptr, nullptr, nullptr));
     kulfileview_setFollow(window.nChain, kBody, call.variant == kFollowed ? T : F);
     window.onKey = viewKey;
     window.nFocus = kBody;

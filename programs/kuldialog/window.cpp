@@ -140,8 +140,9 @@ void Window::createLineBelow()
         return;
     const int nColumns = std::min(columns(szLine) + 1, nWidth - kFrame);
     kullabel_create(nChain, kLineBelow);
-    kullabel_config(nChain, kLineBelow, colors[kWindowColor], KUL_KEEP, (nWidth - nColumns) / 2,
-                    nHeight - 1, nColumns, 1, LEFT, NOBORDER, szLine);
+    made(kullabel_config(nChain, kLineBelow, colors[kWindowColor], KUL_KEEP,
+                         (nWidth - nColumns) / 2, nHeight - 1, nColumns, 1, LEFT, NOBORDER,
+                         szLine));
 }
 
 // The row is a menu. Without buttons it still takes the keys.
@@ -153,7 +154,7 @@ void Window::createButtons()
     for (int i = 0; i < buttonCount_; ++i) {
         Buffer label;
         label.add('<').add(buttons_[i].label).add('>');
-        kulmenu_addElement(nChain, kButtonRow, label.text(), 1, nullptr, nullptr);
+        made(kulmenu_addElement(nChain, kButtonRow, label.text(), 1, nullptr, nullptr));
     }
     if (KULMENU* row = buttonRow(nChain)) {
         row->nX = std::max((nWidth - buttonColumns()) / 2, 1);
@@ -204,7 +205,8 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     kulgui_create(nChain);
     // Below the next box it is still there, with its title.
     char* kept = copyOf(title.text(), title.size());
-    if (kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
+    if (!kept ||
+        kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
                       kept, BORDER, kul::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
                       kul::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
                       nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
@@ -219,14 +221,20 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     return true;
 }
 
-void Window::show()
+Answer Window::show()
 {
+    if (!isComplete())
+        return kFailed;
     kulgui_show(nChain);
+    const CHAIN* chain = GetChain(nChain);
+    return chain && chain->Pointer->winMain ? kAccepted : kFailed;
 }
 
 Answer Window::run()
 {
     createButtons();
+    if (!isComplete())
+        return kFailed;
     kulgui_setOnKey(nChain, keyPressed);
     const bool otherButton = name != kWhiptail && defaultButton() != 0;
     kulgui_setFocus(nChain, otherButton ? kButtonRow : nFocus);

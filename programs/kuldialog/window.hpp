@@ -50,7 +50,7 @@ public:
     // Runs it until a button is clicked, Escape, or end(). A window without buttons waits for what
     // the box does by itself.
     Answer run();
-    void show(); // without waiting for anything
+    Answer show(); // without waiting for anything
 
     static void removeLast(); // else a box stays below the next one
 
@@ -87,6 +87,7 @@ private:
     };
     static constexpr int kMostButtons = 4;
 
+    bool isComplete() const { return isWhole && area_.isWhole(); }
     void measure();
     void addButtons(Buttons buttons);
     void addButton(Answer answer, const char* szLabel);

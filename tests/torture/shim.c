@@ -11,6 +11,7 @@
  */
 #define _GNU_SOURCE
 #include <dlfcn.h>
+#include <errno.h>
 #include <fcntl.h>
 #include <poll.h>
 #include <stdio.h>
@@ -70,7 +71,10 @@ static int fails(void)
         say();
         counts = 1;
     }
-    return failing && (allocations == failing || (failsOn && allocations > failing));
+    if (!failing || (allocations != failing && !(failsOn && allocations > failing)))
+        return 0;
+    errno = ENOMEM;
+    return 1;
 }
 
 void* malloc(size_t size)

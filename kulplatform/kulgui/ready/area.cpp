@@ -16,7 +16,7 @@ constexpr int kMargins = 4; // frame and a blank at both sides
 void Area::wrap(const char* szText, int nDialogWidth)
 {
     nWidth_ = nDialogWidth;
-    rows_.wrap(szText, nDialogWidth - kMargins);
+    whole_ = rows_.wrap(szText, nDialogWidth - kMargins);
 }
 
 int Area::last() const
@@ -50,8 +50,10 @@ void Area::show(bool toEnd)
         row.add(start + blanks, size - blanks);
         row.add(" ", 1);
         const int nBlanks = static_cast<int>(blanks);
-        kullabel_config(nChain_, nFirstRef_ + i, KUL_KEEP, KUL_KEEP, 2 + nBlanks, nY_ + i,
-                        std::max(nWidth_ - 3 - nBlanks, 1), 1, LEFT, NOBORDER, row.text());
+        const int nResult =
+            kullabel_config(nChain_, nFirstRef_ + i, KUL_KEEP, KUL_KEEP, 2 + nBlanks, nY_ + i,
+                            std::max(nWidth_ - 3 - nBlanks, 1), 1, LEFT, NOBORDER, row.text());
+        whole_ = whole_ && row.isWhole() && nResult == 0;
     }
     kulscrollbar_config(nChain_, nBarRef_, KUL_KEEP, KUL_KEEP, nWidth_ - 1, nY_,
                         last() > 0 && nHeight_ > 1 ? nHeight_ : 0, nFirst_, rows(), VERTICAL);

@@ -23,6 +23,7 @@ public:
 
     // Shows the text anew, after wrap(): its end, or what was in view before.
     void show(bool toEnd);
+    bool isWhole() const { return whole_; } // whether there was memory for all of it
     bool isAtEnd() const { return nFirst_ >= last(); }
 
     // Moves the text; false where the key is none for that or all is in view.
@@ -39,6 +40,7 @@ private:
     int nY_ = 0;
     int nHeight_ = 0;
     int nFirst_ = 0;
+    bool whole_ = true;
 };
 
 } // namespace kulready

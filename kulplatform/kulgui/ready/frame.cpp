@@ -198,7 +198,7 @@ int Frame::run()
     running = outer;
     if (nEnd == KUL_CANCELLED)
         return kCancelled;
-    return nEnd == KUL_LEFT ? nResult_ : kGone;
+    return nEnd == KUL_LEFT ? nResult_ : nEnd == KUL_ERROR ? kUnusable : kGone;
 }
 
 void Frame::end(int nResult)
