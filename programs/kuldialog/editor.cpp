@@ -21,12 +21,13 @@ namespace kuldialog {
 
 namespace {
 
-// One that is longer in the file stays so, but takes no more letters.
+// One that is longer in the file stays so, but takes no more letters. There is room for them in the
+// lines that get keys.
 constexpr int kLongestLine = 2048;
 
 Field lineOf(const char* szText, std::size_t size, const Window& window)
 {
-    return {copyOf(szText, size), "", 0, 0, 0, 0, window.innerWidth(), kLongestLine, false};
+    return {copyOf(szText, size), "", 0, 0, 0, 0, window.innerWidth(), 1, false};
 }
 
 // The rows of lines are their places.
@@ -142,8 +143,10 @@ int Editor::key(int nKey)
         join(lines_.current() - (nKey == KS_BACKSPACE));
         return 0;
     }
-    if (nKey != KS_UP && nKey != KS_DOWN && nKey != KS_PAGEUP && nKey != KS_PAGEDOWN)
+    if (nKey != KS_UP && nKey != KS_DOWN && nKey != KS_PAGEUP && nKey != KS_PAGEDOWN) {
+        setLimit(window_, window_.nFocus, kLongestLine, line->szText);
         return lines_.key(nKey);
+    }
     // The cursor goes straight up and down.
     const int nCursor = letters(line->szText, static_cast<std::size_t>(line->nCursorPos));
     lines_.key(nKey);

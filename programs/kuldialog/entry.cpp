@@ -45,17 +45,22 @@ const char* entered(const Window& window, int nRef)
     return szText ? szText : "";
 }
 
-void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int nMask, int nLimit,
-                const char* szText)
+void setLimit(const Window& window, int nRef, int nLimit, const char* szText)
 {
     if (const int nMost = window.settings.numbers[kMaxInput]; nMost > 0)
         nLimit = std::min(nLimit, nMost);
     const int nHas = static_cast<int>(std::min<std::size_t>(std::strlen(szText), 65534));
+    made(kultextbox_setLimit(window.nChain, nRef, kul::clamp(nLimit, std::max(nHas, 1), 65535)));
+}
+
+void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int nMask, int nLimit,
+                const char* szText)
+{
     kultextbox_create(window.nChain, nRef);
     kultextbox_config(window.nChain, nRef, colors[kFocus], colors[kFieldsColor], KUL_KEEP, nX, nY,
                       std::max(nWidth, 1), 1, NOBORDER, nMask, nullptr, nullptr, nullptr, nullptr);
-    kultextbox_setLimit(window.nChain, nRef, kul::clamp(nLimit, std::max(nHas, 1), 65535));
-    kultextbox_setText(window.nChain, nRef, szText);
+    setLimit(window, nRef, nLimit, szText);
+    made(kultextbox_setText(window.nChain, nRef, szText));
 }
 
 Answer runEntry(const Call& call)

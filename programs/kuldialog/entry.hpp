@@ -12,6 +12,9 @@ namespace kuldialog {
 void createLine(const Window& window, int nRef, int nX, int nY, int nWidth, int nMask, int nLimit,
                 const char* szText);
 
+// Has a line with that text take nLimit characters, or as many as it has.
+void setLimit(const Window& window, int nRef, int nLimit, const char* szText);
+
 // The keys of a window with one line, as Window::onKey.
 int lineKey(Window& window, int nKey);
 
