@@ -268,6 +268,7 @@ TEST(Updates, KnowWhatClearingLeaves)
         kul::updateTerminal(kul::kNowhere, false);
         side.show();
         EXPECT_EQ(side.emulator.cell(3, 40).background == COLOR_BLACK, look == 0);
+        curs_set(1); // curses has kept nothing back
     }
 }
 
