@@ -214,6 +214,11 @@ TEST(Screen, ScrollsAFile)
             EXPECT_LE(terminal.received().size(), step.nMost) << step.nTop;
         }
     }
+    Terminal covered(program("dialogs", {"second", "over", name}));
+    ASSERT_TRUE(covered.waitForText("Over"));
+    ASSERT_NO_FATAL_FAILURE(press(covered, down));
+    ASSERT_NO_FATAL_FAILURE(press(covered, down));
+    EXPECT_TRUE(covered.row(5).starts_with("line 7        ┌────────┐")) << covered.text();
 }
 
 // A paste comes whole, over a fast line and one of 9600 baud; its newline is a blank.

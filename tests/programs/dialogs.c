@@ -9,6 +9,7 @@
  *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  *   second    in edition 2
  *   /...      a file is shown on the whole screen, and nothing else
+ *   over      but a button that lies over it
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
 #include <kulgui.h>
@@ -59,7 +60,7 @@ static int has(char** words, const char* word)
     return *words != NULL;
 }
 
-static int showFile(const char* name)
+static int showFile(const char* name, int over)
 {
     if (NCursesEnv(1) != 0)
         return 1;
@@ -68,6 +69,8 @@ static int showFile(const char* name)
     kulfileview_create(DESKTOP, 1);
     kulfileview_config(DESKTOP, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, kulgui_getColumns(), kulgui_getRows(), NOBORDER,
                        name, NULL, NULL, NULL, NULL);
+    if (over)
+        addButton(DESKTOP, 2, "Over", NULL);
     return kulgui_exec(DESKTOP);
 }
 
@@ -79,7 +82,7 @@ int main(int argc, char** argv)
     if (has(argv, "second"))
         kulgui_setEdition(2);
     if (argc > 1 && argv[argc - 1][0] == '/')
-        return showFile(argv[argc - 1]);
+        return showFile(argv[argc - 1], has(argv, "over"));
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, desktop ? onPoll : NULL,
                        NULL, NULL, NULL);

@@ -189,6 +189,21 @@ bool drawPart(CHAIN* chain, const kul::Block& block)
     return true;
 }
 
+// Whether something that is drawn later lies over the component in focus: it would be scrolled too.
+bool isCovered(const GUI& gui)
+{
+    const UI* ui = GetUIComponentByRef(defCurrent.nChain, defCurrent.nUserInterface);
+    const kul::Area area = kul::uiKind(ui->nType)->area(ui->Pointer);
+    const kul::Clip clip(gui.winMain, {{area.nY, kul::shifted(area.nY, area.nHeight)},
+                                       {area.nX, kul::shifted(area.nX, area.nWidth)}});
+    while ((ui = ui->Next)) {
+        const kul::UIKind* kind = kul::uiKind(ui->nType);
+        if (kind && ui->Pointer && kul::isDrawn(gui.winMain, kind->block(ui->Pointer)))
+            return true;
+    }
+    return false;
+}
+
 // What lies beside a block that was scrolled, and the rows that came into it.
 bool drawScrolled(CHAIN* chain, const kul::Moved& moved)
 {
@@ -214,7 +229,8 @@ void kul::drawFocused(Changed changed)
                          drawn.win == chain->Pointer->winMain && findChanged(changed, block);
     const Moved moved =
         scrollMoved(chain->Pointer->winMain, inParts && drawn.exact == Exact::ByCell &&
-                                                 drawn.nRef == defCurrent.nUserInterface);
+                                                 drawn.nRef == defCurrent.nUserInterface &&
+                                                 !isCovered(*chain->Pointer));
     if (!inParts || !(moved.nRows != 0 ? drawScrolled(chain, moved) : drawPart(chain, block)))
         ShowUIColors();
 }
