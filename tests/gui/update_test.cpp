@@ -152,7 +152,7 @@ private:
                 break;
             wmove(win, y - 1, 0);
             wclrtoeol(win);
-            mvwaddstr(win, y - 1, x / 2, "\u6f22\u5b57 e\u0301 \u30c6");
+            mvwaddstr(win, y - 1, x / 2, "\u6f22\u5b57  \u0301e\u0301 \u30c6");
             mvwaddstr(win, y - 1, x / 2 + 20, "\u30c6a\u6f22");
             break;
         case 9:

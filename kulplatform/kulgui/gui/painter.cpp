@@ -89,7 +89,8 @@ bool Painter::paint()
 // before.
 int Layers::of(const ScreenCell& cell)
 {
-    if (isAsked_ && isSameLook(cell, last_) && (letterOf(cell) == ' ') == (letterOf(last_) == ' '))
+    if (isAsked_ && isSameLook(cell, last_) &&
+        (bareLetterOf(cell) == ' ') == (bareLetterOf(last_) == ' '))
         return nLast_;
     Style style;
     if (!lookOf(cell, style))
