@@ -243,7 +243,7 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
         SCOPED_TRACE(term);
         Terminal terminal(
             script("set -m; modes=$(stty -g); echo before; read go; \"$@\"; "
-                   "for i in 1 2; do stty $modes; echo stopped $i; read go </dev/tty; fg >/dev/null; done; "
+                   "for i in 1 2 3; do stty $modes; echo stopped $i; read go </dev/tty; fg >/dev/null; done; "
                    "echo ended with $?",
                    "ways count", term));
         ASSERT_TRUE(terminal.waitForText("before"));
@@ -271,8 +271,14 @@ TEST(Stopping, GivesTheShellItsTerminalAndComesBack)
             terminal.press("\r");
             EXPECT_TRUE(terminal.waitForText("count " + std::to_string(round)));
         }
-        ::kill(-foreground(terminal), SIGTERM);
+        // Ended while it is stopped it leaves the shell's screen alone.
+        const pid_t program = foreground(terminal);
+        ::kill(-program, SIGTSTP);
+        ASSERT_TRUE(terminal.waitForText("stopped 3"));
+        ::kill(-program, SIGTERM);
+        terminal.press("\r");
         EXPECT_TRUE(terminal.waitForText("ended with 143"));
+        EXPECT_NE(terminal.text().find("stopped 3"), std::string::npos);
         EXPECT_TRUE(Line(terminal).hasModesOf(before));
     }
 }

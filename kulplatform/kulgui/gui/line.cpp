@@ -179,7 +179,8 @@ void prepareBytes()
     // Without a second screen to leave, what was drawn is cleared away.
     if (!ownScreen)
         captureString(tiparm(tigetstr("cup"), LINES - 1, 0));
-    captureAll(entering, {"smcup", "sgr0", "enacs", "civis"});
+    // Some terminals keep with the other screen's cursor whether it is seen.
+    captureAll(entering, {ownScreen ? "cnorm" : "", "smcup", "sgr0", "enacs", "civis"});
     captureString(szAllRows);
 }
 

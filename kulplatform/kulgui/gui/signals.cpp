@@ -86,10 +86,10 @@ bool isHandledBy(int nSignal, Action handler)
 }
 
 // In the background the terminal belongs to somebody else; setting its modes would stop the
-// process.
+// process. Where it was given back already the shell has used it since.
 void giveBack()
 {
-    const pid_t nGroup = isOwner() ? tcgetpgrp(STDOUT_FILENO) : 0;
+    const pid_t nGroup = isOwner() && !nAway ? tcgetpgrp(STDOUT_FILENO) : 0;
     if (nGroup == -1 || nGroup == getpgrp())
         leaveLine();
 }
@@ -140,6 +140,9 @@ void onEnding(int nSignal)
 void onStop(int nSignal)
 {
     const int nError = errno;
+    sigset_t waiting;
+    if (sigpending(&waiting) == 0 && sigismember(&waiting, SIGCONT) == 1)
+        return; // overtaken
     giveBackFor(nSignal);
     setHandler(nSignal, onStop);
     letCome(SIGCONT);
@@ -178,6 +181,7 @@ void takeSignals()
 {
     owner = getpid();
     nResumed = 0;
+    nAway = 0;
     if (spareStack == MAP_FAILED)
         spareStack =
             mmap(nullptr, kSpareStack, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
