@@ -214,7 +214,7 @@ TEST(Screen, ScrollsAFile)
             EXPECT_LE(terminal.received().size(), step.nMost) << step.nTop;
         }
     }
-    Terminal covered(program("dialogs", {"second", "over", name}));
+    Terminal covered(program("dialogs", {"second", "over", file.path()}));
     ASSERT_TRUE(covered.waitForText("Over"));
     ASSERT_NO_FATAL_FAILURE(press(covered, down));
     ASSERT_NO_FATAL_FAILURE(press(covered, down));
