@@ -171,9 +171,14 @@ Cell Emulator::cell(int row, int column) const
         !vterm_screen_get_cell(screen_, {row, column}, &seen))
         return {};
     Cell result;
-    if (seen.chars[0] == UINT32_MAX)
+    // The second cell of a wide letter looks as the first; what is kept of it is what was there
+    // before.
+    if (seen.chars[0] == UINT32_MAX) {
+        result = cell(row, column - 1);
         result.glyph.clear();
-    else if (seen.chars[0]) {
+        return result;
+    }
+    if (seen.chars[0]) {
         result.glyph.clear();
         for (int i = 0; i < VTERM_MAX_CHARS_PER_CELL && seen.chars[i]; ++i)
             result.glyph += utf8(seen.chars[i]);
