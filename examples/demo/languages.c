@@ -54,7 +54,7 @@ void languagesPage(void)
     const int nFrame = bRoomy ? 2 : 0;
     const int nNameY = COUNT + (bRoomy ? 5 : 1);
     kuloptions_create(PAGE, LANGUAGES);
-    kuloptions_config(PAGE, LANGUAGES, HERE, THERE, OFF, 2, 1 + nFrame / 2, 14 + nFrame,
+    kuloptions_config(PAGE, LANGUAGES, HERE, PAGE_COLOR, OFF, 2, 1 + nFrame / 2, 14 + nFrame,
                       COUNT + nFrame, bRoomy ? BORDER : NOBORDER, nLanguage, nLanguage, NULL, NULL,
                       NULL, speak);
     for (int n = 0; n < COUNT; ++n)

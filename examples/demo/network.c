@@ -52,7 +52,7 @@ void networkPage(void)
     if (!page)
         return;
     kulcheckbox_create(PAGE, INTERFACES);
-    kulcheckbox_config(PAGE, INTERFACES, HERE, THERE, OFF, 2, 2, page->nWidth - 4,
+    kulcheckbox_config(PAGE, INTERFACES, HERE, PAGE_COLOR, OFF, 2, 2, page->nWidth - 4,
                        page->nHeight - 6, NOBORDER, NULL, NULL, NULL, countChecked);
     nInterfaces = 0;
     DIR* directory = opendir("/sys/class/net");

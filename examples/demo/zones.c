@@ -60,7 +60,7 @@ void zonesPage(void)
         return;
     readZones();
     kuloptions_create(PAGE, ZONES);
-    kuloptions_config(PAGE, ZONES, HERE, THERE, OFF, 2, 2, page->nWidth - 4, page->nHeight - 6,
+    kuloptions_config(PAGE, ZONES, HERE, PAGE_COLOR, OFF, 2, 2, page->nWidth - 4, page->nHeight - 6,
                       NOBORDER, nChosen, nChosen, NULL, NULL, NULL, showTime);
     for (int n = 0; n < nZones; ++n)
         kuloptions_addElement(PAGE, ZONES, names[n], 1, NULL, NULL);
