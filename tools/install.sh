@@ -42,6 +42,12 @@ install)
     cmake --install "$build" --strip >/dev/null
     mkdir -p "$(dirname "$list")"
     cp "$build/installed" "$list"
-    echo "$(grep -vc '/$' "$list") files are installed below $root$prefix; \"${DESTDIR:+DESTDIR=$DESTDIR }./dev uninstall $prefix\" takes them away."
+    echo "$(grep -vc '/$' "$list") files are installed below $root$prefix."
+    echo "To take them away: ${DESTDIR:+DESTDIR=$DESTDIR }./dev uninstall $prefix"
+    packages=$(dirname "$(grep '/kulgui\.pc$' "$list")")
+    case $prefix in
+    /usr | /usr/local) echo "Programs find the library after: ldconfig" ;;
+    *) echo "Programs find it with: PKG_CONFIG_PATH=$packages LD_LIBRARY_PATH=${packages%/pkgconfig}" ;;
+    esac
     ;;
 esac

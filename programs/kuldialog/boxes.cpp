@@ -45,16 +45,19 @@ constexpr Shape kShapes[] = {
 
 // What they are called: before the size, a text up to kText, and behind it, nothing from there on.
 constexpr char kBefore[] = "<text>\0<file>\0[<text>]\0[<text>] <command>";
-constexpr char kBehind[] = "[<init>]\0<rows> <tag item>...\0<rows> <tag item on|off>...\0"
-                           "<rows> <tag item on|off depth>...\0<rows> <field>...\0"
-                           "<rows> <field type>...\0<percent>\0[<percent>]\0<seconds>\0"
-                           "<percent> <tag state>...\0<least> <most> <value>\0";
+constexpr char kBehind[] =
+    "[<init>]\0<rows> <tag item>...\0<rows> <tag item on|off>...\0"
+    "<rows> <tag item on|off depth>...\0<rows> <label y x item y x length limit>...\0"
+    "<rows> <label y x item y x length limit type>...\0<percent>\0[<percent>]\0<seconds>\0"
+    "<percent> <tag state>...\0<least> <most> <value>\0";
 
 void addUsage(Buffer& text, const Box& box)
 {
     const int nShape = box.shape;
     text.add("--").add(box.name).add(' ').add(textAt(kBefore, nShape - kText));
-    text.add(" <height> <width> ").add(textAt(kBehind, std::min<int>(nShape, kText)));
+    text.add(" <height> <width>");
+    if (nShape < kText)
+        text.add(' ').add(textAt(kBehind, nShape));
 }
 
 constexpr unsigned char kOthers = kDialog | kOwn;

@@ -486,7 +486,8 @@ void printHelp()
     Option each;
     anyOption(each, [&](const Option& option) {
         const bool valued = option.take >= Take::Text && option.take <= Take::File;
-        text.add("  --").add(option.name).add(valued ? " <x>\n" : "\n");
+        text.add("  --").add(option.name);
+        text.add(option.take == Take::Place ? " <y> <x>\n" : valued ? " <x>\n" : "\n");
         return false;
     });
     text.writeTo(STDOUT_FILENO);
