@@ -192,12 +192,10 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     cancels_ = buttons == kOkCancel;
     measure();
     const bool cornered = settings.is(kTopLeft);
-    const int nMiddleX = (screenWidth() - nWidth) / 2;
-    const int nMiddleY = (screenHeight() - nHeight) / 2;
     const int nAskedX = settings.numbers[kBeginX];
     const int nAskedY = settings.numbers[kBeginY];
-    const int nX = cornered ? 0 : nAskedX != kNone ? nAskedX : nMiddleX;
-    const int nY = cornered ? 0 : nAskedY != kNone ? nAskedY : nMiddleY;
+    const int nX = cornered ? 0 : nAskedX != kNone ? nAskedX : KUL_CENTER;
+    const int nY = cornered ? 0 : nAskedY != kNone ? nAskedY : KUL_CENTER;
     Buffer title;
     if (const char* szTitle = settings.texts[kTitle]) {
         title.add(' ').add(szTitle, bytesWithin(szTitle, nWidth - kMargins)).add(' ');
@@ -205,11 +203,9 @@ bool Window::open(Buttons buttons, int nRows, int nLeastRows, int nColumns)
     kulgui_create(nChain);
     // Below the next box it is still there, with its title.
     char* kept = copyOf(title.text(), title.size());
-    if (!kept ||
-        kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor], KUL_KEEP,
-                      kept, BORDER, kul::clamp(nX, 0, std::max(screenWidth() - nWidth, 0)),
-                      kul::clamp(nY, 0, std::max(screenHeight() - nHeight, 0)), nWidth, nHeight,
-                      nullptr, nullptr, nullptr, nullptr, nullptr) != 0) {
+    if (!kept || kulgui_config(nChain, colors[kWindowColor], colors[kFocus], colors[kWindowColor],
+                               KUL_KEEP, kept, BORDER, nX, nY, nWidth, nHeight, nullptr, nullptr,
+                               nullptr, nullptr, nullptr) != 0) {
         std::free(kept);
         return false;
     }
