@@ -64,16 +64,16 @@ constexpr unsigned char kOthers = kDialog | kOwn;
 constexpr unsigned char kAll = kWhiptail | kOthers;
 
 enum Kind : unsigned char {
-    kMessages,
     kEntries,
     kLists,
     kForms,
     kEditors,
+    kPicks,
+    kRanges,
+    kMessages, // the first of those without an answer in words
     kGauges,
     kViews,
-    kCommands,
-    kPicks,
-    kRanges
+    kCommands
 };
 
 constexpr Box kBoxes[] = {
@@ -164,6 +164,11 @@ Answer Box::run(const Call& call) const
     }
 }
 
+bool Box::answers() const
+{
+    return kind < kMessages;
+}
+
 int itemSize(const Settings& settings, int nVariant)
 {
     constexpr int kTagAndItem = 2;
@@ -188,6 +193,11 @@ bool checkArguments(const Box& box, const Call& call)
 {
     const Shape& shape = kShapes[box.shape];
     const bool tooMany = shape.most > 0 && call.count > shape.most && name != kWhiptail;
+    const bool severalAnswers =
+        box.kind == kLists &&
+        (box.variant == kCheckedList || box.variant == kBuiltList || box.variant == kTree);
+    if (name == kDialog && call.settings.is(kSeparateOutput) && !severalAnswers)
+        return wrong("not with --separate-output", box);
     if (call.count < shape.least || tooMany)
         return wrong("too few or too many", box);
     const int nFirst = shape.firstNumber < 0 ? call.count + shape.firstNumber : shape.firstNumber;

@@ -17,6 +17,7 @@ struct Box {
     unsigned char variant;
 
     Answer run(const Call& call) const;
+    bool answers() const; // in words, not by its status alone
 };
 
 // Variants of one kind each.

@@ -133,6 +133,7 @@ Answer Program::runBox()
     printFacts(call.settings);
     showDesktop(call.settings);
     const Answer answer = line_.box()->run(call);
+    begun = begun || line_.box()->answers();
     if (answer == kAccepted && call.settings.is(kLastKey)) {
         if (output.size() > 0)
             output.add(' ');

@@ -51,10 +51,8 @@ void addAsNeeded(const Settings& settings, const char* szText)
 
 void beginAnswer(const Settings& settings)
 {
-    static bool begun = false;
     if (begun && !settings.is(kSeparateOutput))
         output.add(settings.text(kSeparateWidget, "\t"));
-    begun = true;
 }
 
 void addAnswer(const Settings& settings, const char* szText)

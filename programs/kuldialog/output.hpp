@@ -12,6 +12,8 @@ namespace kuldialog {
 
 extern Buffer& output; // to the end of the program
 
+inline bool begun = false; // whether there was a box with an answer before, if it was cancelled
+
 // Parts the answer of a box from that of the box before.
 void beginAnswer(const Settings& settings);
 

@@ -170,7 +170,7 @@ const std::vector<Row> kRows = {
     {kOwn, "$D --stdout --inputbox x 8 40 i >&-", "enter", 255, ""},
     {kAll, "echo foo | $D --inputbox x 8 40 i", "enter", 0, "i"},
     // Several boxes.
-    {kOthers, "$D --inputbox x 8 40 i --and-widget --inputbox y 8 40 q", "enter enter", 0, "i\tq"},
+    {kOthers, "$D --inputbox x 8 40 i --and-widget --inputbox y 8 40 q", "tab tab enter enter", 0, "\tq"},
     {kOthers, "$D --inputbox x 8 40 i --yesno y 8 40 --inputbox z 8 40 q", "enter tab enter", 1, "i"},
     {kOthers, "$D --inputbox x 8 40 i --and-widget --yesno y 8 40 --and-widget --inputbox z 8 40 q",
      "enter tab enter enter", 0, "i\tq"},
@@ -192,6 +192,7 @@ const std::vector<Row> kRows = {
     // What is wrong.
     {kWhiptail, "$D --nosuch --msgbox x 8 40", "", 1, "?"},
     {kOthers, "$D --nosuch --msgbox x 8 40", "", 255, "?"},
+    {kDialog, "$D --separate-output --inputbox x 8 40", "", 255, "?"},
     {kWhiptail, "$D --title", "", 1, "?"},
     {kOwn, "$D --title", "", 255, "?"},
     {kDialog, "$D --title", "", 0, ""},
