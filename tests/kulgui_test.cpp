@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
-#include <utility>
 
 namespace {
 
@@ -91,9 +90,7 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
         {"moves the focus", [] { EXPECT_EQ(kulgui_setFocus(1, 2), 0); }, KUL_LEFT, "+1 -1 +2 -2 "},
         {"cannot move it to nothing", [] { EXPECT_EQ(kulgui_setFocus(1, 9), -1); },
          KUL_LEFT, "+1 -1 "},
-        {"destroys the dialog", [] { kulgui_destroy(1); }, -10000, "+1 "},
         {"destroys everything", [] { kulgui_destroy(0); kulgui_create(0); }, -10000, "+1 "},
-        {"configures the dialog anew", [] { configure(1); }, -10000, "+1 "},
         {"leaves, and runs the dialog again before it is left",
          [] {
              kulgui_leave(1);
@@ -109,8 +106,6 @@ TEST_F(DialogTest, CallbacksSteerTheLoop)
          [] { kulexitbutton_config(1, 1, 0, 0, 0, 0, 0, 0, 0, 0, "", nullptr, nullptr, nullptr,
                                    nullptr); },
          KUL_LEFT, "+1 "},
-        {"hides the dialog", [] { kulgui_hide(1); }, KUL_LEFT, "+1 -1 "},
-        {"hides the button", [] { kulbutton_hide(1, 1); }, KUL_LEFT, "+1 -1 "},
         {"draws the dialog as it is", [] { ShowUIColors(); }, KUL_LEFT, "+1 -1 "},
         {"opens another one on top",
          [] {

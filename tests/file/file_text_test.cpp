@@ -3,11 +3,9 @@
 
 #include <fcntl.h>
 #include <memory>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "file/byte_search.hpp"
 #include "file/file_rows.hpp"
 #include "support/temporary_file.hpp"
 #include "support/window_test.hpp"
@@ -127,28 +125,6 @@ TEST(FileTextTest, CutsOnlyLinesThatAreTooLong)
             const std::string line(static_cast<std::size_t>(kEdge) + tooLong, 'x');
             const TemporaryFile file("first\n" + line + szEnd);
             EXPECT_EQ(open(file)->pieceStart(kEdge + 1), tooLong ? kEdge : 6) << szEnd;
-        }
-    }
-}
-
-// Of few different letters and many, in pieces, so that a search meets what its sample did not show.
-TEST(ByteSearchTest, FindsTheFirstPlaceInAnyText)
-{
-    std::mt19937 random(1);
-    for (const unsigned nLetters : {1U, 2U, 3U, 200U}) {
-        std::string text(200000, '\0');
-        for (std::size_t i = 0; i < text.size(); ++i)
-            text[i] = static_cast<char>(i % 5000 < 2500 || random() % 50 == 0 ? random() % nLetters : 0);
-        for (std::size_t nSize = 1; nSize <= 40; ++nSize) {
-            std::string wanted = text.substr(random() % 199000, nSize);
-            wanted[random() % nSize] = static_cast<char>(random() % (nLetters + 1));
-            kul::ByteSearch search(wanted, text.substr(0, 4000));
-            for (std::size_t start = 0; start < text.size();) {
-                const std::string piece = text.substr(start, 1 + random() % 60000);
-                const char* found = search.find(piece.data(), piece.data() + piece.size());
-                ASSERT_EQ(found ? found - piece.data() : -1, static_cast<std::ptrdiff_t>(piece.find(wanted)));
-                start += piece.size();
-            }
         }
     }
 }

@@ -49,15 +49,4 @@ TEST(Columns, KnowLettersMarksAndWhatCannotBeShown)
     std::setlocale(LC_CTYPE, "C");
 }
 
-TEST(Columns, CutTexts)
-{
-    ASSERT_NE(std::setlocale(LC_CTYPE, "C.UTF-8"), nullptr);
-    const std::string_view text = "o\u0308中\u200bx";
-    const std::size_t bytes[] = {0, 3, 3, 9, 10, 10};
-    for (int nColumns = 0; nColumns < 6; ++nColumns)
-        EXPECT_EQ(kul::fitting(text, nColumns).size(), bytes[nColumns]) << nColumns;
-    EXPECT_EQ(kul::fitting(text, -1), "");
-    std::setlocale(LC_CTYPE, "C");
-}
-
 } // namespace

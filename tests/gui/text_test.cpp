@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "gui/text.hpp"
 
-#include <algorithm>
 #include <climits>
-#include <cstdlib>
 #include <cstring>
 
 #include "support/window_test.hpp"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
 // Texts that are no ASCII: how they wrap, and what each kind makes of them in edition 2.
-#include <climits>
 #include <clocale>
 #include <cstdlib>
 

@@ -6,7 +6,6 @@
 // whose size changes.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>

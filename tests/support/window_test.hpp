@@ -9,7 +9,6 @@
 
 #include <climits>
 #include <clocale>
-#include <initializer_list>
 #include <string>
 #include <type_traits>
 #include <vector>
