@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -234,6 +235,31 @@ TEST_F(DialogTest, PollsWhatIsShownOnceASecond)
     EXPECT_EQ(Poll(1), 0);
     advanceClock(1);
     EXPECT_EQ(Poll(1), 1) << "a clock that was set back does not stop the polling";
+}
+
+// Of dialogs that lie over each other.
+TEST_F(DialogTest, PollsThatChangeNothingWriteNothing)
+{
+    for (int nChain : {2, 3}) {
+        makeDialog(nChain);
+        kulgui_place(nChain, 4 * nChain, 2 * nChain, KUL_KEEP, KUL_KEEP);
+    }
+    kullabel_create(2, 1);
+    kullabel_config(2, 1, KUL_KEEP, KUL_KEEP, 35, 1, 2, 1, LEFT, NOBORDER, "");
+    for (int nChain : {0, 2, 3})
+        kulgui_show(nChain);
+    addButton(1);
+    static int nPolls, nBefore;
+    nPolls = 0;
+    GetChain(3)->Pointer->onPoll = [] {};
+    GetChain(2)->Pointer->onPoll = [] {
+        say(std::to_string(updates() - std::exchange(nBefore, updates())));
+        if (++nPolls == 1)
+            events.clear();
+        if (nPolls == 3)
+            kullabel_setText(2, 1, "ab");
+    };
+    EXPECT_EQ(run({kPoll, kSecond, kPoll, kSecond, kPoll, kSecond, kPoll, kSecond, kPoll}, KUL_LEFT), "0 0 1 -1 ");
 }
 
 TEST_F(DialogTest, PollsOnceInAPassThatRunsADialogItself)

@@ -105,28 +105,6 @@ TEST(Screen, ShowsTheCursorWhereTheUserIs)
     }
 }
 
-TEST(Screen, WritesNothingForPollsThatChangeNothing)
-{
-    using Words = std::vector<std::string>;
-    for (const Words& around : {Words{"poll"}, Words{"poll", "desktop"}, Words{"poll", "desktop", "behind"},
-                                Words{"poll", "behind", "third"}}) {
-        SCOPED_TRACE(around.back());
-        Terminal terminal(program("polling", around));
-        ASSERT_TRUE(terminal.waitForText("Three") && terminal.settle());
-        terminal.mark();
-        // The first bytes that come are those of the pass that changes something.
-        ASSERT_TRUE(terminal.pump(kDeadline) && terminal.settle());
-        EXPECT_NE(terminal.text().find("polled"), std::string::npos);
-        EXPECT_EQ(terminal.paintedMost(), 1);
-        int elsewhere = 0;
-        for (int y = 0; y < terminal.rows(); ++y) {
-            for (int x = 0; x < terminal.columns(); ++x)
-                elsewhere += y == 10 && x > 36 && x < 46 ? 0 : terminal.painted(y, x);
-        }
-        EXPECT_EQ(elsewhere, 0) << terminal.text();
-    }
-}
-
 TEST(Screen, KeepsTheOrderOfDialogsWhoeverIsDrawn)
 {
     Terminal terminal(program("dialogs", {"desktop", "behind"}));

@@ -6,7 +6,6 @@
  *   third     and a third one, which overlaps the second
  *   list      the dialog holds a check box list of ten in place of the buttons
  *   text      the dialog holds a text box in place of the buttons
- *   poll      all that is shown has an onPoll; after ten that change nothing it writes "polled"
  *   second    in edition 2
  *   /...      a file is shown on the whole screen, and nothing else
  *   over      but a button that lies over it
@@ -37,20 +36,11 @@ static void drawn(void)
     addButton(MAIN, 3, "drawn", NULL);
 }
 
-static void nothing(void) {}
-
-static void count(void)
-{
-    static int polls;
-    if (++polls == 10)
-        addButton(MAIN, 3, "polled", NULL);
-}
-
-static void addDialog(int ref, int color, const char* title, int x, int y, int width, int height, KULCALLBACK onPoll)
+static void addDialog(int ref, int color, const char* title, int x, int y, int width, int height)
 {
     kulgui_create(ref);
-    kulgui_config(ref, color, KUL_KEEP, KUL_KEEP, KUL_KEEP, title, BORDER, x, y, width, height, NULL, onPoll, NULL,
-                  NULL, NULL);
+    kulgui_config(ref, color, KUL_KEEP, KUL_KEEP, KUL_KEEP, title, BORDER, x, y, width, height, NULL, NULL, NULL, NULL,
+                  NULL);
 }
 
 static int has(char** words, const char* word)
@@ -76,7 +66,6 @@ static int showFile(const char* name, int over)
 
 int main(int argc, char** argv)
 {
-    const KULCALLBACK onPoll = has(argv, "poll") ? nothing : NULL;
     desktop = has(argv, "desktop");
     behind = has(argv, "behind");
     if (has(argv, "second"))
@@ -84,11 +73,10 @@ int main(int argc, char** argv)
     if (argc > 1 && argv[argc - 1][0] == '/')
         return showFile(argv[argc - 1], has(argv, "over"));
     kulgui_create(DESKTOP);
-    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, desktop ? onPoll : NULL,
-                       NULL, NULL, NULL);
-    addDialog(BEHIND, BLACK_GREEN, "Behind", 2, 3, 16, 10, onPoll);
-    addDialog(THIRD, BLACK_RED, "Third", 4, 6, 12, 8, onPoll);
-    addDialog(MAIN, BLACK_WHITE, "Main", 10, 4, 40, 14, onPoll ? count : NULL);
+    kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, NULL, NULL, NULL, NULL);
+    addDialog(BEHIND, BLACK_GREEN, "Behind", 2, 3, 16, 10);
+    addDialog(THIRD, BLACK_RED, "Third", 4, 6, 12, 8);
+    addDialog(MAIN, BLACK_WHITE, "Main", 10, 4, 40, 14);
     addButton(BEHIND, 1, "Lost", NULL);
     if (has(argv, "list")) {
         kulcheckbox_create(MAIN, 1);

@@ -22,6 +22,7 @@ std::vector<KULCALLBACK> scriptActions;
 const void* watched = nullptr;
 std::size_t watchedBytes = 0;
 std::time_t clockNow = 1000000;
+int nWritten = 0;
 int nUpdates = INT_MIN; // since a key was given; far below while none was
 
 bool allocationFails()
@@ -134,14 +135,14 @@ std::time_t __wrap_time(std::time_t* result)
 
 int __wrap_doupdate()
 {
-    ++nUpdates;
+    ++nUpdates, ++nWritten;
     return __real_doupdate();
 }
 
 // The library's own updates.
 ssize_t __wrap_write(int file, const void* bytes, std::size_t size)
 {
-    ++nUpdates;
+    ++nUpdates, ++nWritten;
     return __real_write(file, bytes, size);
 }
 
@@ -212,6 +213,11 @@ void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& acti
     nUpdates = INT_MIN;
     script.assign(keys.begin(), keys.end());
     scriptActions = actions;
+}
+
+int updates()
+{
+    return nWritten;
 }
 
 void advanceClock(int seconds)

@@ -60,6 +60,9 @@ Rows colors(WINDOW* win, int y, int x, int height, int width, const std::vector<
 // Each key may cost one update of the terminal; more is a failure.
 void typeKeys(const std::vector<int>& keys, const std::vector<KULCALLBACK>& actions = {});
 
+// How often the library has written to the terminal; what counts is the difference.
+int updates();
+
 // Moves the clock that the library reads.
 void advanceClock(int seconds);
 
