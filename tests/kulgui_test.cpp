@@ -179,8 +179,6 @@ TEST_F(DialogTest, WithoutAFocusThatCanWait)
     EXPECT_EQ(run({kPoll, 'x', kPoll}, KUL_LEFT), "") << "waits, and can be left";
     GetChain(1)->Pointer->nCurrentUI = 77;
     EXPECT_EQ(run({}, -10000), "");
-    EXPECT_EQ(kulbutton_execKeys(1, 77), 10);
-    EXPECT_EQ(kulgui_exec(9), -1);
 }
 
 // Its loop goes on with the keys that no component took, and takes none once it is to end.

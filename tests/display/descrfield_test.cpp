@@ -5,12 +5,11 @@
 
 namespace {
 
-class DescrfieldTest : public kultest::CanvasTest {
+class DescrfieldTest : public kultest::Canvas<30, 10> {
 protected:
-    DescrfieldTest() : CanvasTest(30, 10) {}
     void SetUp() override
     {
-        CanvasTest::SetUp();
+        Canvas::SetUp();
         ASSERT_EQ(kuldescrfield_create(1, 1), 0);
         ASSERT_EQ(config(12, 4), 0);
     }

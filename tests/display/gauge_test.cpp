@@ -10,10 +10,8 @@ constexpr int kScroll = 1;
 constexpr int kProgress = 2;
 
 // Gauges start at column 2 of row 2: what is read is one cell more at their front.
-class GaugeTest : public kultest::CanvasTest {
+class GaugeTest : public kultest::Canvas<16, 14> {
 protected:
-    GaugeTest() : CanvasTest(16, 14) {}
-
     std::string line(int nOrient, bool colors)
     {
         std::string cells;

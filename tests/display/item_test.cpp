@@ -48,10 +48,8 @@ const Kind kKinds[] = {
 };
 // clang-format on
 
-class ItemTest : public CanvasTest {
+class ItemTest : public Canvas<12, 6> {
 protected:
-    ItemTest() : CanvasTest(12, 6) {}
-
     // One of each kind, its number one more than the kind's.
     static void makeAll()
     {

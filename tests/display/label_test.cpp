@@ -5,12 +5,11 @@
 
 namespace {
 
-class LabelTest : public kultest::CanvasTest {
+class LabelTest : public kultest::Canvas<20, 8> {
 protected:
-    LabelTest() : CanvasTest(20, 8) {}
     void SetUp() override
     {
-        CanvasTest::SetUp();
+        Canvas::SetUp();
         ASSERT_EQ(kullabel_create(1, 1), 0);
     }
 

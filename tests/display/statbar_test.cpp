@@ -5,12 +5,11 @@
 
 namespace {
 
-class StatbarTest : public kultest::CanvasTest {
+class StatbarTest : public kultest::Canvas<30, 5> {
 protected:
-    StatbarTest() : CanvasTest(30, 5) {}
     void SetUp() override
     {
-        CanvasTest::SetUp();
+        Canvas::SetUp();
         ASSERT_EQ(kulstatbar_create(1, 1), 0);
         ASSERT_EQ(kulstatbar_config(1, 1, KUL_KEEP, nullptr), 0);
     }

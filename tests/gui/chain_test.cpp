@@ -121,18 +121,12 @@ TEST_F(ChainTest, ComponentsTakeTheFocusAndTheirNumberOnce)
     const GUI& gui = *GetPrimaryChain()->Pointer;
     EXPECT_EQ(kulbutton_create(0, 5) + kulbutton_create(0, 6), 0);
     EXPECT_EQ(gui.nCurrentUI, 5);
-    EXPECT_EQ(kulbutton_create(0, 6), -10022);
     EXPECT_EQ(CreateDIComponent(0, 99, 6), 0) << "taken by a component: nothing is made";
     EXPECT_EQ(gui.Display, nullptr);
     EXPECT_EQ(CreateUIComponent(0, 42, 7), -1) << "no such kind";
     EXPECT_EQ(ComponentTypeByRef(0, 6), 6);
     EXPECT_EQ(ComponentTypeByRef(0, 8), 0);
     EXPECT_EQ(GetLastUIByGUI(&gui)->Prev, GetUIComponentByRef(0, 6));
-    for (const UI_TYPE type : {CHECKBOX, OPTIONS, TEXTBOX, MENU}) {
-        EXPECT_EQ(CreateUIComponent(0, type, 20 + type), 0);
-        const UI* ui = GetUIComponentByRef(0, 20 + type);
-        EXPECT_EQ(*static_cast<int*>(ui->Pointer), type == MENU ? 0 : gui.nColorFocus) << "has its defaults";
-    }
 }
 
 } // namespace

@@ -8,10 +8,7 @@
 
 namespace {
 
-class DrawTest : public kultest::CanvasTest {
-protected:
-    DrawTest() : CanvasTest(6, 4) {}
-};
+using DrawTest = kultest::Canvas<6, 4>;
 
 const char* const kNothing = "......|......|......|......|";
 const char* const kAll = "      |      |      |      |";

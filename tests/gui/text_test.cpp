@@ -51,10 +51,7 @@ TEST(RowWalk, LooksAtEachCharacterOnce)
     EXPECT_EQ(GetWrapTextHeight(5'000'000, word.c_str()), 5'000'002);
 }
 
-class TextTest : public kultest::CanvasTest {
-protected:
-    TextTest() : CanvasTest(12, 6) {}
-};
+using TextTest = kultest::Canvas<12, 6>;
 
 TEST_F(TextTest, DrawsRowsFromAPlaceAndNothingElse)
 {

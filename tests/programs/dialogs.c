@@ -3,7 +3,6 @@
  * A dialog of 40 by 14 with three buttons, and what may be around it. Words on the command line:
  *   desktop   the primary dialog is shown below
  *   behind    a second dialog is shown, which it overlaps
- *   third     and a third one, which overlaps the second
  *   list      the dialog holds a check box list of ten in place of the buttons
  *   text      the dialog holds a text box in place of the buttons
  *   second    in edition 2
@@ -15,7 +14,7 @@
 
 #include <string.h>
 
-enum { DESKTOP, MAIN, BEHIND, THIRD };
+enum { DESKTOP, MAIN, BEHIND };
 
 static int desktop;
 static int behind;
@@ -75,7 +74,6 @@ int main(int argc, char** argv)
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, BLACK_CYAN, KUL_KEEP, KUL_KEEP, KUL_KEEP, "Desktop", NULL, NULL, NULL, NULL, NULL);
     addDialog(BEHIND, BLACK_GREEN, "Behind", 2, 3, 16, 10);
-    addDialog(THIRD, BLACK_RED, "Third", 4, 6, 12, 8);
     addDialog(MAIN, BLACK_WHITE, "Main", 10, 4, 40, 14);
     addButton(BEHIND, 1, "Lost", NULL);
     if (has(argv, "list")) {
@@ -98,8 +96,6 @@ int main(int argc, char** argv)
         kulgui_show(DESKTOP);
     if (behind)
         kulgui_show(BEHIND);
-    if (has(argv, "third"))
-        kulgui_show(THIRD);
     kulgui_exec(MAIN);
     return 0;
 }

@@ -120,6 +120,13 @@ private:
     int nHeight_;
 };
 
+// One of this size.
+template <int nWidth, int nHeight>
+class Canvas : public CanvasTest {
+protected:
+    Canvas() : CanvasTest(nWidth, nHeight) {}
+};
+
 // The component that a ComponentTest is about, in dialog 1.
 constexpr int kRef = 5;
 

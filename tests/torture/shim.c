@@ -28,9 +28,17 @@ static int arrived; /* a key, or the end */
 
 static void find(void* function, const char* name)
 {
-    void* found = dlsym(RTLD_NEXT, name);
+    void* found;
+    memcpy(&found, function, sizeof found);
+    if (!found)
+        found = dlsym(RTLD_NEXT, name);
     memcpy(function, &found, sizeof found);
 }
+
+/* The function itself. */
+#define REAL(name)                                                                                                     \
+    static __typeof__(&name) real;                                                                                     \
+    find(&real, #name)
 
 /* What curses and the C library do as they begin. */
 static int opens(const char* function)
@@ -79,25 +87,19 @@ static int fails(void)
 
 void* malloc(size_t size)
 {
-    static void* (*real)(size_t);
-    if (!real)
-        find(&real, "malloc");
+    REAL(malloc);
     return fails() ? NULL : real(size);
 }
 
 void* calloc(size_t count, size_t size)
 {
-    static void* (*real)(size_t, size_t);
-    if (!real)
-        find(&real, "calloc");
+    REAL(calloc);
     return fails() ? NULL : real(count, size);
 }
 
 void* realloc(void* memory, size_t size)
 {
-    static void* (*real)(void*, size_t);
-    if (!real)
-        find(&real, "realloc");
+    REAL(realloc);
     return fails() ? NULL : real(memory, size);
 }
 
@@ -110,9 +112,7 @@ char* strdup(const char* text)
 /* A key is there for each wait that is no wait for the rest of one. */
 int poll(struct pollfd* lines, nfds_t count, int milliseconds)
 {
-    static int (*real)(struct pollfd*, nfds_t, int);
-    if (!real)
-        find(&real, "poll");
+    REAL(poll);
     if (count == 0 || lines->fd != STDIN_FILENO)
         return real(lines, count, milliseconds);
     const int others = real(lines + 1, count - 1, 0);
@@ -123,9 +123,7 @@ int poll(struct pollfd* lines, nfds_t count, int milliseconds)
 
 ssize_t read(int from, void* bytes, size_t most)
 {
-    static ssize_t (*real)(int, void*, size_t);
-    if (!real)
-        find(&real, "read");
+    REAL(read);
     if (from != STDIN_FILENO)
         return real(from, bytes, most);
     arrived = 0;

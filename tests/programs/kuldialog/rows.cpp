@@ -109,7 +109,6 @@ const std::vector<Row> kRows = {
     {kDialog, MENU(""), "tab enter", 1, ""},
     {kOthers, MENU(""), "3 enter", 0, "c d"},
     {kOthers, MENU(""), "right enter", 1, ""},
-    {kOthers, MENU("--no-cancel"), "right enter", 0, "a"},
     {kOthers, MENU("--no-ok"), "tab enter", 0, "a"},
     {kOthers, MENU("--no-hot-list"), "b enter", 0, "a"},
     {kOthers, MENU("--quoted"), "end enter", 0, "\"c d\""},
@@ -174,7 +173,6 @@ const std::vector<Row> kRows = {
     {kOthers, "$D --inputbox x 8 40 i --yesno y 8 40 --inputbox z 8 40 q", "enter tab enter", 1, "i"},
     {kOthers, "$D --inputbox x 8 40 i --and-widget --yesno y 8 40 --and-widget --inputbox z 8 40 q",
      "enter tab enter enter", 0, "i\tq"},
-    {kOthers, "$D --separate-widget : --inputbox x 8 40 i --inputbox y 8 40 q", "enter enter", 0, "i:q"},
     {kOthers,
      "$D --separate-widget '|' --inputbox x 8 40 i --and-widget --separate-widget ! "
      "--inputbox y 8 40 q",
@@ -197,7 +195,6 @@ const std::vector<Row> kRows = {
     {kOwn, "$D --title", "", 255, "?"},
     {kDialog, "$D --title", "", 0, ""},
     {kAll, "$D --msgbox x 8", "", 255, "?"},
-    {kAll, "$D --msgbox x a b", "", 255, "?"},
     {kAll, "$D --msgbox x 0x8 40", "", 255, "?"},
     {kWhiptail, "$D --msgbox x -1 40", "", 1, "?"},
     {kOthers, "$D --msgbox x -1 40", "enter", 0, ""},
