@@ -196,7 +196,10 @@ TEST(Screen, ScrollsAFile)
     ASSERT_TRUE(covered.waitForText("Over"));
     ASSERT_NO_FATAL_FAILURE(press(covered, down));
     ASSERT_NO_FATAL_FAILURE(press(covered, down));
-    EXPECT_TRUE(covered.row(5).starts_with("line 7        ┌────────┐")) << covered.text();
+    EXPECT_TRUE(covered.row(5).starts_with("│line 6       ┌────────┐")) << covered.text();
+    ASSERT_NO_FATAL_FAILURE(press(covered, "\x1b[F"));
+    ASSERT_NO_FATAL_FAILURE(press(covered, up));
+    EXPECT_TRUE(covered.row(19).ends_with("┴")) << "the thumb has left the corner";
 }
 
 // A paste comes whole, over a fast line and one of 9600 baud; its newline is a blank.

@@ -7,7 +7,7 @@
  *   text      the dialog holds a text box in place of the buttons
  *   second    in edition 2
  *   /...      a file is shown on the whole screen, and nothing else
- *   over      but a button that lies over it
+ *   over      but a button that lies over it, and in a frame
  * Enter draws all that is around the dialog again, and writes "drawn".
  */
 #include <kulgui.h>
@@ -56,8 +56,8 @@ static int showFile(const char* name, int over)
     kulgui_create(DESKTOP);
     kulgui_configPrime(DESKTOP, WHITE_BLACK, WHITE_BLACK, WHITE_BLACK, WHITE_BLACK, "", NULL, NULL, NULL, NULL, NULL);
     kulfileview_create(DESKTOP, 1);
-    kulfileview_config(DESKTOP, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, kulgui_getColumns(), kulgui_getRows(), NOBORDER,
-                       name, NULL, NULL, NULL, NULL);
+    kulfileview_config(DESKTOP, 1, KUL_KEEP, KUL_KEEP, KUL_KEEP, 0, 0, kulgui_getColumns(), kulgui_getRows(),
+                       over ? BORDER : NOBORDER, name, NULL, NULL, NULL, NULL);
     if (over)
         addButton(DESKTOP, 2, "Over", NULL);
     return kulgui_exec(DESKTOP);

@@ -130,6 +130,11 @@ TEST_F(FileviewTest, MovesByKeys)
         EXPECT_EQ(text()[0], "line " + std::to_string(nPosition));
     }
     EXPECT_EQ(press({KS_ESC}), -10);
+    // A key that moves nothing shows what a callback has changed.
+    view().onFocus = [] { kulbox_config(1, 9, KUL_KEEP, 0, 0, 2, 2, BORDER); };
+    kulbox_create(1, 9);
+    press({KS_UP});
+    EXPECT_EQ(picture(window(1), 0, 0, 2, 2), (Rows{"┌┐", "└┘"}));
 }
 
 TEST_F(FileviewTest, FindsAndGoesToLines)

@@ -345,6 +345,7 @@ int kulfileview_execKeys(int nChain, int nRef)
         FileView* view = handler.record();
         if (view) // a poll may have moved the view, or the file have grown
             handler.selection.nPosition = percent(*view);
+        auto shown = kul::Changed::Component;
         const auto* move = std::find_if(std::begin(kKeyMoves), std::end(kKeyMoves),
                                         [=](const KeyMove& row) { return row.nKey == nKey; });
         if (nKey == KS_TAB || nKey == KS_ESC) {
@@ -363,13 +364,13 @@ int kulfileview_execKeys(int nChain, int nRef)
             handler.selection.nPosition = percent(*view);
             SetCurrentSelection(&handler.selection);
             if (nMoved == 0 && !changed)
-                continue; // at an end of the file there is nothing to draw
+                shown = kul::Changed::Nothing; // at an end of the file
             if (view->top != before)
                 handler.call(&FileView::onSelect);
         }
         if (const FileView* now = handler.record())
             handler.selection.nPosition = percent(*now);
-        handler.show();
+        handler.show(shown);
     }
     return handler.finish(&FileView::onUnfocus);
 }

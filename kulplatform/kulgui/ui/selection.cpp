@@ -204,14 +204,15 @@ bool isCovered(const GUI& gui)
     return false;
 }
 
-// What lies beside a block that was scrolled, and the rows that came into it.
-bool drawScrolled(CHAIN* chain, const kul::Moved& moved)
+// What lies beside a block that was scrolled, as high as its component, whose scroll bar may be
+// higher than the block; and the rows that came into it.
+bool drawScrolled(CHAIN* chain, const kul::Moved& moved, const kul::Rows& all)
 {
     const auto& [rows, columns] = moved.block;
     const kul::Rows in = moved.nRows > 0 ? kul::Rows{rows.nEnd - moved.nRows, rows.nEnd}
                                          : kul::Rows{rows.nFirst, rows.nFirst - moved.nRows};
-    return (columns.nFirst <= 0 || drawPart(chain, {rows, {0, columns.nFirst}})) &&
-           drawPart(chain, {rows, {columns.nEnd, kul::kAll.nEnd}}) &&
+    return (columns.nFirst <= 0 || drawPart(chain, {all, {0, columns.nFirst}})) &&
+           drawPart(chain, {all, {columns.nEnd, kul::kAll.nEnd}}) &&
            drawPart(chain, {in, kul::kAll});
 }
 
@@ -227,11 +228,14 @@ void kul::drawFocused(Changed changed)
     const bool inParts = drawn.exact != Exact::Never && drawn.nChanges == changes() &&
                          drawn.nChain == defCurrent.nChain &&
                          drawn.win == chain->Pointer->winMain && findChanged(changed, block);
+    if (inParts && changed == Changed::Nothing && drawn.nRef == defCurrent.nUserInterface)
+        return;
     const Moved moved =
         scrollMoved(chain->Pointer->winMain, inParts && drawn.exact == Exact::ByCell &&
                                                  drawn.nRef == defCurrent.nUserInterface &&
                                                  !isCovered(*chain->Pointer));
-    if (!inParts || !(moved.nRows != 0 ? drawScrolled(chain, moved) : drawPart(chain, block)))
+    if (!inParts ||
+        !(moved.nRows != 0 ? drawScrolled(chain, moved, block.rows) : drawPart(chain, block)))
         ShowUIColors();
 }
 

@@ -11,6 +11,7 @@ namespace kul {
 enum class Changed {
     Component, // anything in it
     Selected,  // which of its elements is selected, or what that one shows
+    Nothing,   // by the key: what a program has changed may have to be drawn
 };
 
 // Draws what the component in focus shows now, and the one that had the focus before it. What a
