@@ -241,7 +241,10 @@ TEST_F(TextboxTest, SetsItsText)
         EXPECT_LT(kultextbox_create(1, 7), 0);
         EXPECT_EQ(kultextbox_setLimit(1, kRef, 1000), -1);
         EXPECT_STREQ(kultextbox_getText(1, kRef), "abcd");
-        EXPECT_EQ(config({5, 1}), -1);
+        EXPECT_EQ(kultextbox_config(1, kRef, BLACK_RED, KUL_KEEP, KUL_KEEP, 2, 2, 5, 1, NOBORDER, NOMASK, nullptr,
+                                    nullptr, nullptr, nullptr),
+                  -1);
+        EXPECT_NE(box().nColorFocus, BLACK_RED) << "colours come after the memory";
     }
     EXPECT_EQ(kultextbox_getText(1, kRef), nullptr);
     EXPECT_EQ(kultextbox_setText(1, kRef, "x"), -1);

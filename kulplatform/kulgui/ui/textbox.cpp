@@ -164,13 +164,15 @@ int kultextbox_config(int nChain, int nRef, int nColorFocus, int nColorUnfocus, 
                       const char* szCharSet, KULCALLBACK onFocus, KULCALLBACK onUnfocus,
                       KULCALLBACK onKey)
 {
-    auto* box = kul::resetUI<kul::TextBox>(nChain, nRef, TEXTBOX, nColorFocus, nColorUnfocus,
-                                           nColorDisable);
+    auto* box = kul::resetUI<kul::TextBox>(nChain, nRef, TEXTBOX, KUL_KEEP, KUL_KEEP, KUL_KEEP);
     if (!box)
         return -1;
     box->nBorder = nBorder == BORDER ? BORDER : NOBORDER;
-    if (!makeText(*box, nWidth, nHeight))
+    if (!makeText(*box, nWidth, nHeight)) // which leaves the dialog's colours
         return -1;
+    SetVar(&box->nColorFocus, nColorFocus);
+    SetVar(&box->nColorUnfocus, nColorUnfocus);
+    SetVar(&box->nColorDisable, nColorDisable);
     kul::setBox(*box, nX, nY, nWidth, nHeight, nBorder);
     box->nMask = nMask == MASK ? MASK : NOMASK;
     box->szCharSet = szCharSet;
