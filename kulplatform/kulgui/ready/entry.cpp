@@ -102,7 +102,8 @@ bool mayEnd(Frame& frame, int nButton)
     return true;
 }
 
-void addLine(const Frame& frame, int nLine)
+// False without memory.
+bool addLine(const Frame& frame, int nLine)
 {
     const Form& form = formOf(frame);
     const KULFIELD& field = form.fields[nLine];
@@ -110,16 +111,18 @@ void addLine(const Frame& frame, int nLine)
     const int nRef = BODY + nLine;
     const char* szLabel = field.szLabel ? field.szLabel : "";
     kullabel_create(nChain, ITEM + nLine);
-    kullabel_config(nChain, ITEM + nLine, KUL_KEEP, KUL_KEEP, frame.bodyX(), frame.bodyY(),
-                    form.nLabels + 1, 1, LEFT, NOBORDER, szLabel);
+    const int nLabel = kullabel_config(nChain, ITEM + nLine, KUL_KEEP, KUL_KEEP, frame.bodyX(),
+                                       frame.bodyY(), form.nLabels + 1, 1, LEFT, NOBORDER, szLabel);
     kultextbox_create(nChain, nRef);
     kultextbox_config(nChain, nRef, KUL_KEEP, KUL_KEEP, KUL_KEEP, frame.bodyX() + form.nLabels,
                       frame.bodyY(), std::max(frame.bodyWidth() - form.nLabels, 1), 1, NOBORDER,
                       field.nMask == MASK ? MASK : NOMASK, field.szCharSet, nullptr, nullptr,
                       nullptr);
-    kultextbox_setLimit(nChain, nRef, kul::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
+    const int nLimit =
+        kultextbox_setLimit(nChain, nRef, kul::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
     kultextbox_setText(nChain, nRef, field.szText ? field.szText : "");
     kultextbox_setCheck(nChain, nRef, field.onCheck);
+    return nLabel == 0 && nLimit == 0;
 }
 
 int runForm(Frame& frame, Form& form)
@@ -130,8 +133,10 @@ int runForm(Frame& frame, Form& form)
     if (!frame.open())
         return kulready::kUnusable;
     form.nLabels = std::min(form.nLabels, frame.bodyWidth() / 2);
-    for (int i = 0; i < form.nFields; ++i)
-        addLine(frame, i);
+    for (int i = 0; i < form.nFields; ++i) {
+        if (!addLine(frame, i))
+            return kulready::kUnusable;
+    }
     reveal(frame, 0);
     frame.onKey = moveInForm;
     frame.mayEnd = mayEnd;

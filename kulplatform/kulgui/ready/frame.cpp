@@ -148,9 +148,10 @@ void Frame::setText(const char* szText, bool toEnd)
     area_.show(toEnd);
 }
 
-// The buttons are a menu, which takes one row.
-void Frame::createButtons()
+// The buttons are a menu, which takes one row. False without memory.
+bool Frame::createButtons()
 {
+    bool whole = true;
     kulmenu_create(nChain_, BUTTONS);
     kulmenu_config(nChain_, BUTTONS, KUL_KEEP, KUL_KEEP, KUL_KEEP, nullptr, nullptr, nullptr,
                    nullptr);
@@ -160,13 +161,15 @@ void Frame::createButtons()
         text.add("<");
         text.add(szText);
         text.add(">");
-        kulmenu_addElement(nChain_, BUTTONS, text.text(), 1, nullptr, nullptr);
+        whole = whole && text.isWhole() &&
+                kulmenu_addElement(nChain_, BUTTONS, text.text(), 1, nullptr, nullptr) == 0;
     }
     if (KULMENU* row = buttonRow(nChain_)) {
         row->nX = std::max((nWidth_ - nButtonColumns_) / 2, 1);
         row->nY = nHeight_ - kFrame;
     }
     kulgui_select(nChain_, BUTTONS, kul::clamp(nSelected_, 0, std::max(nButtons_ - 1, 0)));
+    return whole;
 }
 
 bool Frame::open()
@@ -178,7 +181,7 @@ bool Frame::open()
                       nullptr) != 0)
         return false;
     area_.create(nChain_, 1, nTextRows_);
-    return buttons_.isWhole();
+    return title_.isWhole() && buttons_.isWhole() && area_.isWhole();
 }
 
 void Frame::show()
@@ -188,7 +191,8 @@ void Frame::show()
 
 int Frame::run()
 {
-    createButtons();
+    if (!createButtons())
+        return kUnusable;
     // Not found by the active chain: a program's callbacks may change that.
     Frame* outer = std::exchange(running, this);
     kulgui_setOnKey(nChain_, [] { running->handleKey(); });

@@ -93,7 +93,7 @@ private:
     static inline Frame* running = nullptr; // whose dialog runs now, the innermost one
 
     void measure();
-    void createButtons();
+    bool createButtons();
     void enterButtons(int nKey) const;
     int moveInButtons(int nKey);
     void handleKey();
