@@ -1460,8 +1460,9 @@ KULGUI_API int kullabel_create(int nChain, int nRef);
 
 /** Sets a label up; the frame counts in the size. KUL_KEEP takes the dialog's nColorStandard and
  * nColorUnfocus, and BORDER; an alignment stays as it was, CENTER at first. szText is copied, of
- * any length, and wrapped to rows of nWidth - 2 characters, with a frame of nWidth - 4; NULL is no
- * text. Returns KUL_OK, KUL_ERROR for an unknown item or without memory. */
+ * any length, and wrapped to rows of nWidth - 2 characters, with a frame of nWidth - 4: a label is
+ * that much wider than its text, or loses the text's end. NULL is no text. Returns KUL_OK,
+ * KUL_ERROR for an unknown item or without memory. */
 KULGUI_API int kullabel_config(int nChain, int nRef, int nColorSet, int nColorBorder, int nX,
                                int nY, int nWidth, int nHeight, int nAlignment, int nBorder,
                                const char* szText);
