@@ -144,7 +144,7 @@ int Editor::key(int nKey)
         return 0;
     }
     if (nKey != KS_UP && nKey != KS_DOWN && nKey != KS_PAGEUP && nKey != KS_PAGEDOWN) {
-        setLimit(window_, window_.nFocus, kLongestLine, line->szText);
+        setLimit(window_, window_.nFocus, kLongestLine, entered(window_, window_.nFocus));
         return lines_.key(nKey);
     }
     // The cursor goes straight up and down.
