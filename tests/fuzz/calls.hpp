@@ -1,85 +1,78 @@
 // SPDX-License-Identifier: MIT
 //
-// The calls that the interface's target makes. What is exported and not named here gets what there is: the build
-// lists that. Here are the calls that would link or free what they get and so get nothing (N), those that make, set
-// and free a record of a kind (K), and those that need memory of the program's; szKeystrokes is none.
-#ifndef KUL_TESTS_FUZZ_CALLS_HPP
-#define KUL_TESTS_FUZZ_CALLS_HPP
-
-#include "arguments.hpp"
-
-namespace kulfuzz {
-
-// A record that the program has made, of which no dialog knows.
-template <typename Node, typename Record>
-void callForRecord(int (*attach)(Node*), int (*config)(GUI*, Record*), int (*wipe)(Record*))
-{
-    Node node{};
-    if (attach(&node) == 0) {
-        config(argument<GUI*>(), static_cast<Record*>(node.Pointer));
-        wipe(static_cast<Record*>(node.Pointer));
-    }
-    attach(nullptr);
-    config(nullptr, nullptr);
-    wipe(nullptr);
-}
-
-// Lists of elements that the program has made.
-inline void callForElements()
-{
-    KULTOOLBAR bar{};
-    const auto useUp = [](auto* first, auto* second, int (*remove)(decltype(first)), int (*wipe)(decltype(first))) {
-        check(first && second && remove(first) == 0 && wipe(first) == 0);
-    };
-    auto* menu = AddMenuElement(nullptr, number(), text(), nullptr, nullptr);
-    useUp(menu, AddMenuElement(menu, 1, text(), nullptr, nullptr), RemoveMenuElement, WipeMenuElements);
-    auto* box = AddDescrmenuElement(nullptr, number(), text(), text(), nullptr, nullptr);
-    useUp(box, AddDescrmenuElement(box, 1, text(), text(), nullptr, nullptr), RemoveDescrmenuElement,
-          WipeDescrmenuElements);
-    auto* button = AddToolbarButton(&bar, nullptr, number(), text(), nullptr, nullptr);
-    useUp(button, AddToolbarButton(&bar, button, 1, text(), nullptr, nullptr), RemoveToolbarButton, WipeToolbarButtons);
-    auto* checked = AddCheckElement(nullptr, number(), text(), nullptr);
-    useUp(checked, AddCheckElement(checked, 1, text(), nullptr), RemoveCheckElement, WipeCheckElements);
-    auto* option = AddOptionElement(nullptr, number(), text(), nullptr, nullptr);
-    useUp(option, AddOptionElement(option, 1, text(), nullptr, nullptr), RemoveOptionElement, WipeOptionElements);
-}
-
-// What fills memory of the program's.
-inline void callForMemory()
-{
-    constexpr const char* kItems[] = {"one", "two", "three", "", nullptr};
-    char szBuffer[9] = "ab";
-    const auto nSize = static_cast<int>(take() % sizeof szBuffer);
-    int nChecked[5] = {};
-    KULFIELD fields[] = {{"a", szBuffer, sizeof szBuffer, NOMASK, nullptr, refuse}};
-    DLG dialog{newwin(3, 5, 0, 0), newwin(3, 5, 1, 1), nullptr, nullptr, T, ""};
-    GUI own{};
-    const CURRENT current{number(), number(), number(), number(), number(), number()};
-    const CONTROL controls{number(), number(), number(), number()};
-    switch (take() % 12) { // clang-format off
-    case 0: kuldialog_enter(text(), text(), szBuffer, nSize, number()); break;
-    case 1: kuldialog_form(text(), text(), fields, 1); break;
-    case 2: kuldialog_check(text(), text(), kItems, nChecked, 5); break;
-    case 3: kuldialog_choose(text(), text(), kItems, 5, number()); break;
-    case 4: kuldialog_option(text(), text(), kItems, 5, number()); break;
-    case 5: kuldialog_pick(text(), text(), szBuffer, nSize); break;
-    case 6: FillString(szBuffer, nSize, 'a'); CopyStrWithoutEOS(szBuffer, "12345678", nSize); break;
-    case 7: SwapnChar(szBuffer, 'a', '\0', nSize); SwapChar(szBuffer, 'b', 'c'); break;
-    case 8: LoadGUIDefaults(&own); SetVar(&own.nX, number()); break;
-    case 9: SetCurrentSelection(&current); CurrentSelection(&current, number()); break;
-    case 10: SetControls(&controls); Controls(&controls, number()); break;
-    default: ShowDlg(&dialog); HideDlg(&dialog);
-    } // clang-format on
-    KillDlg(&dialog);
-    kulgui_setUser(number(), number(), stdscr);
-}
-
+// The calls that the interface's target makes: C those that get what there is, N those that would link or free
+// what they get and so get nothing, K those that make, set and free a record of a kind.
 // clang-format off
-inline constexpr void (*kCalls[])() = {
-#define C(name) [] { call<name>(name); },
-#define N(name) [] { callWithNothing<name>(name); },
-#define K(attach, config, wipe) [] { callForRecord(attach, config, wipe); },
-#include "exported_calls.hpp"
+    C(kulgui_version) C(kulgui_setEdition) C(kulgui_getEdition) C(kulgui_getColumns) C(kulgui_getRows)
+    C(kulgui_create) C(kulgui_configPrime) C(kulgui_config) C(kulgui_show) C(kulgui_hide) C(kulgui_destroy)
+    C(kulgui_exit) C(kulgui_hasExited) C(kulgui_getExitValue) C(kulgui_update) C(kulgui_leave) C(kulgui_setFocus)
+    C(kulgui_setTabbing) C(kulgui_select) C(kulgui_enable) C(kulgui_getUser) C(kulgui_setOnKey) C(kulgui_getKey)
+    C(kulgui_setKey) C(kulgui_setHotkey) C(kulgui_dropKeys) C(kulgui_setTimer) C(kulgui_stopTimer) C(kulgui_watch)
+    C(kulgui_setDefault) C(kulgui_setCancel) C(kuldialog_tell) C(kuldialog_ask) C(kuldialog_progress)
+    C(kuldialog_advance) C(kuldialog_done) C(kulbutton_create) C(kulokbutton_create) C(kulcancelbutton_create)
+    C(kulexitbutton_create) C(kulbutton_config) C(kulokbutton_config) C(kulcancelbutton_config)
+    C(kulexitbutton_config) C(kulbutton_show) C(kulbutton_hide) C(kulokbutton_show) C(kulokbutton_hide)
+    C(kulcancelbutton_show) C(kulcancelbutton_hide) C(kulexitbutton_show) C(kulexitbutton_hide)
+    C(kulbutton_execKeys) C(kulmenu_create) C(kulmenu_config) C(kulmenu_addElement) C(kulmenu_remElement)
+    C(kulmenu_getElement) C(kulmenu_count) C(kulmenu_show) C(kulmenu_hide) C(kulmenu_execKeys) C(kuldynmenu_create)
+    C(kuldynmenu_config) C(kuldynmenu_addElement) C(kuldynmenu_remElement) C(kuldynmenu_getElement)
+    C(kuldynmenu_show) C(kuldynmenu_hide) C(kuldynmenu_count) C(kuldynmenu_execKeys) C(kuldescrmenu_create)
+    C(kuldescrmenu_config) C(kuldescrmenu_addElement) C(kuldescrmenu_remElement) C(kuldescrmenu_getElement)
+    C(kuldescrmenu_show) C(kuldescrmenu_hide) C(kuldescrmenu_count) C(kuldescrmenu_execKeys) C(kultoolbar_create)
+    C(kultoolbar_config) C(kultoolbar_addButton) C(kultoolbar_addOKButton) C(kultoolbar_addCancelButton)
+    C(kultoolbar_addExitButton) C(kultoolbar_remButton) C(kultoolbar_getButton) C(kultoolbar_show)
+    C(kultoolbar_hide) C(kultoolbar_count) C(kultoolbar_execKeys) C(kulfileview_create) C(kulfileview_config)
+    C(kulfileview_load) C(kulfileview_setFollow) C(kulfileview_find) C(kulfileview_getPosition)
+    C(kulfileview_setPosition) C(kulfileview_show) C(kulfileview_hide) C(kulfileview_execKeys) C(kulcheckbox_create)
+    C(kulcheckbox_config) C(kulcheckbox_addElement) C(kulcheckbox_remElement) C(kulcheckbox_getElement)
+    C(kulcheckbox_setSelect) C(kulcheckbox_getSelect) C(kulcheckbox_getFocus) C(kulcheckbox_show)
+    C(kulcheckbox_hide) C(kulcheckbox_isChecked) C(kulcheckbox_check) C(kulcheckbox_count) C(kulcheckbox_execKeys)
+    C(kuloptions_create) C(kuloptions_config) C(kuloptions_addElement) C(kuloptions_remElement)
+    C(kuloptions_getElement) C(kuloptions_setClicked) C(kuloptions_getClicked) C(kuloptions_getSelected)
+    C(kuloptions_show) C(kuloptions_hide) C(kuloptions_getChosen) C(kuloptions_choose) C(kuloptions_count)
+    C(kuloptions_execKeys) C(kultextbox_create) C(kultextbox_config) C(kultextbox_setText) C(kultextbox_getText)
+    C(kultextbox_setLimit) C(kultextbox_setCheck) C(kultextbox_setCursor) C(kultextbox_show) C(kultextbox_hide)
+    C(kultextbox_execKeys) C(FindChar) C(FindString) C(GetCurrentSelection) C(GetControls) C(ExitUIorGUIorChains)
+    C(SetExitUI) C(SetExitGUI) C(SetExitChain) C(GotoNextUserInterface) C(GotoPreviousUserInterface)
+    C(UIComponentTypeByChain) C(GetCurrentComponentType) C(GetCurrentOptionSelection) C(GetCurrentCheckboxSelection)
+    C(GetCurrentSelectedToolbarButton) C(GetCurrentSelectedMenuElement) C(GetCurrentTextboxData) C(ShowUIColors)
+    C(SetUIVisibility) C(DrawButton) C(kulstatbar_create) C(kulstatbar_config) C(kulstatbar_addElement)
+    C(kulstatbar_setElement) C(kulstatbar_remElement) C(kulstatbar_getElement) C(ReturnStatbarElementText)
+    C(GetStatbarElementByRef) C(GetStatbarElement) C(kulstatbar_show) C(kulstatbar_hide) C(kulscrollbar_create)
+    C(kulprogbar_create) C(kulscrollbar_config) C(kulprogbar_config) C(kulscrollbar_setPosition)
+    C(kulprogbar_setPosition) C(kulscrollbar_setByPercent) C(kulprogbar_setByPercent) C(kulscrollbar_show)
+    C(kulscrollbar_hide) C(kulprogbar_show) C(kulprogbar_hide) C(kuldescrfield_create) C(kuldescrfield_config)
+    C(kuldescrfield_addElement) C(kuldescrfield_setElement) C(kuldescrfield_remElement) C(kuldescrfield_selElement)
+    C(kuldescrfield_update) C(kulbox_create) C(kulline_create) C(kulbox_config) C(kulline_config) C(kulbox_show)
+    C(kulbox_hide) C(kulline_show) C(kulline_hide) C(kulbox_update) C(kulline_update) C(kullabel_create)
+    C(kullabel_config) C(kullabel_setText) C(kullabel_show) C(kullabel_hide) C(kullabel_update) C(SetDIVisibility)
+    C(SetPrimaryChain) C(GetPrimaryChain) C(GetPrimaryFlag) C(GetChain) C(GetFinalChain) C(CountChains)
+    C(GetActiveChain) C(CreateUIComponent) C(CreateDIComponent) C(GetLastUIComponent) C(GetLastDIComponent)
+    C(GetLastUIByGUI) C(GetLastDIByGUI) C(GetUIComponentByRef) C(GetDIComponentByRef) C(CheckUICompExistence)
+    C(CheckDICompExistence) C(ComponentTypeByRef) C(ComponentTypeByChain) C(GetFirstUIComponentInChain)
+    C(InitializeColorSets) C(GetWindowWidth) C(GetWindowHeight) C(ExecPolling) C(DrawBorder) C(DrawHLine)
+    C(DrawVLine) C(DrawThickHLine) C(DrawThickVLine) C(DrawHTeeLine) C(DrawVTeeLine) C(Fill) C(FillReverse)
+    C(WinFill) C(WinFillReverse) C(Offset) C(WrapText) C(NewStrToBox) C(GetWrapTextHeight) C(kulgui_nextLetter)
+    C(ReturnLineStart) C(ReturnLineEnd) C(ReturnEOLPosition) C(ActiveChain) C(SetActiveChain) C(CreateChain)
+    C(CreateGUI) C(PrimaryChain) C(PrimaryFlag) C(SetPrimaryFlag) C(ConfigGUI) C(DlgBox) C(BackgroundDisplay)
+    C(ConfigUIComponent) C(ConfigDIComponent) C(UpdateDIComponent) C(UpdateDisplayComponents)
+    C(ShowDisplayComponents) C(ShowUIComponents) C(ShowUIComponentFocused) C(ShowUIComponentUnfocused)
+    C(BarPosition) C(BarRail) C(BarShow) C(CheckLastCheckElementForSpillover) C(CheckLastOptionElementForSpillover)
+    C(GetTotalCheckElementHeights) C(GetTotalOptionElementHeights) C(SetFirstCheckElement)
+    C(SetFirstCheckElementFromEnd) C(SetFirstOptionElement) C(SetFirstOptionElementFromEnd) C(SetLastCheckElement)
+    C(SetLastOptionElement) C(DrawTextBox) C(TextBoxBackspace) C(TextBoxCharacter) C(TextBoxDelete) C(TextBoxGoDown)
+    C(TextBoxGoEnd) C(TextBoxGoHome) C(TextBoxGoLeft) C(TextBoxGoRight) C(TextBoxGoUp) C(ShowBoxComponent)
+    C(ShowButtonComponent) C(ShowCheckboxComponent) C(ShowDescrfieldComponent) C(ShowDescrmenuComponent)
+    C(ShowDynmenuComponent) C(ShowFileviewComponent) C(ShowLabelComponent) C(ShowLineComponent) C(ShowMenuComponent)
+    C(ShowOptionsComponent) C(ShowProgBarComponent) C(ShowScrollbarComponent) C(ShowStatusBarComponent)
+    C(ShowTextboxComponent) C(ShowThisStatusbarElement) C(ShowToolbarButtonComponent) C(ShowToolbarComponent)
+    C(UpdateBoxComponent) C(UpdateDescrfieldComponent) C(UpdateLabelComponent) C(UpdateLineComponent)
+    C(UpdateProgbarComponent) C(UpdateScrollbarComponent) C(UpdateStatbarComponent) C(ExecCurrentChain)
+    C(ExecOnFunction) C(ExecuteDestroyFunction) C(ExecuteFocusFunction) C(ExecutePollFunction)
+    C(ExecuteUnfocusFunction) C(RunUserInterface) C(GenerateWrapMarks) C(Inkeys) C(Poll) C(NCursesEnv)
+    C(SetupGUIEnvironment) C(EndGUIEnvironment) C(kulgui_suspend) C(kulgui_resume) C(kulgui_destroyAll)
+    C(kulgui_keepScreen) C(kulgui_run) C(kulgui_place) C(kulgui_setOnResize) C(kuldialog_view) C(kuldialog_run)
+    C(kuldialog_setWord)
     N(AddDIComponent) N(AddUIComponent) N(AttachComponentToDI) N(AttachComponentToUI) N(LoadGUIDefaults)
     N(SetControls) N(Controls) N(SetVar) N(KillDlg) N(WipeAllChains) N(WipeChain) N(WipeAllDIComponents)
     N(WipeAllUIComponents) N(kuldialog_enter) N(kuldialog_form) N(kuldialog_check) N(kuldialog_choose)
@@ -103,15 +96,5 @@ inline constexpr void (*kCalls[])() = {
     K(AttachBoxComponentToDI, ConfigBoxComponent, WipeBoxComponent)
     K(AttachLineComponentToDI, ConfigLineComponent, WipeLineComponent)
     K(AttachLabelComponentToDI, ConfigLabelComponent, WipeLabelComponent)
-    callForElements, callForMemory,
-    // New calls come here, and take the last numbers: the others mean what they meant to inputs that are kept.
-    C(kulgui_setMarkerBars)
-};
-// clang-format on
-inline constexpr unsigned kNew = 1;
-inline constexpr unsigned kKnown = std::size(kCalls) - kNew;
-static_assert(kKnown == 397, "a new call is not among the last ones");
-
-} // namespace kulfuzz
-
-#endif
+    C(kulgui_setAsciiLines)
+    // clang-format on
