@@ -106,7 +106,7 @@ TEST_P(Kinds, AreAsIfTheirScreenHadAlwaysHadItsSize)
     for (const auto& [wanted, rows] : {std::pair(80, 24), {20, 5}, {300, 100}, {1, 1}, {60, 18}}) {
         const int columns = fixed > 0 ? fixed : wanted;
         Terminal expected(launch("xterm-256color", columns, rows));
-        ASSERT_TRUE(expected.settle());
+        ASSERT_TRUE(expected.pump(kDeadline) && expected.settle());
         terminal.resize(columns, rows);
         ASSERT_TRUE(terminal.settle());
         EXPECT_EQ(pictureOf(terminal, columns, rows), pictureOf(expected, columns, rows));

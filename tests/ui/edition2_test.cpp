@@ -208,6 +208,10 @@ TEST_F(Edition2Test, ShowsWhereTheUserIs)
     kulgui_show(1);
     EXPECT_EQ(colors(win, 4, 1, 1, 18, {{'.', BLACK_WHITE}, {'f', WHITE_BLUE}}), Rows{".fff.............."});
     kulgui_setMarkerBars(F);
+    kulbutton_config(1, 2, KUL_KEEP, KUL_KEEP, KUL_KEEP, KUL_KEEP, 1, 6, 4, 1, "OK", nullptr, nullptr, nullptr,
+                     nullptr);
+    kulgui_show(1);
+    EXPECT_EQ(picture(win, 7, 1, 1, 4), Rows{">OK<"}) << "the text is kept";
     kulgui_show(0);
     EXPECT_EQ(cellOf(stdscr, 1, 5).pair, WHITE_BLUE) << "the line below the title";
     EXPECT_EQ(kulgui_setEdition(3), -1);

@@ -73,9 +73,11 @@ void markDefault(const GUI& gui, const KULBUTTON& button, bool focused)
     if (button.nVisible != T || button.nWidth < 4)
         return;
     const int nY = shifted(button.nY, 1);
+    // A text that needs the room of the marks has them in the frame.
+    const int nFrame = widthOf(button.szText) > button.nWidth - 4 ? 0 : 1;
     const Attribute color(gui.winMain, focused ? button.nColorFocus : button.nColorUnfocus);
-    hRun(gui.winMain, nY, shifted(button.nX, 1), 1, '>');
-    hRun(gui.winMain, nY, shifted(button.nX, button.nWidth - 2LL), 1, '<');
+    hRun(gui.winMain, nY, shifted(button.nX, nFrame), 1, '>');
+    hRun(gui.winMain, nY, shifted(button.nX, button.nWidth - 1LL - nFrame), 1, '<');
 }
 
 void dropButton(KULBUTTON& button)
