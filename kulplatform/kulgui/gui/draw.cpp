@@ -3,10 +3,7 @@
 // Frames, lines and fills. Everything is made of runs of equal cells, one call of curses each.
 #include "draw.hpp"
 
-#include <climits>
 #include <iterator>
-
-#include "../clamp.hpp"
 
 namespace {
 
@@ -59,11 +56,6 @@ void fillReversed(WINDOW* win, int nY, int nX, int nHeight, int nWidth, int nCol
 } // namespace
 
 namespace kul {
-
-int shifted(int nPlace, long long nDistance)
-{
-    return static_cast<int>(clamp<long long>(nPlace + nDistance, INT_MIN, INT_MAX));
-}
 
 Attribute::Attribute(WINDOW* win, int nColorSet, bool rests) : win_(win)
 {

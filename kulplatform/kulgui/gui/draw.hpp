@@ -10,6 +10,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "../clamp.hpp"
 #include "../kulgui.h"
 #include "columns.hpp"
 #include "find.hpp"
@@ -24,8 +25,10 @@ constexpr int rawAttribute(int nColorSet)
 }
 
 // A place moved by a distance, kept within what an int can hold: any number may come in.
-// Written out at each of its many places it would be a kilobyte.
-[[gnu::noinline]] int shifted(int nPlace, long long nDistance);
+constexpr int shifted(int nPlace, long long nDistance)
+{
+    return static_cast<int>(clamp<long long>(nPlace + nDistance, INT_MIN, INT_MAX));
+}
 
 // Switches a colour set on for a window, and off at the end of the scope. What rests is selected in
 // a component that has not the focus: it is told from its neighbours.
