@@ -7,6 +7,7 @@
 
 #include <climits>
 #include <cstdio>
+#include <tuple>
 #include <type_traits>
 
 #include "memory_line.hpp"
@@ -97,13 +98,14 @@ Type argument()
         const CHAIN* one = chain();
         return one && one->Pointer ? one->Pointer->winMain : nullptr;
     } else if constexpr (std::is_same_v<Bare, UI>) {
-        return GetUIComponentByRef(number(), number());
+        const int nChain = number();
+        return GetUIComponentByRef(nChain, number());
     } else if constexpr (std::is_same_v<Bare, KULSTATELEMENT>) {
         const int nChain = number();
         const auto* bar = record<KULSTATBAR>(nChain, number());
         return bar ? bar->Element : nullptr;
     } else if constexpr (std::is_same_v<Bare, KULTOOLBARBUTTON>) {
-        return kultoolbar_getButton(number(), number(), number());
+        return std::apply(kultoolbar_getButton, std::tuple{number(), number(), number()});
     } else if constexpr (std::is_class_v<Bare>) {
         const int nChain = number();
         return record<Bare>(nChain, number());
@@ -112,10 +114,11 @@ Type argument()
     }
 }
 
+// In braces arguments are read in their order, whichever compiler it is: an input means the same calls.
 template <auto Function, typename Result, typename... Arguments>
 void call(Result (*)(Arguments...))
 {
-    Function(argument<Arguments>()...);
+    std::apply(Function, std::tuple<Arguments...>{argument<Arguments>()...});
 }
 
 // The same without anything that a pointer could lead to.
@@ -131,7 +134,7 @@ Type argumentOrNull()
 template <auto Function, typename Result, typename... Arguments>
 void callWithNothing(Result (*)(Arguments...))
 {
-    Function(argumentOrNull<Arguments>()...);
+    std::apply(Function, std::tuple<Arguments...>{argumentOrNull<Arguments>()...});
 }
 
 } // namespace kulfuzz

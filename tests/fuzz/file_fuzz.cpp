@@ -119,7 +119,8 @@ int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t nBytes)
     kulgui_setEdition(1 + static_cast<int>(take() % 2));
     const int nColumns = 8 + static_cast<int>(take());
     const std::string wanted = takeText(40);
-    const FilePlace place = 4096 * take() + 16 * take();
+    FilePlace place = 4096 * take();
+    place += 16 * take();
     newFile();
     changeFile();
     kulfileview_config(1, 1, 0, 0, 0, 1, 1, 20, 8, nColumns % 2, path().c_str(), nullptr, nullptr, nullptr, nullptr);

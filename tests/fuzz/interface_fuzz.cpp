@@ -31,16 +31,21 @@ void callForElements()
     const auto useUp = [](auto* first, auto* second, int (*remove)(decltype(first)), int (*wipe)(decltype(first))) {
         check(first && second && remove(first) == 0 && wipe(first) == 0);
     };
-    auto* menu = AddMenuElement(nullptr, number(), text(), nullptr, nullptr);
+    int nNumber = number();
+    auto* menu = AddMenuElement(nullptr, nNumber, text(), nullptr, nullptr);
     useUp(menu, AddMenuElement(menu, 1, text(), nullptr, nullptr), RemoveMenuElement, WipeMenuElements);
-    auto* box = AddDescrmenuElement(nullptr, number(), text(), text(), nullptr, nullptr);
-    useUp(box, AddDescrmenuElement(box, 1, text(), text(), nullptr, nullptr), RemoveDescrmenuElement,
-          WipeDescrmenuElements);
-    auto* button = AddToolbarButton(&bar, nullptr, number(), text(), nullptr, nullptr);
+    nNumber = number();
+    auto* box = std::apply(AddDescrmenuElement, std::tuple{nullptr, nNumber, text(), text(), nullptr, nullptr});
+    useUp(box, std::apply(AddDescrmenuElement, std::tuple{box, 1, text(), text(), nullptr, nullptr}),
+          RemoveDescrmenuElement, WipeDescrmenuElements);
+    nNumber = number();
+    auto* button = AddToolbarButton(&bar, nullptr, nNumber, text(), nullptr, nullptr);
     useUp(button, AddToolbarButton(&bar, button, 1, text(), nullptr, nullptr), RemoveToolbarButton, WipeToolbarButtons);
-    auto* checked = AddCheckElement(nullptr, number(), text(), nullptr);
+    nNumber = number();
+    auto* checked = AddCheckElement(nullptr, nNumber, text(), nullptr);
     useUp(checked, AddCheckElement(checked, 1, text(), nullptr), RemoveCheckElement, WipeCheckElements);
-    auto* option = AddOptionElement(nullptr, number(), text(), nullptr, nullptr);
+    nNumber = number();
+    auto* option = AddOptionElement(nullptr, nNumber, text(), nullptr, nullptr);
     useUp(option, AddOptionElement(option, 1, text(), nullptr, nullptr), RemoveOptionElement, WipeOptionElements);
 }
 
@@ -57,11 +62,11 @@ void callForMemory()
     const CURRENT current{number(), number(), number(), number(), number(), number()};
     const CONTROL controls{number(), number(), number(), number()};
     switch (take() % 12) { // clang-format off
-    case 0: kuldialog_enter(text(), text(), szBuffer, nSize, number()); break;
+    case 0: std::apply(kuldialog_enter, std::tuple{text(), text(), szBuffer, nSize, number()}); break;
     case 1: kuldialog_form(text(), text(), fields, 1); break;
     case 2: kuldialog_check(text(), text(), kItems, nChecked, 5); break;
-    case 3: kuldialog_choose(text(), text(), kItems, 5, number()); break;
-    case 4: kuldialog_option(text(), text(), kItems, 5, number()); break;
+    case 3: std::apply(kuldialog_choose, std::tuple{text(), text(), kItems, 5, number()}); break;
+    case 4: std::apply(kuldialog_option, std::tuple{text(), text(), kItems, 5, number()}); break;
     case 5: kuldialog_pick(text(), text(), szBuffer, nSize); break;
     case 6: FillString(szBuffer, nSize, 'a'); CopyStrWithoutEOS(szBuffer, "12345678", nSize); break;
     case 7: SwapnChar(szBuffer, 'a', '\0', nSize); SwapChar(szBuffer, 'b', 'c'); break;
@@ -71,7 +76,7 @@ void callForMemory()
     default: ShowDlg(&dialog); HideDlg(&dialog);
     } // clang-format on
     KillDlg(&dialog);
-    kulgui_setUser(number(), number(), &nDepth);
+    std::apply(kulgui_setUser, std::tuple{number(), number(), &nDepth});
 }
 
 constexpr void (*kCalls[])() = {
@@ -108,7 +113,8 @@ void kulfuzz::callAny()
     if (nDepth >= 6 || isOver())
         return;
     ++nDepth;
-    const unsigned n = take() + 256 * take();
+    unsigned n = take();
+    n += 256 * take();
     const unsigned nLast = (0xffff - n) / 128; // counted from the last number back
     if (n % 8 == 0)
         kulgui_exec(static_cast<int>(n / 8 % 4));
