@@ -311,7 +311,6 @@ SCREEN* openScreen(const char* szTerm, std::FILE* output, std::FILE* input)
         return nullptr;
     }
     setOutput(output);
-    start_color();
     ask();
     settleLines();
     start_color();  // has bytes of its own, which must not come late

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "../clamp.hpp"
-
 namespace kulready {
 
 namespace {
@@ -71,7 +69,7 @@ bool Area::scroll(int nKey)
                                             : 0;
     if (nRows == 0 || last() == 0)
         return false;
-    const int nFirst = kul::clamp(nFirst_ + nRows, 0, last());
+    const int nFirst = std::clamp(nFirst_ + nRows, 0, last());
     if (nFirst != nFirst_) {
         nFirst_ = nFirst;
         show(false);

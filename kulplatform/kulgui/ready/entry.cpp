@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <cstring>
 
-#include "../clamp.hpp"
 #include "frame.hpp"
 
 namespace {
@@ -63,7 +62,7 @@ void reveal(const Frame& frame, int nLine)
 {
     Form& form = formOf(frame);
     const int nHeight = std::max(frame.bodyHeight(), 1);
-    form.nTop = kul::clamp(form.nTop, std::max(nLine - nHeight + 1, 0), nLine);
+    form.nTop = std::clamp(form.nTop, std::max(nLine - nHeight + 1, 0), nLine);
     arrange(frame);
 }
 
@@ -119,7 +118,7 @@ bool addLine(const Frame& frame, int nLine)
                       field.nMask == MASK ? MASK : NOMASK, field.szCharSet, nullptr, nullptr,
                       nullptr);
     const int nLimit =
-        kultextbox_setLimit(nChain, nRef, kul::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
+        kultextbox_setLimit(nChain, nRef, std::clamp(field.nSize, 1, kMostCharacters + 1) - 1);
     kultextbox_setText(nChain, nRef, field.szText ? field.szText : "");
     kultextbox_setCheck(nChain, nRef, field.onCheck);
     return nLabel == 0 && nLimit == 0;
@@ -155,7 +154,7 @@ int runForm(Frame& frame, Form& form)
 int kuldialog_form(const char* szTitle, const char* szText, KULFIELD* Fields, int nFields)
 {
     Form form = {Fields,
-                 Fields ? kul::clamp(nFields, 0, static_cast<int>(kulready::BUTTONS) - BODY) : 0, 0,
+                 Fields ? std::clamp(nFields, 0, static_cast<int>(kulready::BUTTONS) - BODY) : 0, 0,
                  0};
     for (int i = 0; i < form.nFields; ++i) {
         if (Fields[i].szLabel && *Fields[i].szLabel != '\0')

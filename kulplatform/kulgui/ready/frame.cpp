@@ -6,8 +6,6 @@
 #include <cstring>
 #include <utility>
 
-#include "../clamp.hpp"
-
 namespace kulready {
 
 namespace {
@@ -133,10 +131,10 @@ void Frame::measure()
     const long long best = kFrame + 2LL * nRow + nRows + nBoth + nWanted_;
     const int nLeast = kFrame + nRow + nLeast_ + std::min(nRows, 1);
     nHeight_ =
-        static_cast<int>(kul::clamp<long long>(best, nLeast, std::max(nScreenHeight, nLeast)));
+        static_cast<int>(std::clamp<long long>(best, nLeast, std::max(nScreenHeight, nLeast)));
     const int nRoom = nHeight_ - kFrame - nRow;
-    nTextRows_ = kul::clamp(nRoom - std::max(nLeast_, std::min(nWanted_, nRoom / 2)), 0, nRows);
-    nBodyHeight_ = kul::clamp(nRoom - nTextRows_, 0, nWanted_);
+    nTextRows_ = std::clamp(nRoom - std::max(nLeast_, std::min(nWanted_, nRoom / 2)), 0, nRows);
+    nBodyHeight_ = std::clamp(nRoom - nTextRows_, 0, nWanted_);
     const int nLeft = nRoom - nTextRows_ - nBodyHeight_;
     nBodyY_ = 1 + nTextRows_ + (nBoth && nLeft > 0 ? 1 : 0);
 }
@@ -168,7 +166,7 @@ bool Frame::createButtons()
         row->nX = std::max((nWidth_ - nButtonColumns_) / 2, 1);
         row->nY = nHeight_ - kFrame;
     }
-    kulgui_select(nChain_, BUTTONS, kul::clamp(nSelected_, 0, std::max(nButtons_ - 1, 0)));
+    kulgui_select(nChain_, BUTTONS, std::clamp(nSelected_, 0, std::max(nButtons_ - 1, 0)));
     return whole;
 }
 

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <new>
 
-#include "../clamp.hpp"
 #include "frame.hpp"
 
 namespace {
@@ -80,7 +79,7 @@ int kuldialog_advance(int nPercent, const char* szText)
         running->text.swap(text);
         running->frame.setText(running->text.text(), false);
     }
-    setPercent(running->frame, kul::clamp(nPercent, 0, 100));
+    setPercent(running->frame, std::clamp(nPercent, 0, 100));
     running->frame.show();
     return 0;
 }
